@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/ImageButton.h"
+
+/// Tells what the program is, its version, and the size and date of its file.
+class AboutForm : public Form
+{
+public:
+    AboutForm();
+    void CancelKnop_Click();
+
+    QLabel *Image1;
+    Label *Label1;
+    ImageButton *CancelKnop;
+};

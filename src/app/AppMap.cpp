@@ -1,0 +1,36 @@
+#include "app/AppMap.h"
+
+#include "platform/Fout.h"
+
+#include <QDir>
+#include <QDirIterator>
+
+static void Kopieer(const QString &van, const QString &naar)
+{
+    if (!QDir().mkpath(naar))
+        throw Fout(Fout::GeenToegang, naar);
+    QDirIterator lus(van, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
+    while (lus.hasNext()) {
+        const QString pad = lus.next();
+        const QString doel = naar + QLatin1Char('/') + QDir(van).relativeFilePath(pad);
+        const bool gelukt = lus.fileInfo().isDir() ? QDir().mkpath(doel) : QFile::copy(pad, doel);
+        if (!gelukt)
+            throw Fout(Fout::GeenToegang, doel);
+        if (lus.fileInfo().isFile()) // what is installed may be read-only; the copy is the user's
+            QFile::setPermissions(doel, QFile::permissions(doel) | QFile::WriteOwner);
+    }
+}
+
+QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString &gebruiker, const QString &installatie)
+{
+    if (!gevraagd.isEmpty()) {
+        if (!QDir(gevraagd).exists())
+            throw Fout(Fout::BestandNietGevonden, QStringLiteral("de map ") + gevraagd);
+        return QDir(gevraagd).absolutePath();
+    }
+    if (QDir(eigen + QStringLiteral("/Data")).exists())
+        return eigen;
+    if (!QDir(gebruiker).exists())
+        Kopieer(installatie, gebruiker);
+    return gebruiker;
+}

@@ -1,0 +1,110 @@
+#include "app/Opdrachten.h"
+
+#include "app/AboutForm.h"
+#include "app/Opstarten.h"
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "board/NieuwForm.h"
+#include "board/Opvullen.h"
+#include "documents/OpenFile.h"
+#include "documents/SaveForm.h"
+#include "editors/TekstForm.h"
+#include "editors/VakForm.h"
+#include "platform/Berichten.h"
+
+#include "Adressen.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+
+static QString DataBestand(const QString &naam)
+{
+    return AppPath + QStringLiteral("/Data/") + naam;
+}
+
+static void OpenHelp()
+{
+    OpenDocument(DataBestand(QStringLiteral("help.pdf")));
+}
+
+static void Koppel(QAction *item, void (*opdracht)())
+{
+    item->setEnabled(true);
+    Main().bij(item, &QAction::triggered, opdracht);
+}
+
+void VerbindOpdrachten()
+{
+    MainForm &main = Main();
+    Koppel(main.FileNew, Toon<NieuwForm>);
+    Koppel(main.FileOpen, Toon<OpenFile>);
+    Koppel(main.FileSave, Toon<SaveForm>);
+    Koppel(main.FileExit, [] { Main().close(); });
+    Koppel(main.BiebOnlineWoordenboek, [] { OpenDocument(QStringLiteral(ADRES_WOORDENBOEK)); });
+    Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
+    Koppel(main.HelpHelp, OpenHelp);
+    Koppel(main.HelpSpecialeTekens, ToonSpecialeTekens);
+    Koppel(main.HelpMeerSoftware, [] { OpenDocument(QStringLiteral(ADRES_SOFTWARE)); });
+    Koppel(main.HelpMail, HelpMail_Click);
+    Koppel(main.HelpWoordlijstAanmaken, [] { OpenDocument(DataBestand(QStringLiteral("Woordlijst Importeren.pdf"))); });
+    main.bij(&main, &MainForm::VakMenuGekozen, SoortVakTekst_Click);
+    main.bij(main.HelpKnop, &ImageButton::clicked, [] { HelpKnop_Click(); });
+    main.bij(main.AboutKnop, &ImageButton::clicked, [] { AboutKnop_Click(); });
+    main.bij(main.ExitKnop, &ImageButton::clicked, [] { ExitKnop_Click(); });
+    main.MagSluiten = SluitMain;
+}
+
+void SoortVakTekst_Click(int index)
+{
+    switch (index) {
+    case 1:
+        Toon<VakForm>();
+        break;
+    case 2:
+        Toon<TekstForm>();
+        break;
+    case 5:
+        if (MsgBox(QStringLiteral("Wil je alle lege vakjes opvullen met willekeurige letters?"), Knoppen::JaNee,
+                   Icoon::Geen, QStringLiteral("Fill")) == Antwoord::Ja)
+            VulLegeVakjes();
+        break;
+    }
+    Main().Shape1->hide();
+}
+
+void ToolsKlemboard_Click()
+{
+    QGuiApplication::clipboard()->setImage(Main().Pic->Image());
+    MsgBox(QStringLiteral("Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."));
+}
+
+QString MailDoel()
+{
+    return QStringLiteral("mailto:" ADRES_POST "?subject=Rasteratelier V" VERSIE " &body=Hallo Tessel,");
+}
+
+// A shell that has no mail program says nothing, so that no failure is ever seen here.
+void HelpMail_Click()
+{
+    GebruikersNaam = HaalGebruiker();
+    OpenDocument(MailDoel());
+}
+
+void HelpKnop_Click()
+{
+    Main().HelpKnop->Druk();
+    OpenHelp();
+}
+
+void AboutKnop_Click()
+{
+    Main().AboutKnop->Druk();
+    Toon<AboutForm>();
+}
+
+void ExitKnop_Click()
+{
+    Main().ExitKnop->Druk();
+    Wachten(0.2);
+    Main().close();
+}

@@ -1,0 +1,106 @@
+#include "board/Algemeen.h"
+
+#include "platform/Berichten.h"
+#include "platform/Files.h"
+#include "platform/Klok.h"
+
+#include "Adressen.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+quint8 PuzzelType;
+qint32 BoardWidth, BoardHeight;
+qint32 CurCol, CurRow, CurCell;
+QString PuzzelNaam;
+bool PuzzelGewijzigd;
+quint8 PijlSoort;
+quint8 KleurVakjes;
+qint16 OrgineelRood, OrgineelGroen, OrgineelBlauw;
+QString PaginaTekst;
+QString GebruikersNaam;
+QString AppPath;
+std::array<bool, 305> VakZwart;
+
+void BeginWaarden()
+{
+    PijlSoort = 1;
+    BoardWidth = 16;
+    BoardHeight = 19;
+    OrgineelRood = 230;
+    OrgineelGroen = 250;
+    OrgineelBlauw = 190;
+    KleurVakjes = 1;
+    PuzzelType = Zweeds;
+    PaginaTekst = QStringLiteral(ADRES_UITGEVER);
+    CurCol = CurRow = CurCell = 0;
+    PuzzelNaam.clear();
+    PuzzelGewijzigd = false;
+    VakZwart.fill(false);
+}
+
+void OpenDocument(const QString &doel)
+{
+    QDesktopServices::openUrl(QUrl::fromUserInput(doel));
+}
+
+void Wachten(double seconden, QEventLoop::ProcessEventsFlags welke)
+{
+    Klok::Huidig().Wacht(seconden, welke);
+}
+
+QString HaalGebruiker()
+{
+    const QString naam = qEnvironmentVariable("USER");
+    return naam.isEmpty() ? qEnvironmentVariable("USERNAME") : naam;
+}
+
+bool BestandBestaat(const QString &pad)
+{
+    return Files::FileExists(pad);
+}
+
+void ToonSpecialeTekens()
+{
+    MsgBox(QStringLiteral("Bijzondere combinaties\r\n"
+                          "-------------------------\r\n"
+                          "á  = Ctrl-Alt - a / 160\r\n"
+                          "é  = Ctrl-Alt - e / 130\r\n"
+                          "ó  = Ctrl-Alt - o / 162\r\n"
+                          "ä  = Ctrl-Alt - q / 132\r\n"
+                          "ü  = Ctrl-Alt - y / 129\r\n"
+                          "ö  = Ctrl-Alt - p / 148\r\n"
+                          "ú  = Ctrl-Alt - u / 163\r\n"
+                          "µ  = Ctrl-Alt - m / 230\r\n"
+                          "© = Ctrl-Alt - c\r\n"
+                          " ²  = Ctrl-Alt - 2\r\n"
+                          " ³  = Ctrl-Alt - 3\r\n"
+                          "€   = Ctrl-Alt - 5\r\n"
+                          "¼ = Ctrl-Alt - 6 / 172\r\n"
+                          "½ = Ctrl-Alt - 7 / 171\r\n"
+                          "¾ = Ctrl-Alt - 8"));
+}
+
+QString EersteHoofdletter(const QString &tekst)
+{
+    return tekst.left(1).toUpper() + tekst.mid(1).toLower();
+}
+
+QString MetCode(QString woord)
+{
+    return woord.replace(QLatin1String("ij"), QLatin1String("?"));
+}
+
+QString ZonderCode(QString woord)
+{
+    return woord.replace(QLatin1Char('?'), QLatin1String("ij"));
+}
+
+int LetterVerschuiving(const QString &letter)
+{
+    if (letter == QLatin1String("W"))
+        return -45;
+    if (letter == QLatin1String("I"))
+        return 60;
+    return 0;
+}

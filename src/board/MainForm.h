@@ -1,0 +1,102 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/ImageButton.h"
+#include "platform/ListBox.h"
+#include "platform/PictureBox.h"
+#include "platform/Shapes.h"
+
+#include <QAction>
+#include <QComboBox>
+#include <QFrame>
+#include <QMenu>
+#include <QScrollBar>
+#include <QTimer>
+#include <QTreeWidget>
+
+/// The one window that stays open. Its controls hold the puzzle: Pic, PicGroot and ListView1.
+class MainForm : public Form
+{
+    Q_OBJECT
+public:
+    MainForm();
+    ~MainForm() override;
+
+    // The board, in MainFormBord.cpp.
+    void Pic_MouseMove(double x, double y);
+    void Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm);
+
+    // The entry list, in MainFormLijst.cpp.
+    void ListView1_ItemClick();
+    void DelKnop_Click();
+    /// Adds a row at the end. The first row is selected as long as no other is.
+    void VoegRijToe(const QString &vaknummer, const QString &omschrijving, const QString &oplossing, const QString &nr);
+    void VoegRijenToe(const QList<QStringList> &rijen);
+    void WisRijen();
+    /// Shows the number of rows on Label11.
+    void ToonAantal();
+
+    void Timer1_Timer();
+    void ToonSoort();      ///< shows the kind on Label12; a kind that there isn't leaves it alone
+    void ToonSoortDelen(); ///< shows the Sudoku panel and enables the Filippine commands for the kind that has them
+
+    /// Asked when the window is to close; false keeps it open.
+    std::function<bool()> MagSluiten;
+
+    QFrame *Frame1, *Frame2, *Frame3, *Frame4, *Frame5, *Frame6, *Frame7, *Frame8, *Frame9, *Frame10;
+    Label *Label1, *Label2, *Label3, *Label4, *Label5, *Label6, *Label7, *Label8, *Label9, *Label10, *Label11, *Label12,
+        *Label15, *Label16, *Label17, *Label18, *KlokLabel, *CopyLabel;
+    PictureBox *Pic, *PicGroot, *PicVak, *PicR, *PicO, *Vak1, *Vak2;
+    RectMark *Shape1;
+    LineMark *Line1;
+    QTreeWidget *ListView1;
+    ListBox *List1, *List2, *List3;
+    QComboBox *Combo1;
+    QScrollBar *ScrolLengte;
+    ImageButton *DelKnop, *OkKnop, *LoadKnop, *HelpKnop, *AboutKnop, *ExitKnop;
+    QLabel *Image1, *LogoPic;
+    QTimer *Timer1;
+
+    QAction *FileNew, *FileOpen, *FileSave, *FilePrint, *FileExit;
+    QAction *ShowOrgineel;
+    QAction *EditDeleteRaster, *EditDeleteLetters;
+    QAction *BiebOnlineWoordenboek, *BiebInternZoeken, *BiebWoordzoeker, *BiebOntbrekendeLetters, *BiebSpreekwoorden,
+        *BiebChemisch;
+    QAction *ToolsAdd, *ToolsConfig, *ToolsKlemboard, *ToolsKladblok, *ToolsAutoWoordzoeker;
+    QAction *Export1;
+    QAction *HelpHelp, *HelpSpecialeTekens, *HelpMeerSoftware, *HelpMail, *HelpWoordlijstAanmaken;
+    QAction *Spatie, *Bestandsnaam;
+
+    QMenu *SoortPlaatsing; ///< the pop-up of a cell
+    QMenu *SudokuMenu;     ///< the pop-up of a cell of a Sudoku
+    /// The items of SoortPlaatsing by their index, 1..9; separators among them.
+    std::array<QAction *, 10> SoortVakTekst{};
+    std::array<QAction *, 11> SuMe{}; ///< those of SudokuMenu, 0..10
+
+signals:
+    void VakMenuGekozen(int index); ///< the item of SoortPlaatsing that was chosen, by its index
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void reject() override; ///< Escape doesn't close this window
+
+private:
+    void MaakBord();
+    void MaakLijst();
+    void MaakWoordPaneel();
+    void MaakKnoppen();
+    void MaakMenuBalk(); // in MainFormMenu.cpp
+    void MaakPopups();   // in MainFormMenu.cpp
+    void Verbind();
+
+    QFrame *MaakFrame(const char *naam, const QString &leesnaam);
+    PictureBox *MaakVerborgen(const char *naam, const QString &plaatje);
+    void ZwartOmzetten();
+    void NeemRijOp(QTreeWidgetItem *rij);
+};
+
+/// The main window. There is one.
+MainForm &Main();
+
+/// A row of the board as it is shown, from row 0: "01" up to "19".
+QString RijTekst(int rij);

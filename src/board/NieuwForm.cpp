@@ -1,0 +1,165 @@
+#include "board/NieuwForm.h"
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "board/Raster.h"
+#include "board/Soorten.h"
+#include "platform/Berichten.h"
+#include "platform/Getallen.h"
+#include "platform/Kleur.h"
+#include "platform/Plaatjes.h"
+
+static constexpr QRgb Achtergrond = qRgb(190, 230, 230);
+
+NieuwForm::NieuwForm()
+    : Form(QStringLiteral("NieuwForm"), QStringLiteral("Nieuwe puzzel ontwerpen"), 6300, 3720, Achtergrond)
+{
+    Combo1 = Maak<QComboBox>("Combo1", QStringLiteral("Vakjes Horizontaal"), nullptr);
+    Label1 = MaakLabel("Label1", QString());
+    Combo2 = Maak<QComboBox>("Combo2", QStringLiteral("Vakjes Vertikaal"), nullptr);
+    Label2 = MaakLabel("Label2", QString());
+    const QStringList opschriften{QStringLiteral("Zweedse Puzzel"), QStringLiteral("Woordzoeker"),
+                                  QStringLiteral("Kruiswoord Puzzel"), QStringLiteral("Sudoku Puzzel"),
+                                  QStringLiteral("Filippine Puzzel")};
+    for (std::size_t i = 0; i < Option.size(); ++i) {
+        const QString &opschrift = opschriften[static_cast<qsizetype>(i)];
+        Option[i] = Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
+    }
+    Image1 = Maak<QLabel>("Image1", QStringLiteral("Voorbeeld van de soort"), nullptr);
+    Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Naam Puzzel"), nullptr);
+    Label3 = MaakLabel("Label3", QStringLiteral("Naam Puzzel"));
+    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    Plaats();
+    Vul();
+    Verbind();
+}
+
+void NieuwForm::Plaats()
+{
+    Zet(Combo1, 180, 180, 990, 315);
+    Zet(Label1, 1260, 240);
+    Zet(Combo2, 180, 600, 990, 315);
+    Zet(Label2, 1260, 660);
+    int boven = 1110;
+    for (QRadioButton *option : Option) {
+        Zet(option, 540, boven, 2700, 360);
+        boven += 285;
+    }
+    Zet(Image1, 4260, 690, 1800, 1800);
+    Zet(Text1, 180, 2760, 2400, 360);
+    Zet(Label3, 2640, 2835);
+    Zet(CancelKnop, 4080, 2760);
+    Zet(OkKnop, 5070, 2760);
+}
+
+static void VulMaten(QComboBox &combo, int grootste, int nu)
+{
+    for (int maat = 9; maat <= grootste; ++maat)
+        combo.addItem(QString::number(maat));
+    combo.setEditable(true);
+    combo.setInsertPolicy(QComboBox::NoInsert);
+    combo.setCompleter(nullptr);
+    combo.setEditText(QString::number(nu));
+}
+
+void NieuwForm::Vul()
+{
+    VulMaten(*Combo1, 16, BoardWidth);
+    VulMaten(*Combo2, 19, BoardHeight);
+    Combo1_Change();
+    Combo2_Change();
+    const char *previews[] = {"soort-zweeds", "soort-woordzoeker", "soort-kruiswoord", "soort-sudoku", "soort-filippine"};
+    for (std::size_t i = 0; i < Img.size(); ++i)
+        Img[i] = Plaatjes::Pixmap(QLatin1String(previews[i]), Image1->size(), devicePixelRatioF());
+    Option[0]->setChecked(true);
+    Image1->setPixmap(Img[0]);
+    for (QComboBox *combo : {Combo1, Combo2})
+        Kleur(combo, RGB(30, 0, 0), RGB(230, 230, 230));
+    Kleur(Text1, RGB(0, 30, 0), RGB(230, 230, 230));
+    Text1->setFocus();
+}
+
+void NieuwForm::Verbind()
+{
+    bij(Combo1, &QComboBox::editTextChanged, [this] { Combo1_Change(); });
+    bij(Combo2, &QComboBox::editTextChanged, [this] { Combo2_Change(); });
+    for (std::size_t i = 0; i < Option.size(); ++i)
+        bij(Option[i], &QRadioButton::toggled, [this, i](bool aan) {
+            if (aan)
+                Option_Click(static_cast<int>(i));
+        });
+    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
+    bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
+}
+
+void NieuwForm::Combo1_Change()
+{
+    Label1->SetCaption(QStringLiteral("Vakjes Horizontaal (") + Combo1->currentText() + QStringLiteral(")"));
+}
+
+void NieuwForm::Combo2_Change()
+{
+    Label2->SetCaption(QStringLiteral("Vakjes Vertikaal (") + Combo2->currentText() + QStringLiteral(")"));
+}
+
+void NieuwForm::Option_Click(int index)
+{
+    Image1->setPixmap(Img[static_cast<std::size_t>(index)]);
+    const bool vrijeMaat = SoortVan(static_cast<quint8>(index + 1))->VasteBreedte == 0;
+    Combo1->setEnabled(vrijeMaat);
+    Combo2->setEnabled(vrijeMaat);
+}
+
+quint8 NieuwForm::GekozenSoort() const
+{
+    quint8 soort = 1;
+    while (!Option[soort - 1u]->isChecked())
+        ++soort;
+    return soort;
+}
+
+void NieuwForm::CancelKnop_Click()
+{
+    CancelKnop->Druk();
+    Wachten(0.2);
+    Unload();
+}
+
+// What isn't touched, on purpose: PuzzelGewijzigd, VakZwart, the word lists of the panel, CopyLabel.
+void NieuwForm::OkKnop_Click()
+{
+    OkKnop->Druk();
+    Wachten(0.2);
+    if (Text1->text().trimmed().isEmpty()) {
+        MsgBox(QStringLiteral("Naam Puzzel invullen a.u.b. (Alleen letters a..z)"));
+        Text1->setFocus();
+        return;
+    }
+    PuzzelNaam = Text1->text().trimmed().remove(QLatin1Char(' '));
+    Main().Bestandsnaam->setText(PuzzelNaam);
+
+    int breedte = Getallen::NaarInt32(Combo1->currentText());
+    int hoogte = Getallen::NaarInt32(Combo2->currentText());
+    const quint8 type = GekozenSoort();
+    const Soort &soort = *SoortVan(type);
+    if (soort.VasteBreedte > 0) {
+        breedte = soort.VasteBreedte;
+        hoogte = soort.VasteHoogte;
+    }
+    ControleerBord(breedte, hoogte); // a board that cannot be made leaves the puzzle as it stands
+
+    BoardWidth = breedte;
+    BoardHeight = hoogte;
+    PuzzelType = type;
+    Main().ToonSoort();
+    Main().ToonSoortDelen();
+    TekenRaster(BoardWidth, BoardHeight);
+    TekenGroot(BoardWidth, BoardHeight);
+    Main().WisRijen();
+    Main().setWindowTitle(QStringLiteral("Raster Atelier (%1x%2)").arg(BoardWidth).arg(BoardHeight));
+    Main().ToonAantal();
+    Main().Shape1->hide();
+    Main().Line1->hide();
+    Unload();
+}

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/ImageButton.h"
+
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <array>
+
+/// Starts a new design: picks the kind, the size and a name. It doesn't ask about the puzzle that it replaces.
+class NieuwForm : public Form
+{
+public:
+    NieuwForm();
+    void Combo1_Change();
+    void Combo2_Change();
+    void Option_Click(int index);
+    void CancelKnop_Click();
+    void OkKnop_Click();
+
+    QComboBox *Combo1, *Combo2;
+    Label *Label1, *Label2, *Label3;
+    std::array<QRadioButton *, 5> Option; ///< Option1 to Option5, in the order of the kinds
+    QLabel *Image1;
+    std::array<QPixmap, 5> Img; ///< the previews, in the order of the options
+    QLineEdit *Text1;
+    ImageButton *CancelKnop, *OkKnop;
+
+private:
+    void Plaats();
+    void Vul();
+    void Verbind();
+    quint8 GekozenSoort() const;
+};

@@ -1,0 +1,91 @@
+#include "board/Raster.h"
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "platform/Kleur.h"
+#include "platform/Twips.h"
+
+// Outer sizes of the boards, in twips, as numbers that cannot overflow.
+static double PicMaat(int vakjes)
+{
+    return double{VakMaat} * vakjes + 15;
+}
+
+static double GrootMaat(int vakjes)
+{
+    return double{VakMaatGroot} * vakjes + 45;
+}
+
+void ControleerBord(int breedte, int hoogte)
+{
+    PictureBox::ControleerMaat(PicMaat(breedte), PicMaat(hoogte));
+    PictureBox::ControleerMaat(GrootMaat(breedte), GrootMaat(hoogte));
+}
+
+static void Banden(PictureBox &pic, int van1, int tot1, int van2, int tot2, QRgb kleur)
+{
+    pic.BoxFull(van1, 0, tot1, pic.Height(), kleur);
+    pic.BoxFull(van2, 0, tot2, pic.Height(), kleur);
+    pic.BoxFull(0, van1, pic.Width(), tot1, kleur);
+    pic.BoxFull(0, van2, pic.Width(), tot2, kleur);
+}
+
+// The strips are not cleared: what a larger earlier board left there is only hidden by their size. Wanted so.
+static void Linialen(int breedte, int hoogte)
+{
+    MainForm &main = Main();
+    const double plaatBreedte = PicMaat(breedte) + 195;
+    const double plaatHoogte = PicMaat(hoogte) + 195;
+
+    main.PicR->move(Twips::NaarPixels(plaatBreedte + 195), main.PicR->y());
+    main.PicR->SetSize(main.PicR->Width(), plaatHoogte);
+    for (int i = 1; i <= hoogte; ++i) {
+        main.PicR->CurrentX = 90;
+        main.PicR->CurrentY = 210 + (i - 1) * VakMaat;
+        main.PicR->Print(RijTekst(i - 1));
+    }
+
+    main.PicO->move(main.PicO->x(), Twips::NaarPixels(plaatHoogte + 795));
+    main.PicO->SetSize(plaatBreedte, main.PicO->Height());
+    for (int i = 1; i <= breedte; ++i) {
+        main.PicO->CurrentX = 255 + (i - 1) * VakMaat;
+        main.PicO->CurrentY = 30;
+        main.PicO->Print(QString(QChar(64 + i)));
+    }
+    main.Label1->resize(Twips::NaarPixels(plaatBreedte), Twips::NaarPixels(plaatHoogte));
+    main.Frame8->resize(Twips::NaarPixels(plaatBreedte), main.Frame8->height());
+}
+
+void TekenRaster(int breedte, int hoogte)
+{
+    ControleerBord(breedte, hoogte);
+    PictureBox &pic = *Main().Pic;
+    const QRgb lijn = RGB(150, 150, 150);
+
+    pic.SetPicture({});
+    pic.SetSize(PicMaat(breedte), PicMaat(hoogte));
+    for (double x = 0; x <= pic.Width(); x += VakMaat)
+        pic.Line(x, 0, x, pic.Height(), lijn);
+    for (double y = 0; y <= pic.Height(); y += VakMaat)
+        pic.Line(0, y, pic.Width(), y, lijn);
+    if (PuzzelType == Sudoku)
+        Banden(pic, 1335, 1365, 2685, 2715, lijn);
+    Linialen(breedte, hoogte);
+}
+
+void TekenGroot(int breedte, int hoogte)
+{
+    constexpr int TileSize = 1845;
+    ControleerBord(breedte, hoogte);
+    PictureBox &pic = *Main().PicGroot;
+    const QImage tegel = Main().PicVak->Image();
+
+    pic.Cls();
+    pic.SetSize(GrootMaat(breedte), GrootMaat(hoogte));
+    for (int kolom = 0; kolom < breedte; ++kolom)
+        for (int rij = 0; rij < hoogte; ++rij)
+            pic.PaintPicture(tegel, kolom * VakMaatGroot, rij * VakMaatGroot, TileSize, TileSize, 0, 0,
+                             PlakWijze::Kopie);
+    if (PuzzelType == Sudoku)
+        Banden(pic, 5355, 5490, 10755, 10890, RGB(0, 0, 0));
+}

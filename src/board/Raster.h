@@ -1,0 +1,16 @@
+#pragma once
+
+/// Checks that both boards can be as large as this many cells. Raises Fout::OngeldigeWaarde or Fout::GeheugenVol.
+void ControleerBord(int breedte, int hoogte);
+
+/// Draws the visible board from nothing: grid, rulers, plate.
+void TekenRaster(int breedte, int hoogte);
+
+/// Draws the large board from nothing.
+///
+/// Each tile is 1845 wide on a pitch of 1800: the frames of neighbours overlap by 45.
+///
+///     0    45              1800 1845
+///     +----+----------------+----+
+///     |####|     white      |####|  <- also the left frame of the next tile
+void TekenGroot(int breedte, int hoogte);

@@ -1,0 +1,131 @@
+#include "documents/OpenFile.h"
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "board/Raster.h"
+#include "documents/PuzzelBestand.h"
+#include "platform/Berichten.h"
+#include "platform/Files.h"
+#include "platform/Kleur.h"
+#include "platform/Plaatjes.h"
+
+static QString PuzzelMap()
+{
+    return Files::Pad(AppPath, {QStringLiteral("Puzzels")});
+}
+
+OpenFile::OpenFile()
+    : Form(QStringLiteral("OpenFile"), QStringLiteral("Puzzel openen"), 5160, 4395, qRgb(190, 240, 240))
+{
+    List1 = Maak<ListBox>("List1", QStringLiteral("Puzzels"), nullptr);
+    Image1 = Maak<QLabel>("Image1", QString(), nullptr);
+    Label2 = MaakLabel("Label2", QStringLiteral("Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."));
+    DelKnop = Maak<ImageButton>("DelKnop", QStringLiteral("Puzzel verwijderen"), nullptr, QStringLiteral("knop-wissen"));
+    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+
+    Zet(List1, 180, 180, 2400, 2940);
+    Zet(Image1, 3300, 1800, 1440, 1440);
+    Zet(Label2, 2700, 180, 2100, 2100);
+    Zet(DelKnop, 180, 3390, 960, 360);
+    Zet(CancelKnop, 2910, 3390);
+    Zet(OkKnop, 3915, 3390);
+
+    Kleur(List1, RGB(30, 0, 0), RGB(250, 250, 250));
+    Image1->setPixmap(Plaatjes::Pixmap(QStringLiteral("map-open"), Image1->size(), devicePixelRatioF()));
+    Label2->setWordWrap(true);
+    Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    DelKnop->setToolTip(QStringLiteral(" Puzzel verwijderen "));
+    DelKnop->setEnabled(false);
+    QStringList namen = Files::Lijst(PuzzelMap(), QStringLiteral("*.lst"));
+    for (QString &naam : namen)
+        naam.chop(4);
+    List1->SetItems(namen);
+    List1->setFocus();
+
+    bij(List1, &ListBox::Click, [this] { List1_Click(); });
+    bij(List1, &ListBox::DblClick, [this] { List1_DblClick(); });
+    bij(DelKnop, &ImageButton::clicked, [this] { DelKnop_Click(); });
+    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
+    bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
+}
+
+// The name changes at once, before anything is opened, and stays so when the dialog is cancelled; wanted so.
+void OpenFile::List1_Click()
+{
+    PuzzelNaam = List1->Text();
+    DelKnop->setEnabled(true);
+}
+
+void OpenFile::List1_DblClick()
+{
+    OkKnop_Click();
+}
+
+void OpenFile::CancelKnop_Click()
+{
+    CancelKnop->Druk();
+    Unload();
+}
+
+void OpenFile::OkKnop_Click()
+{
+    OkKnop->Druk();
+    if (List1->ListCount() == 0)
+        return;
+    PuzzelNaam = List1->Text();
+    if (PuzzelNaam.isEmpty())
+        return;
+    LoadPuzzel(PuzzelNaam);
+    TekenRaster(BoardWidth, BoardHeight);
+    TekenGroot(BoardWidth, BoardHeight);
+    ToonPuzzel();
+    Unload();
+}
+
+void OpenFile::LoadPuzzel(const QString &Naam)
+{
+    PuzzelLijst lijst;
+    negeer([&] { lijst = LeesPuzzelLijst(Files::Lees(Files::Pad(PuzzelMap(), {Naam + QStringLiteral(".lst")}))); });
+    const qint32 breedte = lijst.Breedte.value_or(BoardWidth);
+    const qint32 hoogte = lijst.Hoogte.value_or(BoardHeight);
+    ControleerBord(breedte, hoogte);
+
+    PuzzelType = lijst.Soort.value_or(PuzzelType);
+    BoardWidth = breedte;
+    BoardHeight = hoogte;
+    Main().WisRijen();
+    Main().VoegRijenToe(lijst.Rijen);
+    if (lijst.Heel)
+        Main().ToonSoort();
+}
+
+void OpenFile::ToonPuzzel()
+{
+    const auto laad = [](PictureBox &pic, const QString &bestand) {
+        negeer([&] { pic.SetPicture(Files::LoadPicture(Files::Pad(PuzzelMap(), {PuzzelNaam + bestand}))); });
+    };
+    laad(*Main().Pic, QStringLiteral("1.bmp"));
+    laad(*Main().PicGroot, QStringLiteral("2.bmp"));
+    // The word stays "Zweedse" for all kinds.
+    Main().setWindowTitle(QStringLiteral("Zweedse Raster Atelier (%1x%2)").arg(BoardWidth).arg(BoardHeight));
+    Main().ToonSoortDelen();
+    Main().ToonAantal();
+    Main().Bestandsnaam->setText(PuzzelNaam);
+    Main().Line1->hide();
+    Main().Shape1->hide();
+}
+
+void OpenFile::DelKnop_Click()
+{
+    DelKnop->Druk();
+    const QString naam = List1->Text();
+    if (naam.isEmpty())
+        return;
+    if (MsgBox(QStringLiteral("Wilt je deze puzzel '") + naam + QStringLiteral("' verwijderen?"), Knoppen::JaNee,
+               Icoon::Geen, QStringLiteral("Delete")) != Antwoord::Ja)
+        return;
+    for (const char *deel : {".lst", "1.bmp", "2.bmp"})
+        negeer([&] { Files::Kill(Files::Pad(PuzzelMap(), {naam + QLatin1String(deel)})); });
+    List1->RemoveItem(List1->ListIndex());
+}

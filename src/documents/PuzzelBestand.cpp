@@ -1,0 +1,37 @@
+#include "documents/PuzzelBestand.h"
+
+#include "platform/Files.h"
+
+static const QString Banner = QStringLiteral("Tessel Hoeksma Software ® 2018");
+static const QString Streep(28, QLatin1Char('-'));
+
+PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud)
+{
+    PuzzelLijst lijst;
+    Files::VeldLezer lezer(inhoud);
+    lijst.Heel = negeer([&] {
+        lezer.Tekst();
+        lijst.Soort = lezer.Byte();
+        lijst.Breedte = lezer.Int32();
+        lijst.Hoogte = lezer.Int32();
+        lezer.Tekst();
+        while (!lezer.Einde()) {
+            QStringList rij;
+            for (int i = 0; i < 4; ++i)
+                rij += lezer.Tekst();
+            if (!rij[0].trimmed().isEmpty())
+                lijst.Rijen += rij;
+            lezer.Tekst();
+        }
+    });
+    return lijst;
+}
+
+QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const QList<QStringList> &rijen)
+{
+    QStringList regels{Banner, QString::number(soort), QString::number(breedte), QString::number(hoogte), Streep};
+    for (const QStringList &rij : rijen)
+        regels += QStringList{rij[0].trimmed(), rij[1], rij[2], rij[3], Streep};
+    const QString einde = QStringLiteral("\r\n");
+    return Files::NaarBytes(regels.join(einde) + einde);
+}

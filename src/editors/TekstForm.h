@@ -1,0 +1,47 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/ImageButton.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QRadioButton>
+
+#include <array>
+
+/// Writes one solution word on the board, a letter a cell from the current cell on, and adds its row to the entry list.
+class TekstForm : public Form
+{
+public:
+    TekstForm();
+    void Option_Click(int index);
+    void Text2_Change();
+    void CopyKnop_Click();
+    void CancelKnop_Click();
+    void OkKnop_Click();
+
+    /// Adds the row of a word to the entry list.
+    /// @param Richting "H", "V", "R" or "L"
+    void VoegRegelToe(const QString &Richting, const QString &Omschrijving, const QString &Oplossing, qint32 Nummer);
+
+    QLineEdit *Text1, *Text2;
+    Label *Label1, *Label2, *Label3;
+    std::array<QRadioButton *, 4> Option; ///< Option1 to Option4: H, V, R, L
+    std::array<QPixmap, 4> Img;           ///< the pictures of the directions
+    QLabel *Image1;
+    QCheckBox *Check1;
+    QComboBox *Combo1;
+    ImageButton *CopyKnop, *CancelKnop, *OkKnop;
+
+private:
+    void Plaats();
+    void Vul();
+    void Verbind();
+    bool IsCompleet();
+    std::size_t Richting() const;
+    void DrukNummer() const;
+    void DrukLetters(const QString &woord) const;
+};
+
+extern QString LaatsteOplossing; ///< the word of the last placement

@@ -1,0 +1,190 @@
+#include "editors/VakForm.h"
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "board/TekstRegels.h"
+#include "editors/VakSoorten.h"
+#include "platform/Getallen.h"
+#include "platform/Kleur.h"
+#include "platform/Plaatjes.h"
+#include "platform/Twips.h"
+
+static constexpr QRgb Achtergrond = qRgb(230, 250, 190);
+
+VakForm::VakForm()
+    : Form(QStringLiteral("VakForm"), QStringLiteral("Informatievakje Plaatsen op ") + Main().Label6->Caption(), 6900,
+           3480, Achtergrond)
+{
+    Pic = Maak<PictureBox>("Pic", QStringLiteral("Voorbeeld van het vakje"), nullptr);
+    Label3 = MaakLabel("Label3", QString(), Pic);
+    ImgR = Maak<PictureBox>("ImgR", QStringLiteral("Pijl naar rechts"), nullptr);
+    ImgO = Maak<PictureBox>("ImgO", QStringLiteral("Pijl omlaag"), nullptr);
+    Text1 = Maak<TextBox>("Text1", QStringLiteral("Omschrijving"), nullptr);
+    Label1 = MaakLabel("Label1", QStringLiteral("Omschrijving"));
+    Label2 = MaakLabel("Label2", QStringLiteral("1"));
+    Label5 = MaakLabel("Label5", QStringLiteral("Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, "
+                                                "typ dan de omschrijving in de tekstvelden en klik daarna op de button "
+                                                "'Ok' om het infovakje op het puzzelveld te plaatsen."));
+    Label6 = MaakLabel("Label6", QString());
+    HScroll1 = Maak<QScrollBar>("HScroll1", QStringLiteral("Soort Vakje"), nullptr, Qt::Horizontal);
+    Label7 = MaakLabel("Label7", QStringLiteral("Soort Vakje"));
+    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    TextLabel = MaakLabel("TextLabel", QString());
+    Plaats();
+    Vul();
+    VakjeTonen(1);
+    bij(HScroll1, &QScrollBar::valueChanged, [this] { HScroll1_Change(); });
+    bij(Text1, &TextBox::textChanged, [this] { Text1_Change(); });
+    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
+    bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
+}
+
+void VakForm::Plaats()
+{
+    Zet(Pic, 240, 240, 1845, 1845);
+    Zet(Label3, 45, 45, 1755, 1755);
+    Zet(ImgR, 2085, 960, PijlMaat, PijlMaat);
+    Zet(ImgO, 960, 2085, PijlMaat, PijlMaat);
+    Zet(Text1, 2700, 240, 1845, 1845);
+    Zet(Label1, 2730, 2100);
+    Zet(Label2, 2280, 1500);
+    Zet(Label5, 4770, 270, 1800, 1800);
+    Zet(Label6, 240, 2490, 1860, 330);
+    Zet(HScroll1, 270, 2520, 1800, 270);
+    Zet(Label7, 2160, 2535);
+    Zet(CancelKnop, 4590, 2430);
+    Zet(OkKnop, 5595, 2430);
+}
+
+void VakForm::Vul()
+{
+    Image1 = Plaatjes::Beeld(QStringLiteral("vak"));
+    BackPijlen1 = BackPijlen2 = Plaatjes::Beeld(QStringLiteral("pijlen"));
+    Pic->FontName = QStringLiteral("Arial Narrow");
+    Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
+    Label3->setWordWrap(true);
+    Label3->SetFont(Lettertype(QStringLiteral("Arial"), 8.25, true));
+    ImgR->BackColor = ImgO->BackColor = Achtergrond;
+    Text1->setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+    Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
+    Label2->SetFont(Lettertype(QStringLiteral("Arial"), 8.25, true));
+    Label5->setWordWrap(true);
+    Label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    Label6->SetBackColor(RGB(150, 180, 180));
+    HScroll1->setRange(1, 8);
+    HScroll1->setPageStep(1);
+    TextLabel->SetFont(Lettertype(QStringLiteral("Arial"), 13, true));
+    TextLabel->hide(); // its only use is to measure a line
+    Text1->setFocus();
+    PijlSoort = 1;
+}
+
+void VakForm::HScroll1_Change()
+{
+    VakjeTonen(static_cast<qint16>(HScroll1->value()));
+}
+
+void VakForm::VakjeTonen(qint16 soort)
+{
+    ImgR->hide();
+    ImgO->hide();
+    Pic->SetPicture(Image1); // wipes the divider of an earlier kind
+    Text1->SetText(QString());
+    Label3->SetCaption(QString());
+
+    if (const VakSoort *vak = VakSoortVan(soort)) {
+        if (vak->Gesplitst())
+            Pic->BoxFull(0, 885, 1845, 915, RGB(0, 0, 0));
+        const auto toon = [this](PictureBox &box, const PijlPlaats &pijl) {
+            box.PaintPicture(BackPijlen2, 0, 0, PijlMaat, PijlMaat, static_cast<int>(pijl.Tekening), 0, PlakWijze::Kopie);
+            box.show();
+        };
+        if (vak->Rechts) {
+            ImgR->move(ImgR->x(), Twips::NaarPixels(vak->Rechts->Voorbeeld));
+            toon(*ImgR, *vak->Rechts);
+        }
+        if (vak->Omlaag) {
+            ImgO->move(Twips::NaarPixels(vak->Omlaag->Voorbeeld), ImgO->y());
+            toon(*ImgO, *vak->Omlaag);
+        }
+    }
+    Label2->SetCaption(QString::number(soort));
+    PijlSoort = static_cast<quint8>(soort);
+}
+
+void VakForm::Text1_Change()
+{
+    Label3->SetFont(Lettertype(QStringLiteral("Arial"), 12, true));
+    Label3->SetCaption(Text1->toPlainText());
+    QStringList regels;
+    Label1->SetCaption(QStringLiteral("Regel %1").arg(TekstRegels(*Text1, regels)));
+}
+
+void VakForm::CancelKnop_Click()
+{
+    CancelKnop->Druk();
+    Unload();
+}
+
+// ANDed with what is there, so that the arrows lie over the neighbouring cells without wiping them.
+void VakForm::PlakTegel()
+{
+    constexpr int TileSize = 645;
+    static const std::array<QLatin1String, 3> Kleuren{QLatin1String("#e5f8c2"), QLatin1String("#c0e5e0"),
+                                                      QLatin1String("#f49a95")};
+    const int tegel = (Label2->Caption().toInt() - 1) * TileSize;
+    if (KleurVakjes < 1 || KleurVakjes > Kleuren.size())
+        return;
+    const QImage vakjes = Plaatjes::Beeld(QStringLiteral("vakjes"), Kleuren[0], Kleuren[KleurVakjes - 1u]);
+    Main().Pic->PaintPicture(vakjes, CurCol * VakMaat, CurRow * VakMaat, TileSize, TileSize, tegel, 0, PlakWijze::En);
+}
+
+void VakForm::PlakPijlen(int x0, int y0)
+{
+    const VakSoort *vak = VakSoortVan(PijlSoort);
+    if (!vak)
+        return;
+    for (const auto &pijl : {vak->Rechts, vak->Omlaag})
+        if (pijl)
+            Main().PicGroot->PaintPicture(BackPijlen1, x0 + pijl->X, y0 + pijl->Y, PijlMaat, PijlMaat,
+                                          static_cast<int>(pijl->Tekening), 0, PlakWijze::Kopie);
+    if (vak->Gesplitst())
+        Main().PicGroot->BoxFull(x0, y0 + 870, x0 + 1770, y0 + 900, RGB(0, 0, 0));
+}
+
+void VakForm::OkKnop_Click()
+{
+    OkKnop->Druk();
+    const int x0 = CurCol * VakMaatGroot + 45;
+    qint32 y0 = CurRow * VakMaatGroot + 45;
+    const QRgb kleur = RGB(OrgineelRood, OrgineelGroen, OrgineelBlauw); // may fail: before anything is painted
+    PlakTegel();
+    PictureBox &groot = *Main().PicGroot;
+    groot.BoxFull(x0, y0, x0 + 1740, y0 + 1740, kleur);
+    PlakPijlen(x0, y0);
+    groot.FontSize = 13;
+    groot.FontBold = true;
+    groot.FontName = QStringLiteral("Arial Narrow");
+    groot.ForeColor = RGB(0, 0, 0);
+    TekstPlaatsen(groot, x0, y0);
+    PuzzelGewijzigd = true;
+    Unload();
+}
+
+void VakForm::TekstPlaatsen(PictureBox &doel, double X, qint32 &Y)
+{
+    QStringList regels;
+    const int n = TekstRegels(*Text1, regels);
+    if (PijlSoort > 4 && n > 4)
+        Y -= 150;
+    for (int i = 0; i <= n; ++i) {
+        TextLabel->SetCaption(regels[i].toUpper());
+        const double w = Twips::VanPixels(TextLabel->width());
+        // The width is that of Arial, the print is Arial Narrow: the 75 goes with that difference.
+        doel.CurrentX = X + static_cast<double>(Getallen::RondEven((1800 - w) / 2)) + 75;
+        doel.CurrentY = Y;
+        doel.Print(TextLabel->Caption());
+        Y += 300;
+    }
+}

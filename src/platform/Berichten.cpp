@@ -1,0 +1,50 @@
+#include "platform/Berichten.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+static Berichten *vervanger = nullptr;
+
+Berichten::~Berichten() = default;
+
+Berichten &Berichten::Huidig()
+{
+    static Berichten echte;
+    return vervanger ? *vervanger : echte;
+}
+
+void Berichten::Gebruik(Berichten *berichten)
+{
+    vervanger = berichten;
+}
+
+Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
+{
+    QMessageBox box(QApplication::activeWindow());
+    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setWindowTitle(titel);
+    box.setTextFormat(Qt::PlainText);
+    box.setText(tekst);
+    if (icoon == Icoon::Kritiek)
+        box.setIcon(QMessageBox::Critical);
+    else if (knoppen == Knoppen::JaNee)
+        box.setIcon(QMessageBox::Question);
+    if (knoppen == Knoppen::Ok) {
+        box.setDefaultButton(box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole));
+        box.exec();
+        return Antwoord::Ok;
+    }
+    QPushButton *ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
+    QPushButton *nee = box.addButton(QStringLiteral("&Nee"), QMessageBox::NoRole);
+    box.setDefaultButton(ja);
+    box.setEscapeButton(nee);
+    box.exec();
+    return box.clickedButton() == ja ? Antwoord::Ja : Antwoord::Nee;
+}
+
+Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
+{
+    constexpr int MostCharacters = 1024;
+    return Berichten::Huidig().Vraag(tekst.left(MostCharacters), knoppen, icoon, titel);
+}

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QString>
+
+enum class Knoppen { Ok, JaNee };
+enum class Antwoord { Ok, Ja, Nee };
+enum class Icoon { Geen, Kritiek };
+
+/// Message boxes with Dutch buttons. One object is in use at a time; tests put their own in its place.
+class Berichten
+{
+public:
+    virtual ~Berichten();
+    virtual Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel);
+
+    static Berichten &Huidig();
+    /// Puts other messages in use, nullptr the real ones. The caller keeps them alive.
+    static void Gebruik(Berichten *berichten);
+};
+
+/// Shows a message box and waits for its answer; closing a Yes/No box without an answer is a No. At most 1024 characters
+/// of the text are shown.
+Antwoord MsgBox(const QString &tekst, Knoppen knoppen = Knoppen::Ok, Icoon icoon = Icoon::Geen,
+                const QString &titel = QStringLiteral("Rasteratelier"));

@@ -1,0 +1,74 @@
+#include "platform/Canvas.h"
+
+#include "platform/Getallen.h"
+#include "platform/Twips.h"
+
+#include <QFontMetricsF>
+#include <QImage>
+#include <QPainter>
+
+QFont Lettertype(const QString &naam, double punten, bool vet)
+{
+    static const struct {
+        QLatin1String naam, familie;
+    } Families[] = {
+        {QLatin1String("Arial"), QLatin1String("Liberation Sans")},
+        {QLatin1String("Arial Narrow"), QLatin1String("Liberation Sans Narrow")},
+        {QLatin1String("Courier New"), QLatin1String("Liberation Mono")},
+    };
+    QFont font;
+    font.setFamilies({naam});
+    for (const auto &rij : Families)
+        if (naam == rij.naam)
+            font.setFamilies({rij.familie, naam});
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(punten * 96 / 72))));
+    font.setBold(vet);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    return font;
+}
+
+Canvas::~Canvas() = default;
+
+int Canvas::Pixels(double afstand) const
+{
+    return static_cast<int>(std::lround(afstand / EenheidPerPixel()));
+}
+
+void Canvas::Print(const QString &tekst)
+{
+    const QFont font = Font();
+    const QFontMetricsF maten(font);
+    const QPointF basislijn(Pixels(CurrentX), Pixels(CurrentY) + std::round(maten.ascent()));
+    MetPainter([&](QPainter &painter) {
+        painter.setFont(font);
+        painter.setPen(QColor(ForeColor));
+        painter.drawText(basislijn, tekst);
+    });
+    CurrentX = 0;
+    CurrentY += TextHeight(tekst);
+}
+
+void Canvas::Print(int getal)
+{
+    Print(Getallen::MetTeken(getal));
+}
+
+void Canvas::PaintPicture(const QImage &bron, double x, double y, double breedte, double hoogte, double bronX,
+                          double bronY, PlakWijze wijze)
+{
+    const QRect deel(Twips::NaarPixels(bronX), Twips::NaarPixels(bronY), Twips::NaarPixels(breedte),
+                     Twips::NaarPixels(hoogte));
+    Plak(bron, deel, QPoint(Pixels(x), Pixels(y)), wijze);
+}
+
+double Canvas::TextWidth(const QString &tekst) const
+{
+    return QFontMetricsF(Font()).horizontalAdvance(tekst) * EenheidPerPixel();
+}
+
+double Canvas::TextHeight(const QString &tekst) const
+{
+    const QFontMetricsF maten(Font());
+    return std::round(maten.ascent() + maten.descent()) * EenheidPerPixel() * static_cast<double>(tekst.count(u'\n') + 1);
+}

@@ -1,0 +1,108 @@
+#include "platform/Form.h"
+
+#include "platform/Berichten.h"
+#include "platform/Twips.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QMenuBar>
+#include <QScreen>
+#include <QScrollArea>
+#include <QVBoxLayout>
+
+// What the classic frame takes of a window's outer size, in twips.
+static constexpr int FrameWidth = 90;
+static constexpr int FrameHeight = 450;
+static constexpr int MenuHeight = 300;
+
+Form::Form(const QString &naam, const QString &titel, int breedte, int hoogte, QRgb achtergrond, bool menuBalk)
+    : QDialog(QApplication::activeWindow()), inhoud_(new QWidget)
+{
+    setObjectName(naam);
+    setWindowTitle(titel);
+    QPalette palet = palette();
+    palet.setColor(QPalette::Window, achtergrond);
+    setPalette(palet);
+
+    const QSize maat(Twips::NaarPixels(breedte - FrameWidth),
+                     Twips::NaarPixels(hoogte - FrameHeight - (menuBalk ? MenuHeight : 0)));
+    inhoud_->setFixedSize(maat);
+    auto *rol = new QScrollArea;
+    rol->setFrameShape(QFrame::NoFrame);
+    rol->setWidget(inhoud_);
+    rol->setFocusPolicy(Qt::NoFocus);
+    auto *opmaak = new QVBoxLayout(this);
+    opmaak->setContentsMargins(0, 0, 0, 0);
+    opmaak->addWidget(rol);
+    QSize buiten = maat;
+    if (menuBalk) {
+        menuBalk_ = new QMenuBar;
+        opmaak->setMenuBar(menuBalk_);
+    }
+    setMaximumSize(buiten);
+}
+
+void Form::Voer(const QString &naam, const std::function<void()> &handler)
+{
+    try {
+        handler();
+    } catch (const Afgebroken &) {
+        // closed while it waited: nothing to say
+    } catch (const Fout &fout) {
+        MsgBox(QStringLiteral("Fout %1 bij %2: %3.").arg(fout.nummer()).arg(naam, fout.tekst()), Knoppen::Ok,
+               Icoon::Kritiek);
+    } catch (const std::bad_alloc &) {
+        const Fout vol(Fout::GeheugenVol);
+        MsgBox(QStringLiteral("Fout %1 bij %2: %3.").arg(vol.nummer()).arg(naam, vol.tekst()), Knoppen::Ok,
+               Icoon::Kritiek);
+    }
+}
+
+QString Form::Wat(const QObject *zender)
+{
+    QString naam;
+    if (const auto *control = qobject_cast<const QWidget *>(zender))
+        naam = control->accessibleName();
+    else if (const auto *item = qobject_cast<const QAction *>(zender))
+        naam = item->text();
+    return QLatin1Char('\'') + (naam.isEmpty() ? zender->objectName() : naam) + QLatin1Char('\'');
+}
+
+void Form::Unload()
+{
+    unloaded_ = true;
+    close();
+}
+
+Label *Form::MaakLabel(const char *naam, const QString &caption, QWidget *ouder)
+{
+    return Maak<Label>(naam, caption, ouder, caption);
+}
+
+void Form::Zet(QWidget *control, int links, int boven)
+{
+    if (!qobject_cast<QLabel *>(control))
+        control->resize(control->sizeHint());
+    control->move(Twips::NaarPixels(links), Twips::NaarPixels(boven));
+}
+
+void Form::Zet(QWidget *control, int links, int boven, int breedte, int hoogte)
+{
+    control->setGeometry(Twips::NaarPixels(links), Twips::NaarPixels(boven), Twips::NaarPixels(breedte),
+                         Twips::NaarPixels(hoogte));
+}
+
+void Form::Zet(Label *label, int links, int boven, int breedte, int hoogte)
+{
+    label->AutoSize = false;
+    Zet(static_cast<QWidget *>(label), links, boven, breedte, hoogte);
+}
+
+void Form::Kleur(QWidget *control, QRgb achter, QRgb voor)
+{
+    QPalette palet = control->palette();
+    palet.setColor(QPalette::Base, achter);
+    palet.setColor(QPalette::Text, voor);
+    palet.setColor(QPalette::PlaceholderText, voor);
+    control->setPalette(palet);
+}

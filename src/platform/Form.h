@@ -1,0 +1,81 @@
+#pragma once
+
+#include "platform/Fout.h"
+#include "platform/Label.h"
+
+#include <QDialog>
+#include <QPointer>
+
+#include <functional>
+
+class QMenuBar;
+
+/// A window that places its controls in twips. Built afresh by each opening, on the stack: Toon<VakForm>().
+///
+/// The outer size is that of a window with the classic frame, 90 twips wide and 450 high together: the client area is
+/// the size less that frame, less 300 more with a menu bar.
+class Form : public QDialog
+{
+public:
+    /// @param breedte,hoogte outer size in twips
+    Form(const QString &naam, const QString &titel, int breedte, int hoogte, QRgb achtergrond, bool menuBalk = false);
+
+    /// Connects a signal with a handler. A failure that the handler lets pass is shown once as a critical message, and
+    /// that handler is abandoned; the window and the puzzle stay.
+    template <class Zender, class Bron, class... Args, class Handler>
+    void bij(Zender *zender, void (Bron::*signaal)(Args...), Handler handler)
+    {
+        connect(zender, signaal, this, [zender, handler](Args... args) {
+            Voer(Wat(zender), [&] {
+                if constexpr (std::is_invocable_v<Handler, Args...>)
+                    handler(args...);
+                else
+                    handler();
+            });
+        });
+    }
+
+    /// Runs one handler as bij does. @param naam what is being done, for the message
+    static void Voer(const QString &naam, const std::function<void()> &handler);
+
+    /// What a person would call the sender of a signal, for a message.
+    static QString Wat(const QObject *zender);
+
+    /// Closes the window for good.
+    void Unload();
+    bool Unloaded() const { return unloaded_; }
+
+protected:
+    /// A control on the form (or on another control), with its name and the Dutch name that a screen reader says.
+    template <class Control, class... Args>
+    Control *Maak(const char *naam, const QString &leesnaam, QWidget *ouder, Args &&...args)
+    {
+        auto *control = new Control(std::forward<Args>(args)..., ouder ? ouder : inhoud_);
+        control->setObjectName(QLatin1String(naam));
+        control->setAccessibleName(leesnaam);
+        return control;
+    }
+    Label *MaakLabel(const char *naam, const QString &caption, QWidget *ouder = nullptr);
+
+    /// Places a control: left, top, width, height in twips. Without a size it keeps its own.
+    static void Zet(QWidget *control, int links, int boven);
+    static void Zet(QWidget *control, int links, int boven, int breedte, int hoogte);
+    static void Zet(Label *label, int links, int boven, int breedte, int hoogte);
+    /// Back and fore colour of a box or a list.
+    static void Kleur(QWidget *control, QRgb achter, QRgb voor);
+
+    QWidget *Inhoud() const { return inhoud_; }
+    QMenuBar *MenuBalk() const { return menuBalk_; }
+
+private:
+    QWidget *inhoud_;
+    QMenuBar *menuBalk_ = nullptr;
+    bool unloaded_ = false;
+};
+
+/// Opens a form modally and waits until it is closed.
+template <class Vorm> void Toon()
+{
+    Vorm form;
+    form.exec();
+}

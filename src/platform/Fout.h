@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QString>
+
+#include <exception>
+#include <utility>
+
+/// A run-time failure: its number and its Dutch text. Handlers let it pass; the form shows it once (Form::bij).
+class Fout : public std::exception
+{
+public:
+    enum Nummer {
+        OngeldigArgument = 5,
+        Overloop = 6,
+        GeheugenVol = 7,
+        IndexBuitenBereik = 9,
+        TypeOnjuist = 13,
+        OngeldigeNaam = 52,
+        BestandNietGevonden = 53,
+        SchijfFout = 57,
+        EindeBestand = 62,
+        GeenToegang = 70,
+        OngeldigeWaarde = 380,
+        OngeldigeAfbeelding = 481,
+    };
+
+    /// @param waarbij what the failure is about, such as a file's name; shown behind the text, may be empty.
+    explicit Fout(Nummer nummer, QString waarbij = {});
+
+    Nummer nummer() const { return nummer_; }
+    /// The Dutch text of the number, with what it is about.
+    QString tekst() const;
+    const char *what() const noexcept override { return "run-time failure"; }
+
+private:
+    Nummer nummer_;
+    QString waarbij_;
+};
+
+/// Leaves a handler without a word: its window was closed, or the program ends, while it waited.
+struct Afgebroken {
+};
+
+/// Runs one statement and drops its failure: "errors are ignored from here on, the next statement runs".
+/// @return whether the statement ended without a failure
+template <class Opdracht> bool negeer(Opdracht &&opdracht)
+{
+    try {
+        std::forward<Opdracht>(opdracht)();
+        return true;
+    } catch (const Fout &) {
+        return false;
+    }
+}

@@ -1,0 +1,74 @@
+#include "platform/Getallen.h"
+
+#include "platform/Fout.h"
+
+#include <QLocale>
+
+#include <cmath>
+#include <limits>
+
+namespace Getallen {
+
+double Val(QStringView tekst)
+{
+    QString cijfers;
+    bool punt = false;
+    for (const QChar c : tekst) {
+        if (c == u' ' || c == u'\t')
+            continue;
+        const bool teken = cijfers.isEmpty() && (c == u'+' || c == u'-');
+        const bool cijfer = c >= u'0' && c <= u'9';
+        if (c == u'.' && !punt)
+            punt = true;
+        else if (!teken && !cijfer)
+            break;
+        cijfers += c;
+    }
+    return QLocale::c().toDouble(cijfers);
+}
+
+template <class Type> static Type Strikt(QStringView tekst)
+{
+    bool isGetal = false;
+    const double waarde = QLocale::c().toDouble(tekst.trimmed(), &isGetal);
+    if (!isGetal || std::isnan(waarde))
+        throw Fout(Fout::TypeOnjuist, tekst.left(40).toString());
+    const double rond = std::nearbyint(waarde);
+    if (!(rond >= std::numeric_limits<Type>::min() && rond <= std::numeric_limits<Type>::max()))
+        throw Fout(Fout::Overloop, tekst.left(40).toString());
+    return static_cast<Type>(rond);
+}
+
+quint8 NaarByte(QStringView tekst)
+{
+    return Strikt<quint8>(tekst);
+}
+
+qint16 NaarInt16(QStringView tekst)
+{
+    return Strikt<qint16>(tekst);
+}
+
+qint32 NaarInt32(QStringView tekst)
+{
+    return Strikt<qint32>(tekst);
+}
+
+qint16 AlsInt16(qint64 waarde)
+{
+    if (waarde < std::numeric_limits<qint16>::min() || waarde > std::numeric_limits<qint16>::max())
+        throw Fout(Fout::Overloop);
+    return static_cast<qint16>(waarde);
+}
+
+qint64 RondEven(double waarde)
+{
+    return static_cast<qint64>(std::nearbyint(waarde)); // the default rounding mode goes to the even neighbour
+}
+
+QString MetTeken(qint64 waarde)
+{
+    return waarde < 0 ? QString::number(waarde) : QLatin1Char(' ') + QString::number(waarde);
+}
+
+} // namespace Getallen

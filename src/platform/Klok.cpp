@@ -1,0 +1,64 @@
+#include "platform/Klok.h"
+
+#include "platform/Fout.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+#include <cmath>
+
+static Klok *vervanger = nullptr;
+static bool programmaEindigt = false;
+
+Klok::~Klok() = default;
+
+double Klok::Timer()
+{
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+QDateTime Klok::Nu()
+{
+    return QDateTime::currentDateTime();
+}
+
+void Klok::Slaap(double seconden, QEventLoop::ProcessEventsFlags welke)
+{
+    QEventLoop lus;
+    QTimer::singleShot(static_cast<int>(std::ceil(seconden * 1000)), Qt::PreciseTimer, &lus, &QEventLoop::quit);
+    lus.exec(welke);
+}
+
+void Klok::Wacht(double seconden, QEventLoop::ProcessEventsFlags welke)
+{
+    constexpr double ShortestSleep = 0.001; // a rest that rounding leaves still moves the clock on
+    const double begin = Timer();
+    for (double verstreken = 0; verstreken < seconden; verstreken = Timer() - begin) {
+        Slaap(std::clamp(seconden - verstreken, ShortestSleep, std::max(seconden, ShortestSleep)), welke);
+        if (programmaEindigt)
+            throw Afgebroken();
+    }
+}
+
+Klok &Klok::Huidig()
+{
+    static Klok echte;
+    return vervanger ? *vervanger : echte;
+}
+
+void Klok::Gebruik(Klok *klok)
+{
+    vervanger = klok;
+}
+
+void Klok::ProgrammaEindigt(bool eindigt)
+{
+    programmaEindigt = eindigt;
+}
+
+void DirecteKlok::Slaap(double seconden, QEventLoop::ProcessEventsFlags welke)
+{
+    QCoreApplication::processEvents(welke);
+    seconden_ += seconden;
+    gewacht_ += seconden;
+}

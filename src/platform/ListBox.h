@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QListView>
+#include <QStringListModel>
+
+/// A list of texts of which one can be selected.
+class ListBox : public QListView
+{
+    Q_OBJECT
+public:
+    explicit ListBox(QWidget *ouder);
+
+    void AddItem(const QString &tekst);
+    /// Fills the list with these texts in one go.
+    void SetItems(const QStringList &teksten);
+    void RemoveItem(int index); ///< leaves nothing selected
+    void Clear() { SetItems({}); }
+
+    int ListCount() const { return model_.rowCount(); }
+    QString List(int index) const; ///< empty for an index that is not there
+    int ListIndex() const;         ///< -1 when nothing is selected
+    void SetListIndex(int index);
+    QString Text() const { return List(ListIndex()); }
+
+signals:
+    void Click();    ///< a row was chosen, by pointer or key
+    void DblClick(); ///< a row was clicked twice
+
+private:
+    QStringListModel model_;
+};

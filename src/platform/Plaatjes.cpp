@@ -1,0 +1,59 @@
+#include "platform/Plaatjes.h"
+
+#include <QFile>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace Plaatjes {
+
+static QByteArray Tekening(const QString &naam)
+{
+    QFile bestand(QStringLiteral(":/assets/") + naam + QStringLiteral(".svg"));
+    const bool open = bestand.open(QIODevice::ReadOnly);
+    Q_ASSERT(open);
+    return open ? bestand.readAll() : QByteArray();
+}
+
+static void Teken(QPaintDevice &doel, QSvgRenderer &tekening, QSize maat)
+{
+    QPainter painter(&doel);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    tekening.render(&painter, QRectF(QPointF(0, 0), maat));
+}
+
+static QImage OpWit(QSvgRenderer &tekening, QSize maat)
+{
+    QImage beeld(maat.isEmpty() ? tekening.defaultSize() : maat, QImage::Format_RGB32);
+    beeld.fill(Qt::white);
+    Teken(beeld, tekening, beeld.size());
+    return beeld;
+}
+
+QImage Beeld(const QString &naam, QSize maat)
+{
+    QSvgRenderer tekening(Tekening(naam));
+    return OpWit(tekening, maat);
+}
+
+QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKleur)
+{
+    QSvgRenderer tekening(Tekening(naam).replace(kleur.toLatin1(), andereKleur.toLatin1()));
+    return OpWit(tekening, {});
+}
+
+QPixmap Pixmap(const QString &naam, QSize maat, double ratio)
+{
+    QSvgRenderer tekening(Tekening(naam));
+    QPixmap pixmap(maat * ratio);
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    Teken(pixmap, tekening, maat);
+    return pixmap;
+}
+
+QSize Maat(const QString &naam)
+{
+    return QSvgRenderer(Tekening(naam)).defaultSize();
+}
+
+} // namespace Plaatjes

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+#include <QString>
+
+/// The pictures that are compiled in, as vector drawings.
+namespace Plaatjes {
+
+/// A picture at a size in pixels; a null size gives its own. For drawing on a picture box: opaque, 32 bits a pixel.
+QImage Beeld(const QString &naam, QSize maat = {});
+/// The same drawing with one of its colours (as it is written in the drawing, such as "#e5f8c2") exchanged.
+QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKleur);
+/// A picture for a widget of this size in logical pixels, sharp at any device pixel ratio, transparent where it is
+/// empty.
+QPixmap Pixmap(const QString &naam, QSize maat, double ratio);
+/// The picture's own size in pixels.
+QSize Maat(const QString &naam);
+
+} // namespace Plaatjes

@@ -1,0 +1,13 @@
+#pragma once
+
+/// The screen's pointer.
+namespace Screen {
+
+inline constexpr int Arrow = 1;
+inline constexpr int Hourglass = 11;
+inline constexpr int Own = 99; ///< the program's own pointer, after busy work
+
+/// Shows the pointer of a kind everywhere: the hourglass until another kind is asked for.
+void MousePointer(int soort);
+
+} // namespace Screen
