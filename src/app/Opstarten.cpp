@@ -8,16 +8,6 @@
 #include "platform/Files.h"
 #include "platform/Klok.h"
 
-#include <QApplication>
-#include <QStyle>
-
-void StelUiterlijkIn()
-{
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(QApplication::style()->standardPalette());
-    QApplication::setFont(Lettertype(QStringLiteral("Arial"), 8.25, false));
-}
-
 static QString InstellingenPad()
 {
     return Files::Pad(AppPath, {QStringLiteral("Rasteratelier.ini")});

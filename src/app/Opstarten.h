@@ -1,8 +1,5 @@
 #pragma once
 
-/// The style and the font that every window has. To be called once, before the first window.
-void StelUiterlijkIn();
-
 /// The load of the main window behind its making: start values, the empty board of 16 by 19, the settings. A settings file
 /// that is missing is written with the defaults. Raises Fout when the file is damaged, and leaves it as it is then.
 void LaadMain();

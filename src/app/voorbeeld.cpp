@@ -7,7 +7,6 @@
 // BRON has one entry a line, fields separated by "|":
 //   naam|NAME   maat|COLUMNS|ROWS   vak|A-01|KIND|clue, its lines separated by "\"   woord|A-01|H or V|solution|clue
 
-#include "app/Opstarten.h"
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/NieuwForm.h"
@@ -17,6 +16,7 @@
 #include "editors/VakForm.h"
 #include "platform/Berichten.h"
 #include "platform/Klok.h"
+#include "platform/Uiterlijk.h"
 
 #include <QApplication>
 #include <QDir>
@@ -139,7 +139,7 @@ bool Controleer(const QString &naam, const QString &map)
             open.List1->SetListIndex(i);
     open.OkKnop_Click();
     const QString venster = map + QStringLiteral("/venster.png");
-    Main().resize(Main().maximumSize());
+    Main().resize(Main().maximumSize()); // the window as it is on a screen that has room for all of it
     if (!Main().grab().save(venster))
         throw Fout(Fout::SchijfFout, venster);
     uit << "venster: " << venster << '\n';

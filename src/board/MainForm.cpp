@@ -34,6 +34,7 @@ MainForm::MainForm()
     MaakMenuBalk();
     MaakPopups();
     Verbind();
+    PasOpScherm();
 }
 
 MainForm::~MainForm()

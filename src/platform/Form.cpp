@@ -27,19 +27,28 @@ Form::Form(const QString &naam, const QString &titel, int breedte, int hoogte, Q
     const QSize maat(Twips::NaarPixels(breedte - FrameWidth),
                      Twips::NaarPixels(hoogte - FrameHeight - (menuBalk ? MenuHeight : 0)));
     inhoud_->setFixedSize(maat);
-    auto *rol = new QScrollArea;
-    rol->setFrameShape(QFrame::NoFrame);
-    rol->setWidget(inhoud_);
-    rol->setFocusPolicy(Qt::NoFocus);
     auto *opmaak = new QVBoxLayout(this);
     opmaak->setContentsMargins(0, 0, 0, 0);
-    opmaak->addWidget(rol);
-    QSize buiten = maat;
-    if (menuBalk) {
-        menuBalk_ = new QMenuBar;
-        opmaak->setMenuBar(menuBalk_);
+    if (!menuBalk) {
+        opmaak->addWidget(inhoud_);
+        setFixedSize(maat);
+        return;
     }
-    setMaximumSize(buiten);
+    menuBalk_ = new QMenuBar;
+    opmaak->setMenuBar(menuBalk_);
+    auto *rol = new QScrollArea;
+    rol->setFrameShape(QFrame::NoFrame);
+    rol->setFocusPolicy(Qt::NoFocus);
+    rol->setWidget(inhoud_);
+    opmaak->addWidget(rol);
+}
+
+void Form::PasOpScherm()
+{
+    const QSize maat = inhoud_->size() + QSize(0, menuBalk_->sizeHint().height());
+    const QSize frame(Twips::NaarPixels(FrameWidth), Twips::NaarPixels(FrameHeight));
+    setMaximumSize(maat);
+    resize(maat.boundedTo(screen()->availableSize() - frame));
 }
 
 void Form::Voer(const QString &naam, const std::function<void()> &handler)

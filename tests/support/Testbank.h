@@ -1,0 +1,92 @@
+#pragma once
+
+#include "platform/Berichten.h"
+#include "platform/Fout.h"
+#include "platform/Klok.h"
+
+#include <QColor>
+#include <QImage>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <QTest>
+
+/// A message as it was shown.
+struct Bericht {
+    QString Tekst, Titel;
+    Knoppen Soort;
+    Icoon Plaatje;
+};
+
+/// Messages that a test answers beforehand and reads back afterwards. A question without a scripted answer fails the test
+/// and is answered No.
+class BerichtenScript : public Berichten
+{
+public:
+    Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel) override;
+
+    QList<Antwoord> Antwoorden; ///< for the questions to come, first one first
+    QList<Bericht> Gezien;
+};
+
+/// What every test runs on: a fresh folder of the program (with a folder Puzzels) and a fresh home with a folder Pictures,
+/// a clock that doesn't wait, scripted messages. Made anew for each test function.
+class Testbank
+{
+public:
+    Testbank();
+    ~Testbank();
+
+    QString Map() const { return map_.path() + QStringLiteral("/app"); }      ///< for AppPath
+    QString Thuis() const { return map_.path() + QStringLiteral("/thuis"); }  ///< the user's home
+    QByteArray Inhoud(const QString &naam) const;                            ///< of a file below Map
+    void Schrijf(const QString &naam, const QByteArray &inhoud) const;       ///< a file below Map
+    QStringList Bestanden(const QString &onderMap) const;                    ///< names of the files there, sorted
+
+    DirecteKlok TestKlok;
+    BerichtenScript Script;
+
+private:
+    QTemporaryDir map_;
+};
+
+/// Whether something other than the colour stands in a rectangle of the picture, in pixels.
+bool HeeftInkt(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255, 255));
+/// The smallest rectangle round all pixels within `vlak` that are not of the colour; empty when there are none.
+QRect InktVlak(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255, 255));
+
+/// The control of that name below a window; when there is none the test ends with a list of what is there.
+template <class Control> Control *Vind(const QObject &venster, const QString &naam)
+{
+    if (auto *control = venster.findChild<Control *>(naam))
+        return control;
+    QStringList namen;
+    for (const QObject *kind : venster.findChildren<QObject *>())
+        if (!kind->objectName().isEmpty() && !kind->objectName().startsWith(QLatin1String("qt_")))
+            namen += kind->objectName();
+    qFatal("%s heeft geen %s, wel: %s", qPrintable(venster.objectName()), qPrintable(naam),
+           qPrintable(namen.join(QStringLiteral(", "))));
+    return nullptr;
+}
+
+/// Runs a statement and gives the number of the failure that it raised; 0 when it raised none.
+template <class Opdracht> int FoutVan(Opdracht &&opdracht)
+{
+    try {
+        opdracht();
+    } catch (const Fout &fout) {
+        return fout.nummer();
+    }
+    return 0;
+}
+
+/// The main function of a test program with windows, under the program's own style.
+int TestMain(int argc, char *argv[], int (*voer)(int, char **));
+
+#define RASTER_TEST(Klasse)                                                                                            \
+    int main(int argc, char *argv[])                                                                                   \
+    {                                                                                                                  \
+        return TestMain(argc, argv, [](int c, char **v) {                                                              \
+            Klasse test;                                                                                               \
+            return QTest::qExec(&test, c, v);                                                                          \
+        });                                                                                                            \
+    }
