@@ -1,8 +1,8 @@
 #include "app/AboutForm.h"
 
-#include "platform/Plaatjes.h"
-
 #include "Adressen.h"
+
+#include "platform/Plaatjes.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -27,7 +27,8 @@ AboutForm::AboutForm()
 {
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Raster Atelier"), nullptr);
     Label1 = MaakLabel("Label1", OverTekst());
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    CancelKnop =
+        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
 
     Zet(Image1, 180, 210, 1920, 1920);
     Zet(Label1, 2250, 300, 3900, 1800);

@@ -2,8 +2,8 @@
 
 #include <QString>
 
-/// The folder that AppPath is to be: the one that was asked for; else the program's own when it holds a folder Data; else
-/// the user's, filled on first use from what is installed.
+/// The folder that AppPath is to be: the one that was asked for; else the program's own when it holds a folder Data;
+/// else the user's, filled on first use from what is installed.
 /// @param gevraagd the folder given at start-up, empty for none
 /// @param eigen the folder that the program's file is in
 /// @param gebruiker the user's data folder for this program

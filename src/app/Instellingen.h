@@ -4,7 +4,8 @@
 #include <QString>
 
 /// What the settings file holds. Its values are not range-checked when they are read.
-struct Instellingen {
+struct Instellingen
+{
     qint16 Rood = 0, Groen = 0, Blauw = 0; ///< colour of the clue cells on the large board
     quint8 Kleur = 0;                      ///< colour choice for clue cells on the visible board
     QString PaginaTekst;                   ///< the text on all print pages

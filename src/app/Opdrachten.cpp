@@ -1,5 +1,7 @@
 #include "app/Opdrachten.h"
 
+#include "Adressen.h"
+
 #include "app/AboutForm.h"
 #include "app/Opstarten.h"
 #include "board/Algemeen.h"
@@ -11,8 +13,6 @@
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
 #include "platform/Berichten.h"
-
-#include "Adressen.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

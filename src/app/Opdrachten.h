@@ -6,8 +6,8 @@
 /// connected stays disabled.
 void VerbindOpdrachten();
 
-/// The item of the pop-up that was chosen: opens its editor, or fills the empty cells after a question. In all cases the
-/// frame round the cell is hidden then. @param index 1..9
+/// The item of the pop-up that was chosen: opens its editor, or fills the empty cells after a question. In all cases
+/// the frame round the cell is hidden then. @param index 1..9
 void SoortVakTekst_Click(int index);
 
 void ToolsKlemboard_Click();

@@ -15,8 +15,8 @@ static QString InstellingenPad()
 
 static void BewaarInstellingen()
 {
-    Files::Schrijf(InstellingenPad(), SchrijfInstellingen({OrgineelRood, OrgineelGroen, OrgineelBlauw, KleurVakjes,
-                                                           PaginaTekst}));
+    Files::Schrijf(InstellingenPad(),
+                   SchrijfInstellingen({OrgineelRood, OrgineelGroen, OrgineelBlauw, KleurVakjes, PaginaTekst}));
 }
 
 void LaadMain()

@@ -1,10 +1,10 @@
 #include "board/Algemeen.h"
 
+#include "Adressen.h"
+
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Klok.h"
-
-#include "Adressen.h"
 
 #include <QDesktopServices>
 #include <QUrl>

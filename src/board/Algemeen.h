@@ -16,13 +16,13 @@ inline constexpr quint8 Filippine = 5;
 inline constexpr int VakMaat = 450;       ///< a cell on Pic, twips
 inline constexpr int VakMaatGroot = 1800; ///< a cell on PicGroot, twips
 
-extern quint8 PuzzelType;   ///< the kind, 1..5
-extern qint32 BoardWidth;   ///< cells across
-extern qint32 BoardHeight;  ///< cells down
-extern qint32 CurCol;       ///< column of the cell under the pointer, from 0
-extern qint32 CurRow;       ///< row of it, from 0
-extern qint32 CurCell;      ///< its running number by the current width, from 1; 0 before the pointer was on the board
-extern QString PuzzelNaam;  ///< base of the puzzle's file names
+extern quint8 PuzzelType;  ///< the kind, 1..5
+extern qint32 BoardWidth;  ///< cells across
+extern qint32 BoardHeight; ///< cells down
+extern qint32 CurCol;      ///< column of the cell under the pointer, from 0
+extern qint32 CurRow;      ///< row of it, from 0
+extern qint32 CurCell;     ///< its running number by the current width, from 1; 0 before the pointer was on the board
+extern QString PuzzelNaam; ///< base of the puzzle's file names
 extern bool PuzzelGewijzigd;
 extern quint8 PijlSoort;    ///< arrow choice of the clue-cell editor, 1..8
 extern quint8 KleurVakjes;  ///< colour of clue cells on Pic, 1..3

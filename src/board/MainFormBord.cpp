@@ -52,8 +52,8 @@ void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)
     }
 }
 
-// The white box is larger than the dark one by design: it wipes the whole inside of the cell, the dark edge as well. Only
-// the array is asked, not the pixels, and the puzzle doesn't count as changed.
+// The white box is larger than the dark one by design: it wipes the whole inside of the cell, the dark edge as well.
+// Only the array is asked, not the pixels, and the puzzle doesn't count as changed.
 void MainForm::ZwartOmzetten()
 {
     if (CurCell < 0 || CurCell >= static_cast<int>(VakZwart.size()))

@@ -2,10 +2,12 @@
 
 #include <QMenuBar>
 
-// The menu bar from left to right, each menu from top to bottom. An item is disabled until a command is connected to it.
+// The menu bar from left to right, each menu from top to bottom. An item is disabled until a command is connected to
+// it.
 
 /// One item: where the window keeps it, its name and caption; no name is a separator.
-struct MenuRegel {
+struct MenuRegel
+{
     QAction **Item;
     const char *Naam;
     QString Opschrift;
@@ -92,8 +94,8 @@ void MainForm::MaakPopups()
                                   QStringLiteral("Annuleren")};
     for (int i = 1; i <= opschriften.size(); ++i) {
         const QString &opschrift = opschriften[i - 1];
-        QAction *item = opschrift == QLatin1String("-") ? SoortPlaatsing->addSeparator()
-                                                        : SoortPlaatsing->addAction(opschrift);
+        QAction *item =
+            opschrift == QLatin1String("-") ? SoortPlaatsing->addSeparator() : SoortPlaatsing->addAction(opschrift);
         item->setObjectName(QStringLiteral("SoortVakTekst(%1)").arg(i));
         SoortVakTekst[static_cast<std::size_t>(i)] = item;
         bij(item, &QAction::triggered, [this, i] { emit VakMenuGekozen(i); });

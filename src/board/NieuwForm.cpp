@@ -23,12 +23,14 @@ NieuwForm::NieuwForm()
                                   QStringLiteral("Filippine Puzzel")};
     for (std::size_t i = 0; i < Option.size(); ++i) {
         const QString &opschrift = opschriften[static_cast<qsizetype>(i)];
-        Option[i] = Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
+        Option[i] =
+            Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
     }
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Voorbeeld van de soort"), nullptr);
     Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Naam Puzzel"), nullptr);
     Label3 = MaakLabel("Label3", QStringLiteral("Naam Puzzel"));
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    CancelKnop =
+        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
     OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
     Plaats();
     Vul();
@@ -69,7 +71,8 @@ void NieuwForm::Vul()
     VulMaten(*Combo2, 19, BoardHeight);
     Combo1_Change();
     Combo2_Change();
-    const char *previews[] = {"soort-zweeds", "soort-woordzoeker", "soort-kruiswoord", "soort-sudoku", "soort-filippine"};
+    const char *previews[] = {"soort-zweeds", "soort-woordzoeker", "soort-kruiswoord", "soort-sudoku",
+                              "soort-filippine"};
     for (std::size_t i = 0; i < Img.size(); ++i)
         Img[i] = Plaatjes::Pixmap(QLatin1String(previews[i]), Image1->size(), devicePixelRatioF());
     Option[0]->setChecked(true);

@@ -20,8 +20,10 @@ OpenFile::OpenFile()
     List1 = Maak<ListBox>("List1", QStringLiteral("Puzzels"), nullptr);
     Image1 = Maak<QLabel>("Image1", QString(), nullptr);
     Label2 = MaakLabel("Label2", QStringLiteral("Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."));
-    DelKnop = Maak<ImageButton>("DelKnop", QStringLiteral("Puzzel verwijderen"), nullptr, QStringLiteral("knop-wissen"));
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    DelKnop =
+        Maak<ImageButton>("DelKnop", QStringLiteral("Puzzel verwijderen"), nullptr, QStringLiteral("knop-wissen"));
+    CancelKnop =
+        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
     OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
 
     Zet(List1, 180, 180, 2400, 2940);

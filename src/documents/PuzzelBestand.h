@@ -6,15 +6,16 @@
 #include <optional>
 
 /// What the text file of a puzzle holds: kind, size and entry list. The board itself is in the bitmaps beside it.
-struct PuzzelLijst {
+struct PuzzelLijst
+{
     std::optional<quint8> Soort;
     std::optional<qint32> Breedte, Hoogte;
     QList<QStringList> Rijen; ///< each row: position, clue, solution, number
     bool Heel = false;        ///< read to its end without damage
 };
 
-/// Reads a puzzle file. It never fails: from damage on, nothing more is taken; what was read up to there stands. A comma
-/// ends a field as a line end does, so that a clue with a comma shifts the fields behind it; kept so.
+/// Reads a puzzle file. It never fails: from damage on, nothing more is taken; what was read up to there stands. A
+/// comma ends a field as a line end does, so that a clue with a comma shifts the fields behind it; kept so.
 PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud);
 
 /// The puzzle file's bytes, in code page 1252: five lines of header, then five lines a row. Nothing is quoted.

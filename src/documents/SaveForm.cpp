@@ -22,8 +22,8 @@ SaveForm::SaveForm()
     Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Naam van de puzzel"), nullptr);
     Bar = Maak<PictureBox>("Bar", QStringLiteral("Voortgang"), nullptr);
     Label1 = MaakLabel("Label1", QStringLiteral("0%"));
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr,
-                                   QStringLiteral("knop-annuleren-laag"));
+    CancelKnop =
+        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren-laag"));
     SaveKnop = Maak<ImageButton>("SaveKnop", QStringLiteral("Opslaan"), nullptr, QStringLiteral("knop-opslaan"));
 
     Zet(Text1, 120, 150, 4470, 330);

@@ -13,7 +13,8 @@ QString LaatsteOplossing;
 namespace {
 
 /// A direction: its letter, its picture, and the cells that it moves a letter on.
-struct RichtingSoort {
+struct RichtingSoort
+{
     QLatin1String Letter;
     const char *Plaatje;
     int Kolommen, Rijen;
@@ -43,14 +44,16 @@ TekstForm::TekstForm()
         QStringLiteral("Diagonaal naar rechtsonder Plaatsen"), QStringLiteral("Diagonaal naar linksonder plaatsen")};
     for (std::size_t i = 0; i < Option.size(); ++i) {
         const QString &opschrift = opschriften[static_cast<qsizetype>(i)];
-        Option[i] = Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
+        Option[i] =
+            Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
     }
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Richting"), nullptr);
     Check1 = Maak<QCheckBox>("Check1", QStringLiteral("Oplossing omgekeerd"), nullptr,
                              QStringLiteral("Oplossing omgekeerd"));
     Combo1 = Maak<QComboBox>("Combo1", QStringLiteral("Vaknummer Kruiswoordpuzzel"), nullptr);
     Label3 = MaakLabel("Label3", QStringLiteral("Vaknummer Kruiswoordpuzzel"));
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    CancelKnop =
+        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
     OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
     Plaats();
     Vul();

@@ -28,7 +28,8 @@ VakForm::VakForm()
     Label6 = MaakLabel("Label6", QString());
     HScroll1 = Maak<QScrollBar>("HScroll1", QStringLiteral("Soort Vakje"), nullptr, Qt::Horizontal);
     Label7 = MaakLabel("Label7", QStringLiteral("Soort Vakje"));
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    CancelKnop =
+        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
     OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
     TextLabel = MaakLabel("TextLabel", QString());
     Plaats();
@@ -97,7 +98,8 @@ void VakForm::VakjeTonen(qint16 soort)
         if (vak->Gesplitst())
             Pic->BoxFull(0, 885, 1845, 915, RGB(0, 0, 0));
         const auto toon = [this](PictureBox &box, const PijlPlaats &pijl) {
-            box.PaintPicture(BackPijlen2, 0, 0, PijlMaat, PijlMaat, static_cast<int>(pijl.Tekening), 0, PlakWijze::Kopie);
+            box.PaintPicture(BackPijlen2, 0, 0, PijlMaat, PijlMaat, static_cast<int>(pijl.Tekening), 0,
+                             PlakWijze::Kopie);
             box.show();
         };
         if (vak->Rechts) {

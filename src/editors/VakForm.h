@@ -18,8 +18,8 @@ public:
     void CancelKnop_Click();
     void OkKnop_Click();
 
-    /// Shows a kind in the preview and makes it the current one; the typed text is thrown away. Outside 1..8 no arrow is
-    /// shown.
+    /// Shows a kind in the preview and makes it the current one; the typed text is thrown away. Outside 1..8 no arrow
+    /// is shown.
     void VakjeTonen(qint16 soort);
     /// Prints all lines of Text1 in capitals, centred in a cell. Twips.
     /// @param X left edge of the inside of the cell

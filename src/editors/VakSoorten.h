@@ -16,13 +16,15 @@ enum class Pijl { Rechts = 0, Omlaag = 345, RechtsDanOmlaag = 690, OmlaagDanRech
 
 /// An arrow of a kind: its drawing, its place on PicGroot from the inside of the cell, and in the preview the one place
 /// that differs by kind (the top of a right arrow, the left of a down arrow). Twips.
-struct PijlPlaats {
+struct PijlPlaats
+{
     Pijl Tekening;
     int X, Y;
     int Voorbeeld;
 };
 
-struct VakSoort {
+struct VakSoort
+{
     std::optional<PijlPlaats> Rechts, Omlaag;
     bool Gesplitst() const { return Rechts && Omlaag; }
 };

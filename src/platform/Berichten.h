@@ -18,7 +18,7 @@ public:
     static void Gebruik(Berichten *berichten);
 };
 
-/// Shows a message box and waits for its answer; closing a Yes/No box without an answer is a No. At most 1024 characters
-/// of the text are shown.
+/// Shows a message box and waits for its answer; closing a Yes/No box without an answer is a No. At most 1024
+/// characters of the text are shown.
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen = Knoppen::Ok, Icoon icoon = Icoon::Geen,
                 const QString &titel = QStringLiteral("Rasteratelier"));

@@ -9,7 +9,8 @@
 
 QFont Lettertype(const QString &naam, double punten, bool vet)
 {
-    static const struct {
+    static const struct
+    {
         QLatin1String naam, familie;
     } Families[] = {
         {QLatin1String("Arial"), QLatin1String("Liberation Sans")},
@@ -70,5 +71,6 @@ double Canvas::TextWidth(const QString &tekst) const
 double Canvas::TextHeight(const QString &tekst) const
 {
     const QFontMetricsF maten(Font());
-    return std::round(maten.ascent() + maten.descent()) * EenheidPerPixel() * static_cast<double>(tekst.count(u'\n') + 1);
+    return std::round(maten.ascent() + maten.descent()) * EenheidPerPixel() *
+           static_cast<double>(tekst.count(u'\n') + 1);
 }

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QStringDecoder>
-#include <QStringEncoder>
 #include <QtEndian>
 
 #include <filesystem>
@@ -20,8 +19,19 @@ static constexpr char LineEnd[] = "\r\n";
 
 QByteArray NaarBytes(const QString &tekst)
 {
-    QStringEncoder naar(CodePage);
-    return naar.encode(tekst);
+    static const QString tekens = [] {
+        QByteArray alle;
+        for (int code = 0; code < 256; ++code)
+            alle += static_cast<char>(code);
+        return NaarTekst(alle);
+    }();
+    QByteArray bytes;
+    bytes.reserve(tekst.size());
+    for (const QChar c : tekst) {
+        const qsizetype code = tekens.indexOf(c);
+        bytes += code < 0 ? '?' : static_cast<char>(code);
+    }
+    return bytes;
 }
 
 QString NaarTekst(QByteArrayView bytes)
@@ -147,9 +157,12 @@ static bool IsAfgekapt(const QByteArray &bmp)
     if (bmp.size() < HeadSize)
         return true;
     const auto veld = [&bmp](int plaats) { return qFromLittleEndian<qint32>(bmp.constData() + plaats); };
-    const qint64 breedte = veld(18), hoogte = std::abs(qint64{veld(22)}), bits = veld(28) & 0xFFFF, compressie = veld(30);
+    const qint64 rest = bmp.size() - veld(10), breedte = veld(18), hoogte = std::abs(qint64{veld(22)}),
+                 bits = veld(28) & 0xFFFF, compressie = veld(30);
+    if (compressie == 1 || compressie == 2) // run lengths, which take as many bytes as the head says
+        return rest < veld(34);
     const qint64 rij = (breedte * bits + 31) / 32 * 4;
-    return compressie == 0 && bmp.size() < qint64{veld(10)} + rij * hoogte;
+    return hoogte > 0 && rij > rest / hoogte; // divided, as a product of what the head says may not fit
 }
 
 QImage LoadPicture(const QString &pad)
@@ -159,10 +172,11 @@ QImage LoadPicture(const QString &pad)
         throw Fout(Fout::OngeldigeAfbeelding, pad);
     QBuffer buffer(&inhoud);
     QImageReader lezer(&buffer, "bmp");
-    const QSize maat = lezer.size();
-    if (!maat.isValid())
+    const qint64 breedte = lezer.size().width();
+    const qint64 hoogte = std::abs(qint64{lezer.size().height()}); // negative when the top row comes first
+    if (breedte <= 0 || hoogte == 0)
         throw Fout(Fout::OngeldigeAfbeelding, pad);
-    if (qint64{maat.width()} * maat.height() * 4 > GrootsteInhoud)
+    if (breedte > GrootsteInhoud / 4 / hoogte)
         throw Fout(Fout::GeheugenVol, pad);
     QImageReader::setAllocationLimit(static_cast<int>(GrootsteInhoud >> 20));
     const QImage beeld = lezer.read();
@@ -183,7 +197,7 @@ static QByteArray Gecodeerd(const QImage &beeld, const char *vorm, int kwaliteit
 
 void SavePicture(const QImage &beeld, const QString &pad)
 {
-    Schrijf(pad, Gecodeerd(beeld, "bmp", -1));
+    Schrijf(pad, Gecodeerd(beeld.convertToFormat(QImage::Format_RGB32), "bmp", -1));
 }
 
 void BmpToJpeg(const QString &bitmap, const QString &jpeg, int kwaliteit)

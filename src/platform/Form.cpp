@@ -83,9 +83,10 @@ void Form::Unload()
     close();
 }
 
+// A label has no accessible name of its own: it is read as what it shows, also when its caption has changed.
 Label *Form::MaakLabel(const char *naam, const QString &caption, QWidget *ouder)
 {
-    return Maak<Label>(naam, caption, ouder, caption);
+    return Maak<Label>(naam, QString(), ouder, caption);
 }
 
 void Form::Zet(QWidget *control, int links, int boven)

@@ -64,8 +64,8 @@ protected:
     /// Back and fore colour of a box or a list.
     static void Kleur(QWidget *control, QRgb achter, QRgb voor);
 
-    /// Gives a window with a menu bar its size: the whole, or what the screen has room for; it scrolls then. To be called
-    /// when the menu bar is filled.
+    /// Gives a window with a menu bar its size: the whole, or what the screen has room for; it scrolls then. To be
+    /// called when the menu bar is filled.
     void PasOpScherm();
 
     QMenuBar *MenuBalk() const { return menuBalk_; }

@@ -38,7 +38,8 @@ private:
 };
 
 /// Leaves a handler without a word: its window was closed, or the program ends, while it waited.
-struct Afgebroken {
+struct Afgebroken
+{
 };
 
 /// Runs one statement and drops its failure: "errors are ignored from here on, the next statement runs".

@@ -30,8 +30,9 @@ double Val(QStringView tekst)
 template <class Type> static Type Strikt(QStringView tekst)
 {
     bool isGetal = false;
-    const double waarde = QLocale::c().toDouble(tekst.trimmed(), &isGetal);
-    if (!isGetal || std::isnan(waarde))
+    const double waarde = tekst.trimmed().toDouble(&isGetal);
+    // The words "inf" and "nan" are read as numbers; digits beyond a double's range are refused, but give infinity.
+    if (isGetal ? !std::isfinite(waarde) : !std::isinf(waarde))
         throw Fout(Fout::TypeOnjuist, tekst.left(40).toString());
     const double rond = std::nearbyint(waarde);
     if (!(rond >= std::numeric_limits<Type>::min() && rond <= std::numeric_limits<Type>::max()))

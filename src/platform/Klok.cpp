@@ -31,10 +31,10 @@ void Klok::Slaap(double seconden, QEventLoop::ProcessEventsFlags welke)
 
 void Klok::Wacht(double seconden, QEventLoop::ProcessEventsFlags welke)
 {
-    constexpr double ShortestSleep = 0.001; // a rest that rounding leaves still moves the clock on
+    constexpr double Rounding = 1e-6; // what a difference of two times of a day loses at most
     const double begin = Timer();
-    for (double verstreken = 0; verstreken < seconden; verstreken = Timer() - begin) {
-        Slaap(std::clamp(seconden - verstreken, ShortestSleep, std::max(seconden, ShortestSleep)), welke);
+    for (double verstreken = 0; verstreken < seconden - Rounding; verstreken = Timer() - begin) {
+        Slaap(std::min(seconden - verstreken, seconden), welke);
         if (programmaEindigt)
             throw Afgebroken();
     }

@@ -46,7 +46,8 @@ void Label::Pas()
     const QStringList regels = text().split(u'\n');
     for (const QString &regel : regels)
         breedte = std::max(breedte, maten.horizontalAdvance(regel));
-    const QSize maat(static_cast<int>(std::ceil(breedte)), static_cast<int>(std::ceil(maten.height() * double(regels.size()))));
+    const QSize maat(static_cast<int>(std::ceil(breedte)),
+                     static_cast<int>(std::ceil(maten.height() * double(regels.size()))));
     const int links = alignment() & Qt::AlignRight ? x() + width() - maat.width() : x();
     setGeometry(QRect(QPoint(links, y()), maat));
 }

@@ -6,6 +6,7 @@
 /// aligned to the right keeps its right edge where it is.
 class Label : public QLabel
 {
+    Q_OBJECT
 public:
     Label(const QString &caption, QWidget *ouder);
 

@@ -48,7 +48,7 @@ double PictureBox::EenheidPerPixel() const
 
 QImage &PictureBox::Beeld()
 {
-    const QSize nodig = beeld_.size().expandedTo(size());
+    const QSize nodig = beeld_.size().expandedTo(size()).expandedTo(QSize(1, 1)); // a box may be without a side
     if (beeld_.size() != nodig) {
         QImage groter(nodig, QImage::Format_RGB32);
         if (groter.isNull())
@@ -118,6 +118,8 @@ void PictureBox::SetPicture(const QImage &beeld)
 
 QImage PictureBox::Image() const
 {
+    if (size().isEmpty())
+        return {};
     QImage &beeld = const_cast<PictureBox *>(this)->Beeld();
     return beeld.size() == size() ? beeld : beeld.copy(rect());
 }
@@ -144,14 +146,13 @@ void PictureBox::MetPainter(const std::function<void(QPainter &)> &teken)
 
 void PictureBox::Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze)
 {
-    const QImage pixels =
-        bron.format() == QImage::Format_RGB32 ? bron : bron.convertToFormat(QImage::Format_RGB32);
+    const QImage pixels = bron.format() == QImage::Format_RGB32 ? bron : bron.convertToFormat(QImage::Format_RGB32);
     const QPoint verschuiving = doel - deel.topLeft();
     const QRect raak = (deel & pixels.rect()).translated(verschuiving) & rect();
     QImage &beeld = Beeld();
     for (int y = raak.top(); y <= raak.bottom(); ++y) {
-        const auto *van = reinterpret_cast<const QRgb *>(pixels.constScanLine(y - verschuiving.y())) + raak.left() -
-                          verschuiving.x();
+        const auto *van =
+            reinterpret_cast<const QRgb *>(pixels.constScanLine(y - verschuiving.y())) + raak.left() - verschuiving.x();
         auto *naar = reinterpret_cast<QRgb *>(beeld.scanLine(y)) + raak.left();
         if (wijze == PlakWijze::Kopie)
             std::copy_n(van, raak.width(), naar);

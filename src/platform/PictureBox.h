@@ -8,8 +8,8 @@
 /// The units of a PictureBox's coordinates.
 enum class ScaleModes { Twips, Pixels };
 
-/// A widget that keeps what is drawn on it, without a repaint handler. Its picture grows with it: growing shows what was
-/// drawn there before, shrinking only hides it. Drawing outside the visible part is lost.
+/// A widget that keeps what is drawn on it, without a repaint handler. Its picture grows with it: growing shows what
+/// was drawn there before, shrinking only hides it. Drawing outside the visible part is lost.
 class PictureBox : public QWidget, public Canvas
 {
     Q_OBJECT
@@ -42,7 +42,7 @@ public:
     void SetPixel(int x, int y, QRgb kleur);
 
 signals:
-    void MouseMove(double x, double y);                   ///< in twips, only over the box itself
+    void MouseMove(double x, double y);                    ///< in twips, only over the box itself
     void MouseDown(Qt::MouseButton knop, QPoint opScherm); ///< where the pointer is on the screen, in pixels
 
 protected:

@@ -8,6 +8,7 @@
 /// in every index of a character, a line end is two characters, CR LF.
 class TextBox : public QTextEdit
 {
+    Q_OBJECT
 public:
     explicit TextBox(QWidget *ouder);
 

@@ -4,7 +4,8 @@
 
 namespace {
 
-struct Reeks {
+struct Reeks
+{
     std::mt19937 generator{std::random_device{}()};
     bool vast = false;
 };

@@ -11,14 +11,15 @@
 #include <QTest>
 
 /// A message as it was shown.
-struct Bericht {
+struct Bericht
+{
     QString Tekst, Titel;
     Knoppen Soort;
     Icoon Plaatje;
 };
 
-/// Messages that a test answers beforehand and reads back afterwards. A question without a scripted answer fails the test
-/// and is answered No.
+/// Messages that a test answers beforehand and reads back afterwards. A question without a scripted answer fails the
+/// test and is answered No.
 class BerichtenScript : public Berichten
 {
 public:
@@ -28,16 +29,16 @@ public:
     QList<Bericht> Gezien;
 };
 
-/// What every test runs on: a fresh folder of the program (with a folder Puzzels) and a fresh home with a folder Pictures,
-/// a clock that doesn't wait, scripted messages. Made anew for each test function.
+/// What every test runs on: a fresh folder of the program (with a folder Puzzels) and a fresh home with a folder
+/// Pictures, a clock that doesn't wait, scripted messages. Made anew for each test function.
 class Testbank
 {
 public:
     Testbank();
     ~Testbank();
 
-    QString Map() const { return map_.path() + QStringLiteral("/app"); }      ///< for AppPath
-    QString Thuis() const { return map_.path() + QStringLiteral("/thuis"); }  ///< the user's home
+    QString Map() const { return map_.path() + QStringLiteral("/app"); }     ///< for AppPath
+    QString Thuis() const { return map_.path() + QStringLiteral("/thuis"); } ///< the user's home
     QByteArray Inhoud(const QString &naam) const;                            ///< of a file below Map
     void Schrijf(const QString &naam, const QByteArray &inhoud) const;       ///< a file below Map
     QStringList Bestanden(const QString &onderMap) const;                    ///< names of the files there, sorted

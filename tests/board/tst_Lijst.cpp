@@ -1,0 +1,246 @@
+#include "board/MainForm.h"
+#include "support/Bord.h"
+
+#include <QSignalSpy>
+#include <QStyledItemDelegate>
+
+class tst_Lijst : public QObject
+{
+    Q_OBJECT
+
+    static void Kies(Bord &bord, int rij)
+    {
+        bord.Venster.ListView1->setCurrentItem(bord.Venster.ListView1->topLevelItem(rij));
+    }
+    static QRectF Lijn(const Bord &bord)
+    {
+        const LineMark &lijn = *bord.Venster.Line1;
+        return QRectF(QPointF(lijn.X1, lijn.Y1), QPointF(lijn.X2, lijn.Y2));
+    }
+
+private slots:
+    void columnsAndTheirWidths()
+    {
+        Bord bord;
+        const QTreeWidget &lijst = *bord.Venster.ListView1;
+        const QTreeWidgetItem &kop = *lijst.headerItem();
+        QCOMPARE(lijst.columnCount(), 4);
+        QCOMPARE((QStringList{kop.text(0), kop.text(1), kop.text(2), kop.text(3)}.join(u'|')),
+                 QStringLiteral("Vaknummer|Omschrijving|Oplossing|Nr."));
+        QCOMPARE(lijst.columnWidth(0), 88);
+        QCOMPARE(lijst.columnWidth(1), 144);
+        QCOMPARE(lijst.columnWidth(2), 90);
+        QCOMPARE(lijst.columnWidth(3), 42);
+        QVERIFY(!lijst.isSortingEnabled());
+    }
+
+    void rowsStayInTheOrderOfAddingAndAreCounted()
+    {
+        Bord bord;
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("0 Items"));
+        bord.Venster.VoegRijToe(QStringLiteral("C-07 / 99-H"), QStringLiteral("zz"), QStringLiteral("zebra"),
+                                QStringLiteral("-"));
+        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-V"), QStringLiteral("aa"), QStringLiteral("aap"),
+                                QStringLiteral("-"));
+        bord.Venster.ToonAantal();
+        QCOMPARE(bord.Rij(0), QStringLiteral("C-07 / 99-H|zz|zebra|-"));
+        QCOMPARE(bord.Rij(1), QStringLiteral("A-01 / 1-V|aa|aap|-"));
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("2 Items"));
+        QVERIFY(bord.Venster.Line1->isHidden()); // adding shows no line
+    }
+
+    void theLineRunsFromFirstToLastCell_data()
+    {
+        QTest::addColumn<int>("soort");
+        QTest::addColumn<QString>("plaats");
+        QTest::addColumn<QString>("oplossing");
+        QTest::addColumn<QRectF>("lijn");
+        const auto van = [](double x1, double y1, double x2, double y2) {
+            return QRectF(QPointF(x1, y1), QPointF(x2, y2));
+        };
+        QTest::newRow("long IJ is one cell") << 1 << "B-03 / 34-H"
+                                             << "IJSBEER" << van(675, 1125, 2925, 1125);
+        QTest::newRow("small letters") << 1 << "B-03 / 34-H"
+                                       << "ijsbeer" << van(675, 1125, 2925, 1125);
+        QTest::newRow("down") << 3 << "A-01 / 1-V"
+                              << "aap" << van(225, 225, 225, 1125);
+        QTest::newRow("row ten") << 2 << "C-10 / 147-H"
+                                 << "ab" << van(1125, 4275, 1575, 4275);
+        QTest::newRow("lower right") << 2 << "A-01 / 1-R"
+                                     << "abcd" << van(225, 225, 1575, 1575);
+        QTest::newRow("lower left") << 2 << "D-01 / 4-L"
+                                    << "abcd" << van(1575, 225, 225, 1575);
+        QTest::newRow("one letter") << 1 << "A-01 / 1-H"
+                                    << "a" << van(225, 225, 225, 225);
+        QTest::newRow("72 cells") << 1 << "A-01 / 1-H" << QString(72, u'a') << van(225, 225, 225 + 71 * 450, 225);
+    }
+    void theLineRunsFromFirstToLastCell()
+    {
+        QFETCH(int, soort);
+        QFETCH(QString, plaats);
+        QFETCH(QString, oplossing);
+        QFETCH(QRectF, lijn);
+        Bord bord;
+        PuzzelType = static_cast<quint8>(soort);
+        bord.Venster.VoegRijToe(plaats, {}, oplossing, QStringLiteral("-"));
+        bord.Venster.ListView1_ItemClick();
+        QVERIFY(!bord.Venster.Line1->isHidden());
+        QCOMPARE(Lijn(bord), lijn);
+    }
+
+    void theLineIsRedAndTwoPixelsWide()
+    {
+        Bord bord;
+        bord.Venster.VoegRijToe(QStringLiteral("B-03 / 34-H"), {}, QStringLiteral("ijsbeer"), QStringLiteral("-"));
+        bord.Venster.ListView1_ItemClick();
+        const QImage beeld = bord.Venster.Pic->grab().toImage().convertToFormat(QImage::Format_RGB32);
+        int hoog = 0;
+        for (int y = 60; y < 90; ++y)
+            hoog += beeld.pixel(100, y) == qRgb(255, 0, 0);
+        QCOMPARE(hoog, 2);
+        QVERIFY(beeld.pixel(44, 75) != qRgb(255, 0, 0));
+        QCOMPARE(beeld.pixel(46, 75), qRgb(255, 0, 0));
+        QCOMPARE(beeld.pixel(194, 75), qRgb(255, 0, 0));
+        QVERIFY(beeld.pixel(196, 75) != qRgb(255, 0, 0));
+        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(3, 2))); // it lies over the board and isn't drawn on it
+    }
+
+    void someRowsShowNoLine_data()
+    {
+        QTest::addColumn<int>("soort");
+        QTest::addColumn<QString>("plaats");
+        QTest::newRow("not tied to a place") << 2 << "-";
+        QTest::newRow("Sudoku") << 4 << "A-01 / 1-H";
+        QTest::newRow("Filippine") << 5 << "07";
+        QTest::newRow("no kind") << 99 << "A-01 / 1-H";
+    }
+    void someRowsShowNoLine()
+    {
+        QFETCH(int, soort);
+        QFETCH(QString, plaats);
+        Bord bord;
+        PuzzelType = static_cast<quint8>(soort);
+        bord.Venster.VoegRijToe(plaats, {}, QStringLiteral("woord"), QStringLiteral("-"));
+        bord.Venster.ListView1_ItemClick();
+        QVERIFY(bord.Venster.Line1->isHidden());
+    }
+
+    void aForeignDirectionMovesTheStartOnly()
+    {
+        Bord bord;
+        bord.Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), {}},
+                                   {QStringLiteral("C-02 / 19-R"), {}, QStringLiteral("aap"), {}}});
+        bord.Venster.ListView1_ItemClick();
+        Kies(bord, 1);
+        QCOMPARE(Lijn(bord), QRectF(QPointF(1125, 675), QPointF(1125, 225)));
+        QVERIFY(!bord.Venster.Line1->isHidden());
+    }
+
+    void positionsThatNoEditorMakesDoNotCrash()
+    {
+        Bord bord;
+        for (const QString &plaats :
+             {QStringLiteral("x"), QStringLiteral("€€€€"), QStringLiteral("A"), QStringLiteral("-H"),
+              QString(100000, u'9'), QStringLiteral("A-99999999 / 9-V")}) {
+            bord.Venster.WisRijen();
+            bord.Venster.VoegRijToe(plaats, {}, QStringLiteral("aap"), {});
+            bord.Venster.ListView1_ItemClick();
+            bord.Venster.Pic->grab();
+            QVERIFY(!bord.Venster.Line1->isHidden());
+        }
+    }
+
+    void aSolutionOf73CellsOverflows()
+    {
+        Bord bord;
+        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QString(73, u'a'), {});
+        QCOMPARE(FoutVan([&] { bord.Venster.ListView1_ItemClick(); }), int(Fout::Overloop));
+        Form::Voer(QStringLiteral("lijst"), [&] { bord.Venster.ListView1_ItemClick(); });
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
+        QVERIFY(bord.Bank.Script.Gezien[0].Tekst.contains(QStringLiteral("Overloop")));
+    }
+
+    void aClickOfThePointerShowsTheLineAgain()
+    {
+        Bord bord;
+        bord.Venster.show();
+        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        QTreeWidget &lijst = *bord.Venster.ListView1;
+        const QPoint midden = lijst.visualItemRect(lijst.topLevelItem(0)).center();
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, midden);
+        QVERIFY(bord.Venster.Line1->isVisible());
+        bord.Venster.Line1->hide();
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, midden);
+        QVERIFY(bord.Venster.Line1->isVisible());
+    }
+
+    void deletingAsksAndLeavesTheBoardAlone()
+    {
+        Bord bord;
+        bord.Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-")},
+                                   {QStringLiteral("A-02 / 17-H"), {}, QStringLiteral("wijn"), QStringLiteral("-")}});
+        Kies(bord, 1);
+        const QImage pic = bord.Pic();
+        bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
+        bord.Venster.DelKnop_Click();
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 2);
+        QVERIFY(!bord.Venster.Line1->isHidden());
+        bord.Venster.DelKnop_Click();
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Wil je (wijn) verwijderen uit de lijst?"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral(" Delete"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
+        QCOMPARE(bord.Rij(0), QStringLiteral("A-01 / 1-H||aap|-"));
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("1 Items"));
+        QVERIFY(bord.Venster.Line1->isHidden());
+        QVERIFY(bord.Pic() == pic);
+        QVERIFY(!PuzzelGewijzigd);
+    }
+
+    void deletingTheOnlyRow()
+    {
+        Bord bord;
+        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        bord.Venster.ListView1_ItemClick();
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        bord.Venster.DelKnop_Click();
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("0 Items"));
+        QVERIFY(bord.Venster.Line1->isHidden());
+    }
+
+    void anEmptyListOnlyShowsThePressEffect()
+    {
+        Bord bord;
+        bord.Venster.DelKnop_Click();
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.2) < 1e-6);
+    }
+
+    void rowsAlwaysHaveOneSelected()
+    {
+        Bord bord;
+        bord.Venster.VoegRijenToe({{QStringLiteral("-"), {}, QStringLiteral("een"), {}},
+                                   {QStringLiteral("-"), {}, QStringLiteral("twee"), {}},
+                                   {QStringLiteral("-"), {}, QStringLiteral("drie"), {}}});
+        for (const QString &woord : {QStringLiteral("een"), QStringLiteral("twee"), QStringLiteral("drie")}) {
+            bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+            bord.Venster.DelKnop_Click();
+            QVERIFY(bord.Bank.Script.Gezien.takeLast().Tekst.contains(woord));
+        }
+    }
+
+    void aTextOfMegabytesIsShownByItsBeginning()
+    {
+        Bord bord;
+        const QString lang(5000000, u'm');
+        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), lang, QStringLiteral("aap"), {});
+        QCOMPARE(bord.Rij(0).size(), lang.size() + 16);
+        auto *delegate = qobject_cast<QStyledItemDelegate *>(bord.Venster.ListView1->itemDelegate());
+        QVERIFY(delegate);
+        QCOMPARE(delegate->displayText(lang, QLocale()).size(), 260);
+        QVERIFY(!bord.Venster.grab().isNull());
+    }
+};
+
+RASTER_TEST(tst_Lijst)
+#include "tst_Lijst.moc"

@@ -1,0 +1,147 @@
+#include "documents/PuzzelBestand.h"
+#include "platform/Files.h"
+#include "support/Testbank.h"
+
+static const QByteArray Streep(28, '-');
+static const QByteArray Kop = "Tessel Hoeksma Software \xAE 2018\r\n1\r\n16\r\n19\r\n" + Streep + "\r\n";
+
+static QString Rijen(const PuzzelLijst &lijst)
+{
+    QStringList tekst;
+    for (const QStringList &rij : lijst.Rijen)
+        tekst += rij.join(u'|');
+    return tekst.join(u'/');
+}
+
+class tst_PuzzelBestand : public QObject
+{
+    Q_OBJECT
+private slots:
+    void aPuzzleWithoutEntriesIsFiveLines() { QCOMPARE(SchrijfPuzzelLijst(1, 16, 19, {}), Kop); }
+
+    void everyRowIsFiveLines()
+    {
+        const QList<QStringList> rijen{
+            {QStringLiteral("  A-01 / 1-H "), QStringLiteral("dier, groot \"grijs\""), QStringLiteral("olifant"),
+             QStringLiteral("-")},
+            {QStringLiteral("B-02 / 18-V"), QString(), QStringLiteral("één€"), QStringLiteral("12")}};
+        QCOMPARE(SchrijfPuzzelLijst(3, 9, 10, rijen),
+                 QByteArray("Tessel Hoeksma Software \xAE 2018\r\n3\r\n9\r\n10\r\n" + Streep +
+                            "\r\nA-01 / 1-H\r\ndier, groot \"grijs\"\r\nolifant\r\n-\r\n" + Streep +
+                            "\r\nB-02 / 18-V\r\n\r\n\xE9\xE9n\x80\r\n12\r\n" + Streep + "\r\n"));
+    }
+
+    void whatIsWrittenComesBack()
+    {
+        const QList<QStringList> rijen{
+            {QStringLiteral("A-01 / 1-H"), QStringLiteral("dier: ä ç µ"), QStringLiteral("olifant"),
+             QStringLiteral("-")},
+            {QStringLiteral("B-02 / 18-V"), QString(), QStringLiteral("wijn"), QStringLiteral("-")},
+            {QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("zee"), QStringLiteral("-")}};
+        const PuzzelLijst lijst = LeesPuzzelLijst(SchrijfPuzzelLijst(2, 12, 13, rijen));
+        QVERIFY(lijst.Heel);
+        QCOMPARE(*lijst.Soort, quint8(2));
+        QCOMPARE(*lijst.Breedte, 12);
+        QCOMPARE(*lijst.Hoogte, 13);
+        QCOMPARE(lijst.Rijen, rijen);
+    }
+
+    void reading_data()
+    {
+        QTest::addColumn<QByteArray>("inhoud");
+        QTest::addColumn<QString>("rijen");
+        QTest::addColumn<bool>("heel");
+        const QByteArray einde = "\r\n" + Streep + "\r\n";
+        QTest::newRow("header only") << Kop << "" << true;
+        QTest::newRow("empty clue keeps its place")
+            << Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde
+            << "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-" << true;
+        QTest::newRow("blank first field is skipped")
+            << Kop + "   \r\nx\r\ny\r\nz" + einde + "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde
+            << "B-01 / 2-H|noot|mies|-" << true;
+        QTest::newRow("empty first field is skipped")
+            << Kop + "\r\nx\r\ny\r\nz" + einde + "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde << "B-01 / 2-H|noot|mies|-"
+            << true;
+        // A comma in the clue moves every later field up one; the record's separator begins the next record.
+        QTest::newRow("comma shifts") << Kop + "A-01 / 1-H\r\nrood, wit\r\nvlag\r\n-" + einde +
+                                             "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde
+                                      << QString::fromLatin1("A-01 / 1-H|rood|wit|vlag/" + Streep +
+                                                             "|B-01 / 2-H|noot|mies")
+                                      << true;
+        QTest::newRow("quoted clue with a comma")
+            << Kop + "A-01 / 1-H\r\n\"rood, wit\"\r\nvlag\r\n-" + einde << "A-01 / 1-H|rood, wit|vlag|-" << true;
+        QTest::newRow("leading blanks") << Kop + "A-01 / 1-H\r\n   dier\r\naap\r\n-" + einde << "A-01 / 1-H|dier|aap|-"
+                                        << true;
+        QTest::newRow("cut in a row") << Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-" + einde + "B-01 / 2-H\r\nno"
+                                      << "A-01 / 1-H|dier|aap|-" << false;
+        QTest::newRow("without the last separator") << Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n"
+                                                    << "A-01 / 1-H|dier|aap|-" << false;
+        QTest::newRow("line feeds only")
+            << QByteArray(Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-" + einde).replace("\r\n", "\n")
+            << "A-01 / 1-H|dier|aap|-" << true;
+        QTest::newRow("only commas behind the header") << Kop + QByteArray(1000, ',') << "" << true;
+    }
+    void reading()
+    {
+        QFETCH(QByteArray, inhoud);
+        QFETCH(QString, rijen);
+        QFETCH(bool, heel);
+        const PuzzelLijst lijst = LeesPuzzelLijst(inhoud);
+        QCOMPARE(Rijen(lijst), rijen);
+        QCOMPARE(lijst.Heel, heel);
+    }
+
+    void aDamagedHeaderKeepsWhatWasReadSoFar_data()
+    {
+        QTest::addColumn<QByteArray>("inhoud");
+        QTest::addColumn<int>("gelezen"); // how many of kind, width and height
+        QTest::newRow("empty") << QByteArray() << 0;
+        QTest::newRow("banner only") << QByteArray("banner\r\n") << 0;
+        QTest::newRow("kind no number") << QByteArray("banner\r\neen\r\n9\r\n9\r\n-\r\n") << 0;
+        QTest::newRow("kind too large") << QByteArray("banner\r\n256\r\n9\r\n9\r\n-\r\n") << 0;
+        QTest::newRow("width no number") << QByteArray("banner\r\n1\r\nnegen\r\n9\r\n-\r\n") << 1;
+        QTest::newRow("height missing") << QByteArray("banner\r\n1\r\n9\r\n") << 2;
+        QTest::newRow("height too large") << QByteArray("banner\r\n1\r\n9\r\n99999999999\r\n-\r\n") << 2;
+        QTest::newRow("separator missing") << QByteArray("banner\r\n1\r\n9\r\n9\r\n") << 3;
+        QTest::newRow("zero bytes") << QByteArray(5000, '\0') << 0;
+    }
+    void aDamagedHeaderKeepsWhatWasReadSoFar()
+    {
+        QFETCH(QByteArray, inhoud);
+        QFETCH(int, gelezen);
+        const PuzzelLijst lijst = LeesPuzzelLijst(inhoud);
+        QCOMPARE(lijst.Soort.has_value() + lijst.Breedte.has_value() + lijst.Hoogte.has_value(), gelezen);
+        QVERIFY(!lijst.Heel);
+        QVERIFY(lijst.Rijen.isEmpty());
+    }
+
+    void whereverAFileIsCutItReadsQuietly()
+    {
+        const QByteArray heel =
+            SchrijfPuzzelLijst(1, 16, 19,
+                               QList<QStringList>(3, {QStringLiteral("A-01 / 1-H"), QStringLiteral("x"),
+                                                      QStringLiteral("y"), QStringLiteral("-")}));
+        for (qsizetype lengte = 0; lengte < heel.size(); ++lengte)
+            QVERIFY(LeesPuzzelLijst(heel.first(lengte)).Rijen.size() <= 3);
+    }
+
+    void aHugeFileIsReadWhole()
+    {
+        const QByteArray rij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" + Streep + "\r\n";
+        const PuzzelLijst lijst = LeesPuzzelLijst(Kop + rij.repeated(100000));
+        QVERIFY(lijst.Heel);
+        QCOMPARE(lijst.Rijen.size(), 100000);
+    }
+
+    void anyBytesAreReadQuietly()
+    {
+        QByteArray bytes;
+        for (quint32 i = 0; i < 100000; ++i)
+            bytes += static_cast<char>((i * 2654435761u) >> 24);
+        QVERIFY(!LeesPuzzelLijst(bytes).Heel);
+        QVERIFY(LeesPuzzelLijst(Kop + bytes).Breedte.has_value());
+    }
+};
+
+RASTER_TEST(tst_PuzzelBestand)
+#include "tst_PuzzelBestand.moc"

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "board/Raster.h"
+#include "platform/Kleur.h"
+#include "platform/Twips.h"
+#include "support/Testbank.h"
+
+/// The main window with the empty board that the program starts with.
+struct Bord
+{
+    Testbank Bank;
+    MainForm Venster;
+
+    Bord()
+    {
+        AppPath = Bank.Map();
+        BeginWaarden();
+        TekenRaster(BoardWidth, BoardHeight);
+        TekenGroot(BoardWidth, BoardHeight);
+    }
+
+    /// An empty board of this kind and size.
+    void Begin(quint8 soort, int breedte, int hoogte)
+    {
+        PuzzelType = soort;
+        BoardWidth = breedte;
+        BoardHeight = hoogte;
+        TekenRaster(breedte, hoogte);
+        TekenGroot(breedte, hoogte);
+    }
+
+    /// Moves the pointer to the middle of a cell, counted from 0.
+    void Wijs(int kolom, int rij) { Venster.Pic_MouseMove(kolom * VakMaat + VakMaat / 2, rij * VakMaat + VakMaat / 2); }
+
+    /// Presses a button there, as a person does.
+    void Klik(Qt::MouseButton knop, int kolom, int rij)
+    {
+        Wijs(kolom, rij);
+        Venster.Pic_MouseDown(knop, QPoint(0, 0));
+    }
+
+    QImage Pic() const { return Venster.Pic->Image(); }
+    QImage Groot() const { return Venster.PicGroot->Image(); }
+    QString Rij(int index) const
+    {
+        const QTreeWidgetItem *rij = Venster.ListView1->topLevelItem(index);
+        return rij ? QStringList{rij->text(0), rij->text(1), rij->text(2), rij->text(3)}.join(u'|') : QString();
+    }
+};
+
+/// The inside of a cell on Pic, in pixels: 29 by 29, without the grid lines.
+inline QRect Binnen(int kolom, int rij)
+{
+    return QRect(kolom * 30 + 1, rij * 30 + 1, 29, 29);
+}
+
+/// The inside of a cell on PicGroot, in pixels: 117 by 117, without the frame.
+inline QRect BinnenGroot(int kolom, int rij)
+{
+    return QRect(kolom * 120 + 3, rij * 120 + 3, 117, 117);
+}
+
+/// What a line of text looks like when it is printed on white, with its cell at (x, y) in pixels.
+inline QImage Gedrukt(QSize maat, const QString &tekst, int x, int y, const QString &font, double punten, bool vet,
+                      QRgb kleur)
+{
+    QWidget venster;
+    PictureBox box(&venster);
+    box.resize(maat);
+    box.ScaleMode = ScaleModes::Pixels;
+    box.FontName = font;
+    box.FontSize = punten;
+    box.FontBold = vet;
+    box.ForeColor = kleur;
+    box.CurrentX = x;
+    box.CurrentY = y;
+    box.Print(tekst);
+    return box.Image();
+}
