@@ -98,7 +98,7 @@ void OpenFile::LoadPuzzel(const QString &Naam)
     BoardHeight = hoogte;
     Main().WisRijen();
     Main().VoegRijenToe(lijst.Rijen);
-    if (lijst.Heel)
+    if (lijst.KopHeel)
         Main().ToonSoort();
 }
 

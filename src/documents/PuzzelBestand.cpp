@@ -9,13 +9,15 @@ PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud)
 {
     PuzzelLijst lijst;
     Files::VeldLezer lezer(inhoud);
-    lijst.Heel = negeer([&] {
+    lijst.KopHeel = negeer([&] {
         lezer.Tekst();
         lijst.Soort = lezer.Byte();
         lijst.Breedte = lezer.Int32();
         lijst.Hoogte = lezer.Int32();
         lezer.Tekst();
-        while (!lezer.Einde()) {
+    });
+    negeer([&] { // the data may end within a row: a comma in a clue has moved all fields behind it
+        while (lijst.KopHeel && !lezer.Einde()) {
             QStringList rij;
             for (int i = 0; i < 4; ++i)
                 rij += lezer.Tekst();

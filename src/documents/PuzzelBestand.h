@@ -11,7 +11,7 @@ struct PuzzelLijst
     std::optional<quint8> Soort;
     std::optional<qint32> Breedte, Hoogte;
     QList<QStringList> Rijen; ///< each row: position, clue, solution, number
-    bool Heel = false;        ///< read to its end without damage
+    bool KopHeel = false;     ///< the header was read without damage
 };
 
 /// Reads a puzzle file. It never fails: from damage on, nothing more is taken; what was read up to there stands. A

@@ -1,0 +1,394 @@
+#include "board/Soorten.h"
+#include "documents/OpenFile.h"
+#include "documents/PuzzelBestand.h"
+#include "documents/SaveForm.h"
+#include "platform/Files.h"
+#include "support/Bord.h"
+
+#include <QDir>
+
+static const QList<QStringList> TweeRijen{
+    {QStringLiteral("A-01 / 1-H"), QStringLiteral("dier"), QStringLiteral("aap"), QStringLiteral("-")},
+    {QStringLiteral("B-02 / 11-V"), QString(), QStringLiteral("wijn"), QStringLiteral("7")}};
+
+class tst_OpenFile : public QObject
+{
+    Q_OBJECT
+
+    static void SchrijfPuzzel(const Bord &bord, const QString &naam, quint8 soort, int breedte, int hoogte,
+                              const QList<QStringList> &rijen = TweeRijen)
+    {
+        bord.Bank.Schrijf(QStringLiteral("Puzzels/") + naam + QStringLiteral(".lst"),
+                          SchrijfPuzzelLijst(soort, breedte, hoogte, rijen));
+    }
+    static void SchrijfBeeld(const Bord &bord, const QString &naam, QSize maat, QRgb kleur)
+    {
+        QImage beeld(maat, QImage::Format_RGB32);
+        beeld.fill(kleur);
+        Files::SavePicture(beeld, bord.Bank.Map() + QStringLiteral("/Puzzels/") + naam);
+    }
+    static void Open(const QString &naam)
+    {
+        OpenFile form;
+        for (int i = 0; i < form.List1->ListCount(); ++i)
+            if (form.List1->List(i) == naam)
+                form.List1->SetListIndex(i);
+        form.OkKnop_Click();
+        QVERIFY(form.Unloaded());
+    }
+    static QStringList Namen(const OpenFile &form)
+    {
+        QStringList namen;
+        for (int i = 0; i < form.List1->ListCount(); ++i)
+            namen += form.List1->List(i);
+        return namen;
+    }
+
+private slots:
+    void controlsAndTheirPlaces_data()
+    {
+        QTest::addColumn<QString>("naam");
+        QTest::addColumn<QRect>("vlak"); // twips: left, top, width, height; a null size is not fixed
+        QTest::newRow("List1") << "List1" << QRect(180, 180, 2400, 2940);
+        QTest::newRow("Image1") << "Image1" << QRect(3300, 1800, 0, 0);
+        QTest::newRow("Label2") << "Label2" << QRect(2700, 180, 2100, 2100);
+        QTest::newRow("DelKnop") << "DelKnop" << QRect(180, 3390, 960, 360);
+        QTest::newRow("CancelKnop") << "CancelKnop" << QRect(2910, 3390, 0, 360);
+        QTest::newRow("OkKnop") << "OkKnop" << QRect(3915, 3390, 0, 360);
+    }
+    void controlsAndTheirPlaces()
+    {
+        QFETCH(QString, naam);
+        QFETCH(QRect, vlak);
+        Bord bord;
+        OpenFile form;
+        const QRect plaats = Vind<QWidget>(form, naam)->geometry();
+        QCOMPARE(plaats.topLeft(), vlak.topLeft() / 15);
+        if (vlak.width() > 0)
+            QCOMPARE(plaats.width(), vlak.width() / 15);
+        if (vlak.height() > 0)
+            QCOMPARE(plaats.height(), vlak.height() / 15);
+    }
+
+    void asItOpens()
+    {
+        Bord bord;
+        for (const char *naam : {"Zee.lst", "appel.LST", "Boom.lst", "los.bmp", "Boom1.bmp", "lijst.txt"})
+            bord.Bank.Schrijf(QStringLiteral("Puzzels/") + QLatin1String(naam), "x");
+        OpenFile form;
+        QCOMPARE(form.windowTitle(), QStringLiteral("Puzzel openen"));
+        QCOMPARE(form.size(), QSize((5160 - 90) / 15, (4395 - 450) / 15));
+        QCOMPARE(form.palette().color(QPalette::Window), QColor(190, 240, 240));
+        QCOMPARE(Namen(form).join(u' '), QStringLiteral("appel Boom Zee")); // bitmaps without a list are not shown
+        QCOMPARE(form.List1->palette().color(QPalette::Base), QColor(30, 0, 0));
+        QCOMPARE(form.List1->palette().color(QPalette::Text), QColor(250, 250, 250));
+        QCOMPARE(form.Label2->Caption(),
+                 QStringLiteral("Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."));
+        QCOMPARE(form.DelKnop->toolTip(), QStringLiteral(" Puzzel verwijderen "));
+        QVERIFY(!form.DelKnop->isEnabled());
+        QCOMPARE(form.List1->ListIndex(), -1);
+    }
+
+    void choosingANameTakesItAtOnce()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        PuzzelNaam = QStringLiteral("oud");
+        const QImage pic = bord.Pic();
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        QCOMPARE(PuzzelNaam, QStringLiteral("Reis"));
+        QVERIFY(form.DelKnop->isEnabled());
+        form.CancelKnop_Click();
+        QVERIFY(form.Unloaded());
+        QCOMPARE(PuzzelNaam, QStringLiteral("Reis")); // it stays so
+        QVERIFY(bord.Pic() == pic);
+        QCOMPARE(bord.Venster.Bestandsnaam->text(), QStringLiteral("Puzzelnaam"));
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
+    }
+
+    void aSavedPuzzleComesBackWhole()
+    {
+        Bord bord;
+        bord.Begin(Kruiswoord, 9, 12);
+        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Klik(Qt::RightButton, 3, 4);
+        SaveForm bewaar;
+        bewaar.Text1->setText(QStringLiteral("mijn PUZZEL"));
+        bewaar.SaveKnop_Click();
+        const QImage pic = bord.Pic(), groot = bord.Groot();
+        bord.Begin(Zweeds, 16, 19);
+        bord.Venster.WisRijen();
+        PuzzelGewijzigd = true;
+        bord.Klik(Qt::LeftButton, 1, 1);
+        bord.Venster.SoortPlaatsing->close();
+
+        Open(QStringLiteral("Mijn puzzel")); // the bitmaps are spelled as they were typed
+        QVERIFY(bord.Pic() == pic);
+        QVERIFY(bord.Groot() == groot);
+        QCOMPARE(PuzzelType, Kruiswoord);
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(9, 12));
+        QCOMPARE(bord.Rij(0), TweeRijen[0].join(u'|'));
+        QCOMPARE(bord.Rij(1), TweeRijen[1].join(u'|'));
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("2 Items"));
+        QCOMPARE(bord.Venster.Label12->Caption(), QStringLiteral("Soortpuzzel : Kruiswoord"));
+        QCOMPARE(bord.Venster.windowTitle(), QStringLiteral("Zweedse Raster Atelier (9x12)"));
+        QCOMPARE(PuzzelNaam, QStringLiteral("Mijn puzzel"));
+        QCOMPARE(bord.Venster.Bestandsnaam->text(), QStringLiteral("Mijn puzzel"));
+        QVERIFY(bord.Venster.Shape1->isHidden());
+        QVERIFY(bord.Venster.Line1->isHidden());
+        QVERIFY(PuzzelGewijzigd); // opening leaves it alone
+    }
+
+    void whatAKindShows_data()
+    {
+        QTest::addColumn<int>("soort");
+        QTest::addColumn<QString>("opschrift");
+        QTest::newRow("1") << 1 << "Soortpuzzel : Zweeds";
+        QTest::newRow("2") << 2 << "Soortpuzzel : Woordzoeker";
+        QTest::newRow("3") << 3 << "Soortpuzzel : Kruiswoord";
+        QTest::newRow("4") << 4 << "Soortpuzzel : Sudoku";
+        QTest::newRow("5") << 5 << "Soortpuzzel : Filippine";
+        QTest::newRow("another") << 77 << "Soortpuzzel : Filippine"; // left alone
+    }
+    void whatAKindShows()
+    {
+        QFETCH(int, soort);
+        QFETCH(QString, opschrift);
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Eerst"), Filippine, 16, 19);
+        SchrijfPuzzel(bord, QStringLiteral("Sudoku"), Sudoku, 9, 9);
+        SchrijfPuzzel(bord, QStringLiteral("Dan"), static_cast<quint8>(soort), 9, 9);
+        Open(QStringLiteral("Sudoku"));
+        Open(QStringLiteral("Eerst"));
+        Open(QStringLiteral("Dan"));
+        QCOMPARE(PuzzelType, quint8(soort));
+        QCOMPARE(bord.Venster.Label12->Caption(), opschrift);
+        QCOMPARE(!bord.Venster.Frame9->isHidden(), soort == 4);
+        QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), soort == 5);
+        QCOMPARE(bord.Venster.EditDeleteLetters->isEnabled(), soort == 5);
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
+    void fiveHeaderLinesGiveAnEmptyList()
+    {
+        Bord bord;
+        bord.Venster.VoegRijenToe(TweeRijen);
+        SchrijfPuzzel(bord, QStringLiteral("Leeg"), Zweeds, 10, 11, {});
+        Open(QStringLiteral("Leeg"));
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("0 Items"));
+        QCOMPARE(bord.Pic().size(), QSize(301, 331)); // without bitmaps: the empty board
+        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(4, 4)));
+    }
+
+    void anEmptyFolderDoesNothing()
+    {
+        Bord bord;
+        PuzzelNaam = QStringLiteral("oud");
+        OpenFile form;
+        QCOMPARE(form.List1->ListCount(), 0);
+        form.OkKnop_Click();
+        QVERIFY(!form.Unloaded());
+        QCOMPARE(PuzzelNaam, QStringLiteral("oud"));
+        QDir(bord.Bank.Map() + QStringLiteral("/Puzzels")).removeRecursively();
+        OpenFile zonderMap;
+        QCOMPARE(zonderMap.List1->ListCount(), 0);
+    }
+
+    void okWithoutAChoiceEmptiesTheName()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        PuzzelNaam = QStringLiteral("oud");
+        OpenFile form;
+        form.OkKnop_Click();
+        QVERIFY(!form.Unloaded());
+        QVERIFY(PuzzelNaam.isEmpty());
+        QCOMPARE(BoardWidth, 16);
+    }
+
+    void aDoubleClickOpens()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        OpenFile form;
+        form.show();
+        const QPoint midden = form.List1->visualRect(form.List1->model()->index(0, 0)).center();
+        QTest::mouseClick(form.List1->viewport(), Qt::LeftButton, {}, midden);
+        QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {}, midden);
+        QVERIFY(form.Unloaded());
+        QCOMPARE(BoardWidth, 9);
+    }
+
+    void bitmapsOfAllKinds_data()
+    {
+        QTest::addColumn<QByteArray>("bitmap");
+        QTest::newRow("missing") << QByteArray();
+        QTest::newRow("empty") << QByteArray("");
+        QTest::newRow("binary") << QByteArray(3000, '\xAB');
+        QTest::newRow("text") << QByteArray("BM geen bitmap");
+    }
+    void bitmapsOfAllKinds()
+    {
+        QFETCH(QByteArray, bitmap);
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        if (!bitmap.isNull()) {
+            bord.Bank.Schrijf(QStringLiteral("Puzzels/Reis1.bmp"), bitmap);
+            bord.Bank.Schrijf(QStringLiteral("Puzzels/Reis2.bmp"), bitmap);
+        }
+        bord.Klik(Qt::RightButton, 1, 1);
+        Open(QStringLiteral("Reis"));
+        Bord leeg;
+        leeg.Begin(Zweeds, 9, 9);
+        QVERIFY(bord.Pic() == leeg.Pic()); // the canvas keeps what the set-up drew
+        QVERIFY(bord.Groot() == leeg.Groot());
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
+    void truncatedBitmapsAreNoPictures()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        SchrijfBeeld(bord, QStringLiteral("Reis1.bmp"), QSize(271, 271), qRgb(9, 9, 9));
+        const QByteArray heel = bord.Bank.Inhoud(QStringLiteral("Puzzels/Reis1.bmp"));
+        for (const qsizetype lengte : {heel.size() - 1, heel.size() / 2, qsizetype(60), qsizetype(20)}) {
+            bord.Bank.Schrijf(QStringLiteral("Puzzels/Reis1.bmp"), heel.first(lengte));
+            Open(QStringLiteral("Reis"));
+            QVERIFY(!HeeftInkt(bord.Pic(), Binnen(4, 4)));
+        }
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
+    void aBitmapOfAnotherSize()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Klein"), Zweeds, 9, 9);
+        SchrijfBeeld(bord, QStringLiteral("Klein1.bmp"), QSize(40, 50), qRgb(1, 2, 3));
+        SchrijfBeeld(bord, QStringLiteral("Klein2.bmp"), QSize(3000, 3000), qRgb(4, 5, 6));
+        Open(QStringLiteral("Klein"));
+        QCOMPARE(bord.Pic().size(), QSize(271, 271));
+        QCOMPARE(InktVlak(bord.Pic(), QRect(0, 0, 271, 271)), QRect(0, 0, 40, 50));
+        QCOMPARE(bord.Groot().size(), QSize(1083, 1083));
+        QVERIFY(!HeeftInkt(bord.Groot(), QRect(0, 0, 1083, 1083), qRgb(4, 5, 6)));
+    }
+
+    void damagedListsOpenQuietly_data()
+    {
+        QTest::addColumn<QByteArray>("inhoud");
+        QTest::addColumn<QSize>("maat");
+        QTest::addColumn<int>("soort");
+        QTest::addColumn<int>("rijen");
+        QTest::newRow("empty") << QByteArray() << QSize(16, 19) << 3 << 0;
+        QTest::newRow("binary") << QByteArray(3000, '\xFE') << QSize(16, 19) << 3 << 0;
+        QTest::newRow("width no number") << QByteArray("b\r\n2\r\nnegen\r\n9\r\n-\r\n") << QSize(16, 19) << 2 << 0;
+        QTest::newRow("cut behind the width") << QByteArray("b\r\n2\r\n10\r\n") << QSize(10, 19) << 2 << 0;
+        QTest::newRow("size 0") << QByteArray("b\r\n2\r\n0\r\n0\r\n-\r\n") << QSize(0, 0) << 2 << 0;
+        QTest::newRow("commas") << QByteArray("b,2,10,11,-,A-01 / 1-H,dier,aap,-,-,,,,,") << QSize(10, 11) << 2 << 1;
+    }
+    void damagedListsOpenQuietly()
+    {
+        QFETCH(QByteArray, inhoud);
+        QFETCH(QSize, maat);
+        QFETCH(int, soort);
+        QFETCH(int, rijen);
+        Bord bord;
+        PuzzelType = Kruiswoord;
+        bord.Venster.ToonSoort();
+        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Bank.Schrijf(QStringLiteral("Puzzels/Stuk.lst"), inhoud);
+        Open(QStringLiteral("Stuk"));
+        QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
+        QCOMPARE(PuzzelType, quint8(soort));
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), rijen);
+        QCOMPARE(bord.Venster.windowTitle(),
+                 QStringLiteral("Zweedse Raster Atelier (%1x%2)").arg(maat.width()).arg(maat.height()));
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        // A header that was damaged leaves the caption as it stood.
+        const bool kopHeel = inhoud.contains('-');
+        QCOMPARE(bord.Venster.Label12->Caption(),
+                 SoortVan(kopHeel && !inhoud.contains("negen") ? quint8(soort) : Kruiswoord)->Opschrift);
+    }
+
+    void aFileThatVanishedOpensQuietly()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Weg"), Zweeds, 9, 9);
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        QFile::remove(bord.Bank.Map() + QStringLiteral("/Puzzels/Weg.lst"));
+        form.OkKnop_Click();
+        QVERIFY(form.Unloaded());
+        QCOMPARE(BoardWidth, 16);
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
+    void sizesThatNoBoardCanHaveKeepThePuzzle_data()
+    {
+        QTest::addColumn<QByteArray>("breedte");
+        QTest::addColumn<int>("fout");
+        QTest::newRow("negative") << QByteArray("-1") << int(Fout::OngeldigeWaarde);
+        QTest::newRow("hundred thousand") << QByteArray("100000") << int(Fout::GeheugenVol);
+        QTest::newRow("largest") << QByteArray("2147483647") << int(Fout::GeheugenVol);
+    }
+    void sizesThatNoBoardCanHaveKeepThePuzzle()
+    {
+        QFETCH(QByteArray, breedte);
+        QFETCH(int, fout);
+        Bord bord;
+        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Klik(Qt::RightButton, 1, 1);
+        const QImage pic = bord.Pic(), groot = bord.Groot();
+        bord.Bank.Schrijf(QStringLiteral("Puzzels/Groot.lst"),
+                          "b\r\n2\r\n" + breedte + "\r\n19\r\n-\r\nx\r\ny\r\nz\r\n-\r\n-\r\n");
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), fout);
+        QVERIFY(!form.Unloaded());
+        QVERIFY(bord.Pic() == pic);
+        QVERIFY(bord.Groot() == groot);
+        QCOMPARE(PuzzelType, Zweeds);
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(16, 19));
+        QCOMPARE(bord.Rij(0), TweeRijen[0].join(u'|'));
+    }
+
+    void aHugeListOpens()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, QStringLiteral("Reus"), Zweeds, 9, 9, QList<QStringList>(100000, TweeRijen[0]));
+        Open(QStringLiteral("Reus"));
+        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("100000 Items"));
+    }
+
+    void deletingAPuzzle()
+    {
+        Bord bord;
+        for (const char *naam : {"Boom.lst", "boom1.BMP", "BOOM2.bmp", "Boom3.bmp", "Zee.lst", "Zee1.bmp"})
+            bord.Bank.Schrijf(QStringLiteral("Puzzels/") + QLatin1String(naam), "x");
+        QFile foto(bord.Bank.Thuis() + QStringLiteral("/Pictures/Boom.jpg"));
+        QVERIFY(foto.open(QIODevice::WriteOnly));
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
+        form.DelKnop_Click();
+        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 6);
+        QCOMPARE(form.List1->ListCount(), 2);
+        form.DelKnop_Click();
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 2);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Wilt je deze puzzel 'Boom' verwijderen?"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral("Delete"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
+        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).join(u' '),
+                 QStringLiteral("Boom3.bmp Zee.lst Zee1.bmp"));
+        QVERIFY(foto.exists());
+        QCOMPARE(Namen(form), QStringList{QStringLiteral("Zee")});
+        QVERIFY(!form.Unloaded());
+        QCOMPARE(form.List1->ListIndex(), -1); // nothing is selected then
+        form.DelKnop_Click();
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 2); // and the next press stops at once
+    }
+};
+
+RASTER_TEST(tst_OpenFile)
+#include "tst_OpenFile.moc"
