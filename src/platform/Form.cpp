@@ -23,6 +23,7 @@ Form::Form(const QString &naam, const QString &titel, int breedte, int hoogte, Q
     QPalette palet = palette();
     palet.setColor(QPalette::Window, achtergrond);
     setPalette(palet);
+    connect(this, &QDialog::finished, this, [this] { unloaded_ = true; }); // also when the person closes it
 
     const QSize maat(Twips::NaarPixels(breedte - FrameWidth),
                      Twips::NaarPixels(hoogte - FrameHeight - (menuBalk ? MenuHeight : 0)));

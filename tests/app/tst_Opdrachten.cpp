@@ -1,0 +1,276 @@
+#include "app/Opdrachten.h"
+#include "app/Opstarten.h"
+#include "editors/TekstForm.h"
+#include "editors/VakForm.h"
+#include "support/Bestuurder.h"
+#include "support/Bord.h"
+
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QGuiApplication>
+#include <QMenuBar>
+#include <QRegularExpression>
+#include <QSignalSpy>
+
+/// Takes what would go to the system's shell.
+class Schil : public QObject
+{
+    Q_OBJECT
+public:
+    Schil()
+    {
+        for (const QString &schema : Schemas)
+            QDesktopServices::setUrlHandler(schema, this, "Open");
+    }
+    ~Schil() override
+    {
+        for (const QString &schema : Schemas)
+            QDesktopServices::unsetUrlHandler(schema);
+    }
+    QList<QUrl> Geopend;
+
+public slots:
+    void Open(const QUrl &url) { Geopend += url; }
+
+private:
+    const QStringList Schemas{QStringLiteral("https"), QStringLiteral("file"), QStringLiteral("mailto")};
+};
+
+/// The program as it runs.
+struct Programma
+{
+    Bord Scherm;
+    Schil Shell;
+
+    Programma()
+    {
+        LaadMain();
+        VerbindOpdrachten();
+        Scherm.Venster.show();
+    }
+    MainForm &Main() { return Scherm.Venster; }
+    QByteArray Instellingen() const { return Scherm.Bank.Inhoud(QStringLiteral("Rasteratelier.ini")); }
+};
+
+class tst_Opdrachten : public QObject
+{
+    Q_OBJECT
+private slots:
+    void menuItemsWithoutACommandAreDisabled()
+    {
+        Programma programma;
+        QStringList uit;
+        for (const QAction *menu : programma.Main().findChild<QMenuBar *>()->actions())
+            if (menu->menu())
+                for (const QAction *item : menu->menu()->actions())
+                    if (!item->isSeparator() && !item->isEnabled())
+                        uit += item->objectName();
+        QCOMPARE(uit.join(u' '), QStringLiteral("FilePrint ShowOrgineel EditDeleteRaster EditDeleteLetters "
+                                                "BiebInternZoeken BiebWoordzoeker BiebOntbrekendeLetters "
+                                                "BiebSpreekwoorden BiebChemisch ToolsAdd ToolsConfig ToolsKladblok "
+                                                "ToolsAutoWoordzoeker Export(1)"));
+    }
+
+    void menuItemsOpenTheirWindow_data()
+    {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("venster");
+        QTest::newRow("FileNew") << "FileNew"
+                                 << "NieuwForm";
+        QTest::newRow("FileOpen") << "FileOpen"
+                                  << "OpenFile";
+        QTest::newRow("FileSave") << "FileSave"
+                                  << "SaveForm";
+    }
+    void menuItemsOpenTheirWindow()
+    {
+        QFETCH(QString, item);
+        QFETCH(QString, venster);
+        Programma programma;
+        Bestuurder bestuurder(venster, [](Form &form) { QVERIFY(form.isModal()); });
+        Vind<QAction>(programma.Main(), item)->trigger();
+        QVERIFY(bestuurder.Gezien());
+    }
+
+    void documentsAndAddresses_data()
+    {
+        QTest::addColumn<QString>("item");
+        QTest::addColumn<QString>("doel");
+        QTest::newRow("dictionary") << "BiebOnlineWoordenboek"
+                                    << "https://[a-z.]+/puzzelwoordenboek/";
+        QTest::newRow("software") << "HelpMeerSoftware"
+                                  << "https://[a-z.]+/software\\.htm";
+        QTest::newRow("help") << "HelpHelp"
+                              << "file://.*/app/Data/help\\.pdf";
+        QTest::newRow("word lists") << "HelpWoordlijstAanmaken"
+                                    << "file://.*/app/Data/Woordlijst Importeren\\.pdf";
+        QTest::newRow("mail")
+            << "HelpMail"
+            << "mailto:[a-z]+@[a-z.]+\\?subject=Rasteratelier V\\d+\\.\\d+\\.\\d+ &body=Hallo Tessel,";
+    }
+    void documentsAndAddresses()
+    {
+        QFETCH(QString, item);
+        QFETCH(QString, doel);
+        Programma programma;
+        GebruikersNaam.clear();
+        qputenv("USER", "tessel");
+        Vind<QAction>(programma.Main(), item)->trigger();
+        QCOMPARE(programma.Shell.Geopend.size(), 1);
+        const QString geopend = programma.Shell.Geopend[0].toString(QUrl::FullyDecoded);
+        QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(doel)).match(geopend).hasMatch(),
+                 qPrintable(geopend));
+        if (item == QLatin1String("HelpMail"))
+            QCOMPARE(GebruikersNaam, QStringLiteral("tessel"));
+    }
+
+    void theHelpButtonOpensTheManual()
+    {
+        Programma programma;
+        programma.Main().HelpKnop->click();
+        QCOMPARE(programma.Shell.Geopend.size(), 1);
+        QVERIFY(programma.Shell.Geopend[0].toLocalFile().endsWith(QStringLiteral("/Data/help.pdf")));
+        QVERIFY(qAbs(programma.Scherm.Bank.TestKlok.Gewacht() - 0.2) < 1e-6);
+    }
+
+    void theAboutButtonOpensItsWindow()
+    {
+        Programma programma;
+        Bestuurder bestuurder(QStringLiteral("AboutForm"), [](Form &) {});
+        programma.Main().AboutKnop->click();
+        QVERIFY(bestuurder.Gezien());
+    }
+
+    void specialCharacters()
+    {
+        Programma programma;
+        programma.Main().HelpSpecialeTekens->trigger();
+        QVERIFY(programma.Scherm.Bank.Script.Gezien[0].Tekst.startsWith(QStringLiteral("Bijzondere combinaties")));
+    }
+
+    void theVisibleBoardGoesToTheClipboard()
+    {
+        Programma programma;
+        programma.Scherm.Klik(Qt::RightButton, 3, 4);
+        programma.Main().ToolsKlemboard->trigger();
+        const QImage klembord = QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32);
+        QVERIFY(klembord == programma.Scherm.Pic()); // at screen size, with its grid lines
+        QCOMPARE(klembord.pixel(30, 15), qRgb(150, 150, 150));
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst,
+                 QStringLiteral("Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."));
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
+    }
+
+    void thePopUpOpensItsEditor_data()
+    {
+        QTest::addColumn<int>("index");
+        QTest::addColumn<QString>("venster");
+        QTest::newRow("1") << 1 << "VakForm";
+        QTest::newRow("2") << 2 << "TekstForm";
+    }
+    void thePopUpOpensItsEditor()
+    {
+        QFETCH(int, index);
+        QFETCH(QString, venster);
+        Programma programma;
+        programma.Scherm.Klik(Qt::LeftButton, 3, 4);
+        programma.Main().SoortPlaatsing->close();
+        bool kader = false;
+        Bestuurder bestuurder(venster, [&](Form &form) {
+            kader = programma.Main().Shape1->isVisible();
+            QVERIFY(form.windowTitle().endsWith(QStringLiteral("D-05 / 68")));
+        });
+        programma.Main().SoortVakTekst[static_cast<std::size_t>(index)]->trigger();
+        QVERIFY(bestuurder.Gezien());
+        QVERIFY(kader); // the frame stays while the editor is open
+        QVERIFY(programma.Main().Shape1->isHidden());
+    }
+
+    void cancellingThePopUpOnlyHidesTheFrame()
+    {
+        Programma programma;
+        programma.Scherm.Klik(Qt::LeftButton, 3, 4);
+        programma.Main().SoortPlaatsing->close();
+        const QImage pic = programma.Scherm.Pic();
+        programma.Main().SoortVakTekst[9]->trigger();
+        QVERIFY(programma.Main().Shape1->isHidden());
+        QVERIFY(programma.Scherm.Pic() == pic);
+        QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty());
+    }
+
+    void theFillAsksFirst()
+    {
+        Programma programma;
+        programma.Scherm.Begin(Woordzoeker, 9, 9);
+        for (const Antwoord antwoord : {Antwoord::Nee, Antwoord::Ja}) {
+            programma.Scherm.Klik(Qt::LeftButton, 0, 0);
+            programma.Main().SoortPlaatsing->close();
+            programma.Scherm.Bank.Script.Antwoorden = {antwoord};
+            programma.Main().SoortVakTekst[5]->trigger();
+            QCOMPARE(HeeftInkt(programma.Scherm.Pic(), Binnen(8, 8)), antwoord == Antwoord::Ja);
+            QVERIFY(programma.Main().Shape1->isHidden());
+        }
+        const Bericht &vraag = programma.Scherm.Bank.Script.Gezien[0];
+        QCOMPARE(vraag.Tekst, QStringLiteral("Wil je alle lege vakjes opvullen met willekeurige letters?"));
+        QCOMPARE(vraag.Titel, QStringLiteral("Fill"));
+        QCOMPARE(vraag.Soort, Knoppen::JaNee);
+    }
+
+    void theThreeWaysToEndSaveTheSettings_data()
+    {
+        QTest::addColumn<QString>("manier");
+        QTest::addColumn<double>("gewacht");
+        QTest::newRow("menu") << "menu" << 0.0;
+        QTest::newRow("button") << "knop" << 0.4;
+        QTest::newRow("close box") << "kruis" << 0.0;
+    }
+    void theThreeWaysToEndSaveTheSettings()
+    {
+        QFETCH(QString, manier);
+        QFETCH(double, gewacht);
+        for (const Antwoord antwoord : {Antwoord::Nee, Antwoord::Ja}) {
+            Programma programma;
+            const QByteArray ervoor = programma.Instellingen();
+            KleurVakjes = 2;
+            PuzzelGewijzigd = true;
+            programma.Scherm.Bank.Script.Antwoorden = {antwoord};
+            if (manier == QLatin1String("menu"))
+                programma.Main().FileExit->trigger();
+            else if (manier == QLatin1String("knop"))
+                programma.Main().ExitKnop->click();
+            else
+                programma.Main().close();
+            QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
+            QCOMPARE(programma.Main().isVisible(), antwoord == Antwoord::Nee);
+            QCOMPARE(programma.Instellingen() == ervoor, antwoord == Antwoord::Nee);
+            QVERIFY(qAbs(programma.Scherm.Bank.TestKlok.Gewacht() - gewacht) < 1e-6);
+        }
+    }
+
+    void aFailureInAnEditorKeepsWindowAndPuzzle()
+    {
+        Programma programma;
+        programma.Scherm.Klik(Qt::LeftButton, 3, 4);
+        programma.Main().SoortPlaatsing->close();
+        const QImage pic = programma.Scherm.Pic();
+        bool bleef = false;
+        Bestuurder bestuurder(QStringLiteral("TekstForm"), [&](Form &form) {
+            auto &tekst = dynamic_cast<TekstForm &>(form);
+            tekst.Text1->setText(QStringLiteral("lang"));
+            tekst.Text2->setText(QString(300, u'a'));
+            tekst.OkKnop->click();
+            bleef = form.isVisible();
+        });
+        programma.Main().SoortVakTekst[2]->trigger();
+        QVERIFY(bleef);
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+        QVERIFY(programma.Scherm.Bank.Script.Gezien[0].Tekst.startsWith(QStringLiteral("Fout 6 bij 'Ok': Overloop")));
+        QVERIFY(programma.Scherm.Pic() == pic);
+        QVERIFY(programma.Main().isVisible());
+    }
+};
+
+RASTER_TEST(tst_Opdrachten)
+#include "tst_Opdrachten.moc"

@@ -1,0 +1,128 @@
+#include "app/Opstarten.h"
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "support/Bord.h"
+
+#include <QDir>
+
+static const QByteArray Begin = "\"Tessel Hoeksma Software 2017\"\r\n\"--------------------------\"\r\n";
+
+/// The window as the program makes it, on a folder of its own.
+struct Start
+{
+    Testbank Bank;
+    MainForm Venster;
+
+    Start() { AppPath = Bank.Map(); }
+    QByteArray Instellingen() const { return Bank.Inhoud(QStringLiteral("Rasteratelier.ini")); }
+};
+
+class tst_Opstarten : public QObject
+{
+    Q_OBJECT
+private slots:
+    void theFirstStartDrawsTheBoardAndWritesTheDefaults()
+    {
+        Start start;
+        LaadMain();
+        QCOMPARE(start.Venster.Pic->Image().size(), QSize(481, 571));
+        QCOMPARE(start.Venster.PicGroot->Image().size(), QSize(1923, 2283));
+        QCOMPARE(start.Venster.Pic->GetPixel(30, 15), qRgb(150, 150, 150));
+        QCOMPARE(PuzzelType, Zweeds);
+        QCOMPARE(start.Instellingen(), Begin + "230,250,190\r\n1\r\n\"" + PaginaTekst.toLatin1() + "\"\r\n");
+        QVERIFY(!PaginaTekst.isEmpty());
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
+    void settingsAreReadAtTheStart()
+    {
+        Start start;
+        const QByteArray bewaard = Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n";
+        start.Bank.Schrijf(QStringLiteral("RasterAtelier.INI"), bewaard); // found ignoring case
+        LaadMain();
+        QCOMPARE(OrgineelRood, qint16(1));
+        QCOMPARE(OrgineelGroen, qint16(2));
+        QCOMPARE(OrgineelBlauw, qint16(3));
+        QCOMPARE(KleurVakjes, quint8(2));
+        QCOMPARE(PaginaTekst, QStringLiteral("mijn pagina"));
+        QCOMPARE(start.Bank.Inhoud(QStringLiteral("RasterAtelier.INI")), bewaard);
+    }
+
+    void aDamagedFileEndsTheStartAndStaysAsItIs_data()
+    {
+        QTest::addColumn<QByteArray>("inhoud");
+        QTest::newRow("empty") << QByteArray();
+        QTest::newRow("cut") << Begin + "230,250";
+        QTest::newRow("words") << Begin + "rood,groen,blauw\r\n1\r\n\"x\"\r\n";
+        QTest::newRow("binary") << QByteArray(1000, '\x9D');
+    }
+    void aDamagedFileEndsTheStartAndStaysAsItIs()
+    {
+        QFETCH(QByteArray, inhoud);
+        Start start;
+        start.Bank.Schrijf(QStringLiteral("Rasteratelier.ini"), inhoud);
+        QString tekst;
+        try {
+            LaadMain();
+        } catch (const Fout &fout) {
+            tekst = fout.tekst();
+        }
+        QVERIFY(tekst.contains(QStringLiteral("Rasteratelier.ini")));
+        QCOMPARE(start.Instellingen(), inhoud);
+        QCOMPARE(OrgineelRood, qint16(230)); // nothing half-read
+    }
+
+    void anUnchangedPuzzleEndsWithoutAQuestion()
+    {
+        Start start;
+        LaadMain();
+        QVERIFY(SluitMain());
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
+    void aChangedPuzzleAsks()
+    {
+        Start start;
+        LaadMain();
+        start.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        const QImage pic = start.Venster.Pic->Image();
+        const QByteArray instellingen = start.Instellingen();
+        PuzzelGewijzigd = true;
+        KleurVakjes = 3;
+        start.Bank.Script.Antwoorden = {Antwoord::Nee};
+        QVERIFY(!SluitMain());
+        QCOMPARE(start.Bank.Script.Gezien[0].Tekst, QStringLiteral("Puzzel is gewijzigd, wil je toch afsluiten?"));
+        QCOMPARE(start.Bank.Script.Gezien[0].Titel, QStringLiteral("Afsluiten"));
+        QCOMPARE(start.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
+        QVERIFY(PuzzelGewijzigd);
+        QVERIFY(start.Venster.Pic->Image() == pic);
+        QCOMPARE(start.Venster.ListView1->topLevelItemCount(), 1);
+        QCOMPARE(start.Instellingen(), instellingen); // nothing is written
+
+        start.Bank.Script.Antwoorden = {Antwoord::Ja};
+        QVERIFY(SluitMain());
+        QVERIFY(start.Instellingen().contains("230,250,190\r\n3\r\n"));
+    }
+
+    void afterTheEndEveryWaitIsGivenUp()
+    {
+        Start start;
+        LaadMain();
+        QVERIFY(SluitMain());
+        QVERIFY_THROWS_EXCEPTION(Afgebroken, Wachten(0.2));
+    }
+
+    void settingsThatCannotBeWrittenAreSaidAndDoNotKeepTheProgramOpen()
+    {
+        Start start;
+        LaadMain();
+        QVERIFY(QDir(start.Bank.Map()).removeRecursively());
+        QVERIFY(SluitMain());
+        QCOMPARE(start.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(start.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+        QVERIFY(start.Bank.Script.Gezien[0].Tekst.contains(QStringLiteral("instellingen")));
+    }
+};
+
+RASTER_TEST(tst_Opstarten)
+#include "tst_Opstarten.moc"
