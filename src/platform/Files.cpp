@@ -1,5 +1,6 @@
 #include "platform/Files.h"
 
+#include "platform/Bitmap.h"
 #include "platform/Getallen.h"
 
 #include <QBuffer>
@@ -8,9 +9,10 @@
 #include <QFileInfo>
 #include <QImageReader>
 #include <QStringDecoder>
-#include <QtEndian>
 
 #include <filesystem>
+#include <functional>
+#include <memory>
 
 namespace Files {
 
@@ -105,17 +107,23 @@ void MkDir(const QString &pad)
 
 // --- contents ---
 
+static std::unique_ptr<QFile> Geopend(const QString &pad)
+{
+    if (!FileExists(pad))
+        throw Fout(Fout::BestandNietGevonden, pad);
+    auto bestand = std::make_unique<QFile>(pad);
+    if (!bestand->open(QIODevice::ReadOnly))
+        throw Fout(Fout::GeenToegang, pad);
+    if (bestand->size() > GrootsteInhoud + 1024) // with room for the head of the largest picture
+        throw Fout(Fout::GeheugenVol, pad);
+    return bestand;
+}
+
 QByteArray Lees(const QString &pad)
 {
-    QFile bestand(pad);
-    if (!QFileInfo(pad).isFile())
-        throw Fout(Fout::BestandNietGevonden, pad);
-    if (!bestand.open(QIODevice::ReadOnly))
-        throw Fout(Fout::GeenToegang, pad);
-    if (bestand.size() > GrootsteInhoud)
-        throw Fout(Fout::GeheugenVol, pad);
-    QByteArray inhoud = bestand.readAll();
-    if (bestand.error() != QFileDevice::NoError)
+    const auto bestand = Geopend(pad);
+    QByteArray inhoud = bestand->readAll();
+    if (bestand->error() != QFileDevice::NoError)
         throw Fout(Fout::SchijfFout, pad);
     return inhoud;
 }
@@ -133,13 +141,16 @@ void Hernoem(const QString &pad, const QString &naam)
         throw Fout(Fout::GeenToegang, pad);
 }
 
-void Schrijf(const QString &pad, const QByteArray &inhoud)
+/// Writes the parts one behind the other beside the old file and puts that in its place at the end, so that a full disk
+/// spares the old one.
+static void SchrijfDelen(const QString &pad, std::initializer_list<QByteArrayView> delen)
 {
-    // Written beside the old file and put in its place at the end, so that a full disk spares the old one.
     QFile nieuw(pad + QStringLiteral(".nieuw~"));
     if (!nieuw.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw Fout(Fout::GeenToegang, pad);
-    const bool geschreven = nieuw.write(inhoud) == inhoud.size();
+    bool geschreven = true;
+    for (const QByteArrayView deel : delen)
+        geschreven = geschreven && nieuw.write(deel.data(), deel.size()) == deel.size();
     nieuw.close();
     if (!geschreven || !Verplaats(nieuw.fileName(), pad)) {
         nieuw.remove();
@@ -147,62 +158,56 @@ void Schrijf(const QString &pad, const QByteArray &inhoud)
     }
 }
 
+void Schrijf(const QString &pad, const QByteArray &inhoud)
+{
+    SchrijfDelen(pad, {inhoud});
+}
+
 // --- pictures ---
 
-/// A bitmap's head says how many bytes its pixels take; one that holds fewer is cut off. The image reader itself takes
-/// such a file for whole.
-static bool IsAfgekapt(const QByteArray &bmp)
+/// Gives the picture of a bitmap file to a user; it may look at the file itself and is not to be kept.
+static void MetBeeld(const QString &pad, const std::function<void(const QImage &)> &gebruik)
 {
-    constexpr int HeadSize = 54;
-    if (bmp.size() < HeadSize)
-        return true;
-    const auto veld = [&bmp](int plaats) { return qFromLittleEndian<qint32>(bmp.constData() + plaats); };
-    const qint64 rest = bmp.size() - veld(10), breedte = veld(18), hoogte = std::abs(qint64{veld(22)}),
-                 bits = veld(28) & 0xFFFF, compressie = veld(30);
-    if (compressie == 1 || compressie == 2) // run lengths, which take as many bytes as the head says
-        return rest < veld(34);
-    const qint64 rij = (breedte * bits + 31) / 32 * 4;
-    return hoogte > 0 && rij > rest / hoogte; // divided, as a product of what the head says may not fit
+    const auto bestand = Geopend(pad);
+    const uchar *bytes = bestand->size() > 0 ? bestand->map(0, bestand->size()) : nullptr;
+    Bitmap::Opgave opgave;
+    if (!bytes || !Bitmap::LeesKop(bytes, bestand->size(), opgave))
+        throw Fout(Fout::OngeldigeAfbeelding, pad);
+    if (qint64{opgave.Breedte} * std::abs(qint64{opgave.Hoogte}) * 4 > GrootsteInhoud)
+        throw Fout(Fout::GeheugenVol, pad);
+    QImage beeld = Bitmap::Blik(bytes, opgave);
+    if (beeld.isNull()) { // another kind of bitmap
+        QImageReader::setAllocationLimit(static_cast<int>(GrootsteInhoud >> 20));
+        beeld = QImageReader(bestand.get(), "bmp").read().convertToFormat(QImage::Format_RGB32);
+    }
+    if (beeld.isNull())
+        throw Fout(Fout::OngeldigeAfbeelding, pad);
+    gebruik(beeld);
 }
 
 QImage LoadPicture(const QString &pad)
 {
-    QByteArray inhoud = Lees(pad);
-    if (IsAfgekapt(inhoud))
-        throw Fout(Fout::OngeldigeAfbeelding, pad);
-    QBuffer buffer(&inhoud);
-    QImageReader lezer(&buffer, "bmp");
-    const qint64 breedte = lezer.size().width();
-    const qint64 hoogte = std::abs(qint64{lezer.size().height()}); // negative when the top row comes first
-    if (breedte <= 0 || hoogte == 0)
-        throw Fout(Fout::OngeldigeAfbeelding, pad);
-    if (breedte > GrootsteInhoud / 4 / hoogte)
-        throw Fout(Fout::GeheugenVol, pad);
-    QImageReader::setAllocationLimit(static_cast<int>(GrootsteInhoud >> 20));
-    const QImage beeld = lezer.read();
-    if (beeld.isNull())
-        throw Fout(Fout::OngeldigeAfbeelding, pad);
-    return beeld.convertToFormat(QImage::Format_RGB32);
-}
-
-static QByteArray Gecodeerd(const QImage &beeld, const char *vorm, int kwaliteit)
-{
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    if (!beeld.save(&buffer, vorm, kwaliteit))
-        throw Fout(Fout::OngeldigeAfbeelding);
-    return bytes;
+    QImage kopie;
+    MetBeeld(pad, [&kopie](const QImage &beeld) { kopie = beeld.copy(); });
+    return kopie;
 }
 
 void SavePicture(const QImage &beeld, const QString &pad)
 {
-    Schrijf(pad, Gecodeerd(beeld.convertToFormat(QImage::Format_RGB32), "bmp", -1));
+    const QImage pixels = beeld.convertToFormat(QImage::Format_RGB32);
+    SchrijfDelen(pad, {Bitmap::Kop(pixels.size()), QByteArrayView(pixels.constBits(), pixels.sizeInBytes())});
 }
 
 void BmpToJpeg(const QString &bitmap, const QString &jpeg, int kwaliteit)
 {
-    Schrijf(jpeg, Gecodeerd(LoadPicture(bitmap), "jpg", kwaliteit));
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    MetBeeld(bitmap, [&](const QImage &beeld) {
+        if (!beeld.save(&buffer, "jpg", kwaliteit))
+            throw Fout(Fout::OngeldigeAfbeelding, bitmap);
+    });
+    Schrijf(jpeg, bytes);
 }
 
 // --- typed fields ---

@@ -41,7 +41,7 @@ void Hernoem(const QString &pad, const QString &naam);
 
 /// A bitmap file. Raises Fout::OngeldigeAfbeelding when it is no whole picture.
 QImage LoadPicture(const QString &pad);
-/// Writes the picture as a bitmap file of 24 bits a pixel.
+/// Writes the picture as a bitmap file of 32 bits a pixel.
 void SavePicture(const QImage &beeld, const QString &pad);
 /// Makes a JPEG file of a bitmap file. @param kwaliteit 0..100
 void BmpToJpeg(const QString &bitmap, const QString &jpeg, int kwaliteit);

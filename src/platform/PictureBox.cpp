@@ -64,9 +64,13 @@ QImage &PictureBox::Beeld()
 void PictureBox::Vul(QRect vlak, QRgb kleur)
 {
     vlak &= rect();
+    if (vlak.isEmpty())
+        return;
     QImage &beeld = Beeld();
-    for (int y = vlak.top(); y <= vlak.bottom(); ++y)
-        std::fill_n(reinterpret_cast<QRgb *>(beeld.scanLine(y)) + vlak.left(), vlak.width(), kleur);
+    const qsizetype rij = beeld.bytesPerLine() / 4;
+    auto *naar = reinterpret_cast<QRgb *>(beeld.bits()) + vlak.top() * rij + vlak.left();
+    for (int y = vlak.top(); y <= vlak.bottom(); ++y, naar += rij)
+        std::fill_n(naar, vlak.width(), kleur);
     update(vlak);
 }
 
@@ -149,11 +153,14 @@ void PictureBox::Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wij
     const QImage pixels = bron.format() == QImage::Format_RGB32 ? bron : bron.convertToFormat(QImage::Format_RGB32);
     const QPoint verschuiving = doel - deel.topLeft();
     const QRect raak = (deel & pixels.rect()).translated(verschuiving) & rect();
+    if (raak.isEmpty())
+        return;
     QImage &beeld = Beeld();
-    for (int y = raak.top(); y <= raak.bottom(); ++y) {
-        const auto *van =
-            reinterpret_cast<const QRgb *>(pixels.constScanLine(y - verschuiving.y())) + raak.left() - verschuiving.x();
-        auto *naar = reinterpret_cast<QRgb *>(beeld.scanLine(y)) + raak.left();
+    const qsizetype rij = beeld.bytesPerLine() / 4, bronRij = pixels.bytesPerLine() / 4;
+    auto *naar = reinterpret_cast<QRgb *>(beeld.bits()) + raak.top() * rij + raak.left();
+    const auto *van = reinterpret_cast<const QRgb *>(pixels.constBits()) + (raak.top() - verschuiving.y()) * bronRij +
+                      raak.left() - verschuiving.x();
+    for (int y = raak.top(); y <= raak.bottom(); ++y, naar += rij, van += bronRij) {
         if (wijze == PlakWijze::Kopie)
             std::copy_n(van, raak.width(), naar);
         else

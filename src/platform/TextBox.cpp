@@ -1,6 +1,7 @@
 #include "platform/TextBox.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QEvent>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -41,6 +42,13 @@ void TextBox::resizeEvent(QResizeEvent *event)
 {
     QTextEdit::resizeEvent(event);
     Lines();
+}
+
+void TextBox::changeEvent(QEvent *event)
+{
+    QTextEdit::changeEvent(event);
+    if (event->type() == QEvent::FontChange)
+        wrapWidth_ = -1;
 }
 
 const std::vector<int> &TextBox::Lines() const

@@ -21,10 +21,11 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     const std::vector<int> &Lines() const;
 
     mutable std::vector<int> lineOfChar_; ///< of each character, and of the end of the text behind them
-    mutable int wrapWidth_ = -1;          ///< the width that lineOfChar_ holds for; -1 when the text has changed
+    mutable int wrapWidth_ = -1;          ///< the width that lineOfChar_ holds for; -1 when text or font has changed
 };

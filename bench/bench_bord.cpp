@@ -1,0 +1,111 @@
+// Drawing and saving beside the least that such work could cost.
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "board/Raster.h"
+#include "documents/SaveForm.h"
+#include "platform/Berichten.h"
+#include "platform/Klok.h"
+#include "platform/Uiterlijk.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <benchmark/benchmark.h>
+
+static void DrawBothBoards(benchmark::State &state)
+{
+    for (auto _ : state) {
+        TekenRaster(16, 19);
+        TekenGroot(16, 19);
+    }
+}
+BENCHMARK(DrawBothBoards)->Unit(benchmark::kMicrosecond);
+
+static void FillBothPictures(benchmark::State &state)
+{
+    QImage pic = Main().Pic->Image().copy(), groot = Main().PicGroot->Image().copy();
+    for (auto _ : state) {
+        pic.fill(Qt::white);
+        groot.fill(Qt::white);
+        benchmark::DoNotOptimize(groot.constBits());
+    }
+}
+BENCHMARK(FillBothPictures)->Unit(benchmark::kMicrosecond);
+
+/// Says yes to overwriting.
+class JaBerichten : public Berichten
+{
+public:
+    Antwoord Vraag(const QString &, Knoppen, Icoon, const QString &) override { return Antwoord::Ja; }
+};
+
+static QStringList Bestanden(const QString &map)
+{
+    return {map + QStringLiteral("/Puzzels/Proef.lst"), map + QStringLiteral("/Puzzels/Proef1.bmp"),
+            map + QStringLiteral("/Puzzels/Proef2.bmp"), map + QStringLiteral("/Pictures/Proef.jpg")};
+}
+
+static void WholeSaveWithoutItsWaits(benchmark::State &state)
+{
+    for (auto _ : state) {
+        state.PauseTiming();
+        for (const QString &pad : Bestanden(AppPath))
+            QFile::remove(pad);
+        SaveForm form;
+        QString naam = QStringLiteral("Proef");
+        state.ResumeTiming();
+        form.OpslaanPuzzel(naam);
+    }
+}
+BENCHMARK(WholeSaveWithoutItsWaits)->Unit(benchmark::kMillisecond)->MinTime(2);
+
+/// The bytes that a save writes, the bitmap in between among them, to new files.
+static void WriteTheSameBytes(benchmark::State &state)
+{
+    QList<QByteArray> inhouden;
+    for (const QString &pad : Bestanden(AppPath)) {
+        QFile bestand(pad);
+        if (!bestand.open(QIODevice::ReadOnly))
+            return state.SkipWithError("nothing was saved");
+        inhouden += bestand.readAll();
+    }
+    inhouden += inhouden[2];
+    const QString map = AppPath + QStringLiteral("/nieuw");
+    for (auto _ : state) {
+        state.PauseTiming();
+        QDir(map).removeRecursively();
+        QDir().mkpath(map);
+        state.ResumeTiming();
+        for (qsizetype i = 0; i < inhouden.size(); ++i) {
+            QFile bestand(map + QLatin1Char('/') + QString::number(i));
+            if (!bestand.open(QIODevice::WriteOnly) || bestand.write(inhouden[i]) != inhouden[i].size())
+                return state.SkipWithError("cannot write");
+        }
+    }
+}
+BENCHMARK(WriteTheSameBytes)->Unit(benchmark::kMillisecond)->MinTime(2);
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    StelUiterlijkIn();
+    QTemporaryDir map;
+    AppPath = map.path();
+    for (const char *naam : {"/Puzzels", "/Pictures"})
+        QDir().mkpath(AppPath + QLatin1String(naam));
+    qputenv("HOME", AppPath.toLocal8Bit());
+    DirecteKlok klok;
+    Klok::Gebruik(&klok);
+    JaBerichten berichten;
+    Berichten::Gebruik(&berichten);
+    MainForm main;
+    BeginWaarden();
+    TekenRaster(BoardWidth, BoardHeight);
+    TekenGroot(BoardWidth, BoardHeight);
+    benchmark::Initialize(&argc, argv);
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
