@@ -30,6 +30,16 @@ static void Banden(PictureBox &pic, int van1, int tot1, int van2, int tot2, QRgb
     pic.BoxFull(0, van2, pic.Width(), tot2, kleur);
 }
 
+/// Prints one number or letter of a ruler. Only its own place is wiped first, as a smoothed letter printed over itself
+/// grows bold.
+static void DrukOpLiniaal(PictureBox &strook, double x, double y, const QString &tekst)
+{
+    strook.BoxFull(x, y, x + strook.TextWidth(tekst), y + strook.TextHeight(tekst), strook.BackColor);
+    strook.CurrentX = x;
+    strook.CurrentY = y;
+    strook.Print(tekst);
+}
+
 // The strips are not cleared: what a larger earlier board left there is only hidden by their size. Wanted so.
 static void Linialen(int breedte, int hoogte)
 {
@@ -39,19 +49,13 @@ static void Linialen(int breedte, int hoogte)
 
     main.PicR->move(Twips::NaarPixels(plaatBreedte + 195), main.PicR->y());
     main.PicR->SetSize(main.PicR->Width(), plaatHoogte);
-    for (int i = 1; i <= hoogte; ++i) {
-        main.PicR->CurrentX = 90;
-        main.PicR->CurrentY = 210 + (i - 1) * VakMaat;
-        main.PicR->Print(RijTekst(i - 1));
-    }
+    for (int rij = 0; rij < hoogte; ++rij)
+        DrukOpLiniaal(*main.PicR, 90, 210 + rij * VakMaat, RijTekst(rij));
 
     main.PicO->move(main.PicO->x(), Twips::NaarPixels(plaatHoogte + 795));
     main.PicO->SetSize(plaatBreedte, main.PicO->Height());
-    for (int i = 1; i <= breedte; ++i) {
-        main.PicO->CurrentX = 255 + (i - 1) * VakMaat;
-        main.PicO->CurrentY = 30;
-        main.PicO->Print(QString(QChar(64 + i)));
-    }
+    for (int kolom = 0; kolom < breedte; ++kolom)
+        DrukOpLiniaal(*main.PicO, 255 + kolom * VakMaat, 30, QString(QChar(65 + kolom)));
     main.Label1->resize(Twips::NaarPixels(plaatBreedte), Twips::NaarPixels(plaatHoogte));
     main.Frame8->resize(Twips::NaarPixels(plaatBreedte), main.Frame8->height());
 }

@@ -1,6 +1,7 @@
 #include "platform/Berichten.h"
 
 #include <QApplication>
+#include <QGridLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -26,6 +27,9 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
     box.setWindowTitle(titel);
     box.setTextFormat(Qt::PlainText);
     box.setText(tekst);
+    // Wide enough for its title.
+    if (auto *opmaak = qobject_cast<QGridLayout *>(box.layout()))
+        opmaak->addItem(new QSpacerItem(280, 0), opmaak->rowCount(), 0, 1, opmaak->columnCount());
     if (icoon == Icoon::Kritiek)
         box.setIcon(QMessageBox::Critical);
     else if (knoppen == Knoppen::JaNee)

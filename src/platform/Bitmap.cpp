@@ -40,9 +40,13 @@ bool LeesKop(const uchar *bytes, qint64 aantal, Opgave &opgave)
     opgave.Hoogte = qFromLittleEndian<qint32>(bytes + InfoAt + 8);
     opgave.Bits = qFromLittleEndian<quint16>(bytes + InfoAt + 14);
     opgave.Compressie = qFromLittleEndian<quint32>(bytes + InfoAt + 16);
+    const qint64 rest = aantal - opgave.Begin;
+    if (opgave.Breedte <= 0 || opgave.Hoogte == 0)
+        return false;
+    if (opgave.Compressie == 1 || opgave.Compressie == 2) // run lengths, of which the head says how many bytes
+        return rest >= qFromLittleEndian<quint32>(bytes + InfoAt + 20);
     const qint64 rij = (qint64{opgave.Breedte} * opgave.Bits + 31) / 32 * 4;
-    return opgave.Breedte > 0 && opgave.Hoogte != 0 &&
-           (opgave.Compressie != 0 || aantal >= opgave.Begin + rij * std::abs(qint64{opgave.Hoogte}));
+    return rij <= rest / std::abs(qint64{opgave.Hoogte}); // divided, as the product may be too large for any number
 }
 
 QImage Blik(const uchar *bytes, const Opgave &opgave)

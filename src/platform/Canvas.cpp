@@ -36,18 +36,33 @@ int Canvas::Pixels(double afstand) const
     return static_cast<int>(std::lround(afstand / EenheidPerPixel()));
 }
 
+const QFont &Canvas::Font() const
+{
+    if (fontNaam_ != FontName || fontPunten_ != FontSize || fontVet_ != FontBold) {
+        font_ = Lettertype(FontName, FontSize, FontBold);
+        fontNaam_ = FontName;
+        fontPunten_ = FontSize;
+        fontVet_ = FontBold;
+    }
+    return font_;
+}
+
+static double CellHeight(const QFontMetricsF &maten)
+{
+    return std::round(maten.ascent() + maten.descent());
+}
+
 void Canvas::Print(const QString &tekst)
 {
-    const QFont font = Font();
-    const QFontMetricsF maten(font);
+    const QFontMetricsF maten(Font());
     const QPointF basislijn(Pixels(CurrentX), Pixels(CurrentY) + std::round(maten.ascent()));
     MetPainter([&](QPainter &painter) {
-        painter.setFont(font);
+        painter.setFont(Font());
         painter.setPen(QColor(ForeColor));
         painter.drawText(basislijn, tekst);
     });
     CurrentX = 0;
-    CurrentY += TextHeight(tekst);
+    CurrentY += CellHeight(maten) * EenheidPerPixel();
 }
 
 void Canvas::Print(int getal)
@@ -70,7 +85,5 @@ double Canvas::TextWidth(const QString &tekst) const
 
 double Canvas::TextHeight(const QString &tekst) const
 {
-    const QFontMetricsF maten(Font());
-    return std::round(maten.ascent() + maten.descent()) * EenheidPerPixel() *
-           static_cast<double>(tekst.count(u'\n') + 1);
+    return CellHeight(QFontMetricsF(Font())) * EenheidPerPixel() * static_cast<double>(tekst.count(u'\n') + 1);
 }

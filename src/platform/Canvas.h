@@ -54,7 +54,15 @@ protected:
     virtual void MetPainter(const std::function<void(QPainter &)> &teken) = 0;
     virtual void Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze) = 0;
 
-    QFont Font() const { return Lettertype(FontName, FontSize, FontBold); }
+    /// The font of the three settings above.
+    const QFont &Font() const;
     /// A distance on the surface to whole pixels, rounded to the nearest.
     int Pixels(double afstand) const;
+
+private:
+    // The last font that was asked for, and what it was asked for: it is dearer to make than to print with.
+    mutable QFont font_;
+    mutable QString fontNaam_;
+    mutable double fontPunten_ = 0;
+    mutable bool fontVet_ = false;
 };

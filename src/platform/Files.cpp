@@ -11,7 +11,6 @@
 #include <QStringDecoder>
 
 #include <filesystem>
-#include <functional>
 #include <memory>
 
 namespace Files {
@@ -114,7 +113,7 @@ static std::unique_ptr<QFile> Geopend(const QString &pad)
     auto bestand = std::make_unique<QFile>(pad);
     if (!bestand->open(QIODevice::ReadOnly))
         throw Fout(Fout::GeenToegang, pad);
-    if (bestand->size() > GrootsteInhoud + 1024) // with room for the head of the largest picture
+    if (bestand->size() > GrootsteBestand)
         throw Fout(Fout::GeheugenVol, pad);
     return bestand;
 }
@@ -165,48 +164,51 @@ void Schrijf(const QString &pad, const QByteArray &inhoud)
 
 // --- pictures ---
 
-/// Gives the picture of a bitmap file to a user; it may look at the file itself and is not to be kept.
-static void MetBeeld(const QString &pad, const std::function<void(const QImage &)> &gebruik)
+/// The picture in the bytes of a bitmap file; it may look at these bytes and must not outlive them.
+static QImage BeeldVan(QByteArrayView bytes, const QString &pad)
 {
-    const auto bestand = Geopend(pad);
-    const uchar *bytes = bestand->size() > 0 ? bestand->map(0, bestand->size()) : nullptr;
+    const auto *begin = reinterpret_cast<const uchar *>(bytes.data());
     Bitmap::Opgave opgave;
-    if (!bytes || !Bitmap::LeesKop(bytes, bestand->size(), opgave))
+    if (!Bitmap::LeesKop(begin, bytes.size(), opgave))
         throw Fout(Fout::OngeldigeAfbeelding, pad);
-    if (qint64{opgave.Breedte} * std::abs(qint64{opgave.Hoogte}) * 4 > GrootsteInhoud)
+    if (opgave.Breedte > GrootsteInhoud / 4 / std::abs(qint64{opgave.Hoogte}))
         throw Fout(Fout::GeheugenVol, pad);
-    QImage beeld = Bitmap::Blik(bytes, opgave);
+    QImage beeld = Bitmap::Blik(begin, opgave);
     if (beeld.isNull()) { // another kind of bitmap
+        QByteArray inhoud = QByteArray::fromRawData(bytes.data(), bytes.size());
+        QBuffer buffer(&inhoud);
         QImageReader::setAllocationLimit(static_cast<int>(GrootsteInhoud >> 20));
-        beeld = QImageReader(bestand.get(), "bmp").read().convertToFormat(QImage::Format_RGB32);
+        beeld = QImageReader(&buffer, "bmp").read().convertToFormat(QImage::Format_RGB32);
     }
     if (beeld.isNull())
         throw Fout(Fout::OngeldigeAfbeelding, pad);
-    gebruik(beeld);
+    return beeld;
 }
 
 QImage LoadPicture(const QString &pad)
 {
-    QImage kopie;
-    MetBeeld(pad, [&kopie](const QImage &beeld) { kopie = beeld.copy(); });
-    return kopie;
+    const QByteArray inhoud = Lees(pad);
+    return BeeldVan(inhoud, pad).copy();
 }
 
 void SavePicture(const QImage &beeld, const QString &pad)
 {
+    if (beeld.isNull())
+        throw Fout(Fout::OngeldigeAfbeelding, pad);
     const QImage pixels = beeld.convertToFormat(QImage::Format_RGB32);
     SchrijfDelen(pad, {Bitmap::Kop(pixels.size()), QByteArrayView(pixels.constBits(), pixels.sizeInBytes())});
 }
 
 void BmpToJpeg(const QString &bitmap, const QString &jpeg, int kwaliteit)
 {
+    const auto bestand = Geopend(bitmap);
+    const uchar *begin = bestand->size() > 0 ? bestand->map(0, bestand->size()) : nullptr;
+    const QImage beeld = BeeldVan(QByteArrayView(begin, begin ? bestand->size() : 0), bitmap);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    MetBeeld(bitmap, [&](const QImage &beeld) {
-        if (!beeld.save(&buffer, "jpg", kwaliteit))
-            throw Fout(Fout::OngeldigeAfbeelding, bitmap);
-    });
+    if (!beeld.save(&buffer, "jpg", kwaliteit))
+        throw Fout(Fout::OngeldigeAfbeelding, bitmap);
     Schrijf(jpeg, bytes);
 }
 

@@ -10,8 +10,9 @@
 /// Pad; what a path names need not exist. Failures are a Fout.
 namespace Files {
 
-/// The largest file and the largest picture that are taken in, in bytes.
-inline constexpr qint64 GrootsteInhoud = qint64{256} << 20;
+inline constexpr qint64 GrootsteInhoud = qint64{256} << 20; ///< the largest picture that there is, in bytes
+inline constexpr qint64 GrootsteBestand =
+    GrootsteInhoud + 1024; ///< the largest file that is read: that picture, with its head
 
 QByteArray NaarBytes(const QString &tekst); ///< to code page 1252; a character that it lacks becomes "?"
 QString NaarTekst(QByteArrayView bytes);    ///< from code page 1252; every byte gives one character
@@ -32,7 +33,7 @@ QStringList Lijst(const QString &map, const QString &patroon);
 void Kill(const QString &pad);
 void MkDir(const QString &pad);
 
-/// The whole content. Raises Fout::GeheugenVol above GrootsteInhoud.
+/// The whole content. Raises Fout::GeheugenVol above GrootsteBestand.
 QByteArray Lees(const QString &pad);
 /// Makes the file anew with this content, all or nothing: when the writing fails, the old file stays.
 void Schrijf(const QString &pad, const QByteArray &inhoud);

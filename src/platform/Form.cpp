@@ -114,6 +114,6 @@ void Form::Kleur(QWidget *control, QRgb achter, QRgb voor)
     QPalette palet = control->palette();
     palet.setColor(QPalette::Base, achter);
     palet.setColor(QPalette::Text, voor);
-    palet.setColor(QPalette::PlaceholderText, voor);
+    palet.setColor(QPalette::Disabled, QPalette::Text, qRgb(120, 120, 120));
     control->setPalette(palet);
 }

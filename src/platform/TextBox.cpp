@@ -24,7 +24,8 @@ QString TextBox::Text() const
 
 void TextBox::SetText(const QString &tekst)
 {
-    setPlainText(tekst);
+    if (toPlainText() != tekst) // what stands there already is no change
+        setPlainText(tekst);
 }
 
 int TextBox::LineCount() const

@@ -8,6 +8,9 @@
 void StelUiterlijkIn()
 {
     QApplication::setStyle(QStringLiteral("Fusion"));
-    QApplication::setPalette(QApplication::style()->standardPalette());
+    QPalette palet = QApplication::style()->standardPalette();
+    for (const QPalette::ColorRole rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+        palet.setColor(QPalette::Disabled, rol, qRgb(120, 120, 120)); // still to be read on our pale colours
+    QApplication::setPalette(palet);
     QApplication::setFont(Lettertype(QStringLiteral("Arial"), 8.25, false));
 }

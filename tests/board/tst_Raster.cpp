@@ -149,6 +149,15 @@ private slots:
         QVERIFY(bord.Venster.PicR->Image().copy(onder) == ervoor.copy(onder));
     }
 
+    void drawingTheRulersAgainDoesNotThickenThem()
+    {
+        Bord bord;
+        const QImage rijen = bord.Venster.PicR->Image(), kolommen = bord.Venster.PicO->Image();
+        bord.Begin(Zweeds, 16, 19);
+        QVERIFY(bord.Venster.PicR->Image() == rijen);
+        QVERIFY(bord.Venster.PicO->Image() == kolommen);
+    }
+
     void impossibleSizesChangeNothing_data()
     {
         QTest::addColumn<int>("breedte");

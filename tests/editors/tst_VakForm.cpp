@@ -162,6 +162,14 @@ private slots:
         QVERIFY(form.Pic->Image() == form.Image1); // the divider is gone
     }
 
+    void anotherKindWithoutATextIsNoChangeOfText()
+    {
+        Bord bord;
+        VakForm form;
+        form.HScroll1->setValue(5);
+        QCOMPARE(form.Label1->Caption(), QStringLiteral("Omschrijving"));
+    }
+
     void typingShowsTextAndLineCount_data()
     {
         QTest::addColumn<QString>("tekst");

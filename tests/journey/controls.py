@@ -1,0 +1,163 @@
+"""A program's windows as a person meets them: found through the accessibility tree, used with pointer and keys.
+
+To be imported when the desktop has started: the connection is made at once.
+"""
+import pyatspi
+from gi.repository import GLib
+
+from desktop import until
+
+Gone = (GLib.GError, NotImplementedError)  # a control that went away while it was asked something
+
+
+def quietly(question):
+    """The answer, or None when the control has gone."""
+    try:
+        return question()
+    except Gone:
+        return None
+
+
+class Control:
+    def __init__(self, accessible):
+        self.accessible = accessible
+
+    @property
+    def name(self):
+        return self.accessible.name
+
+    @property
+    def role(self):
+        return self.accessible.getRoleName()
+
+    def box(self):
+        """Left, top, width, height on the screen."""
+        extents = self.accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return extents.x, extents.y, extents.width, extents.height
+
+    def has(self, state):
+        return self.accessible.getState().contains(state)
+
+    def text(self):
+        return self.accessible.queryText().getText(0, -1)
+
+    def value(self):
+        return self.accessible.queryValue().currentValue
+
+    def children(self):
+        return [Control(child) for child in self.accessible if child]
+
+    def tree(self):
+        """This control and all below it, from top to bottom."""
+        yield self
+        for child in self.children():
+            yield from child.tree()
+
+    def all(self, role):
+        """All of a role that are shown, from top to bottom."""
+        self.accessible.clear_cache()
+        return [one for one in self.tree() if one.role == role and one.has(pyatspi.STATE_SHOWING)]
+
+    def names(self, role="label"):
+        return [one.name for one in self.all(role)]
+
+    def find(self, role, name):
+        """The one shown control of this role and name, waited for."""
+        def look():
+            found = quietly(lambda: [one for one in self.all(role) if one.name == name])
+            return found[0] if found and len(found) == 1 else None
+        return until(f"one {role} '{name}'", look)
+
+    def describe(self, depth=0):
+        line = "  " * depth + f"{self.role} '{self.name}' {quietly(self.box)}\n"
+        return line + "".join(child.describe(depth + 1) for child in self.children())
+
+
+class Program:
+    """A started program on a desktop."""
+
+    def __init__(self, desktop, command, log):
+        self.desktop = desktop
+        self.focused = []  # what got the focus, the last one at the end
+        pyatspi.Registry.registerEventListener(self.on_focus, "object:state-changed:focused")
+        self.process = desktop.start(command, stdout=log, stderr=log)
+        self.root = Control(until("the program on the accessibility bus", self.find_root))
+
+    def on_focus(self, event):
+        if event.detail1:
+            self.focused.append(event.source)
+
+    def find_root(self):
+        assert self.process.poll() is None, f"the program has ended with exit code {self.process.returncode}"
+        desktop = pyatspi.Registry.getDesktop(0)
+        desktop.clear_cache()
+        return quietly(lambda: next((one for one in desktop if one and one.get_process_id() == self.process.pid), None))
+
+    def describe(self):
+        """All that there is in the accessibility tree, as text."""
+        return quietly(self.root.describe) or "The program is not there any more.\n"
+
+    # Windows
+
+    def windows(self):
+        assert self.process.poll() is None, f"the program has ended with exit code {self.process.returncode}"
+        self.root.accessible.clear_cache()
+        return [one for one in self.root.children() if one.has(pyatspi.STATE_SHOWING)]
+
+    def window(self, title, shot=None):
+        """The window of this title, when it has the focus and lies where it is to stay. Kept as a picture."""
+        def look():
+            name, *place = self.desktop.active_window()
+            for one in self.windows():
+                if one.name == name == title and one.has(pyatspi.STATE_ACTIVE) and list(one.box()) == place:
+                    return one
+            return None
+        found = until(f"window '{title}'", lambda: quietly(look))
+        if shot:
+            self.desktop.shot(shot)
+        return found
+
+    def until_closed(self, title):
+        until(f"window '{title}' is closed",
+              lambda: title not in (quietly(lambda: [one.name for one in self.windows()]) or [title]))
+
+    def ended(self):
+        """The exit code, once the program has ended."""
+        until("the program ends", lambda: self.process.poll() is not None)
+        return self.process.returncode
+
+    # Menus
+
+    def menu(self, menu, item, shot=None):
+        """Chooses an item of the menu bar with the pointer."""
+        bar = self.windows()[0].find("menu item", menu)
+        self.desktop.click(*middle(bar.box()))
+        found = bar.find("menu item", item)
+        if shot:
+            self.desktop.shot(shot)
+        self.desktop.click(*middle(found.box()))
+
+    def popup(self, item, shot=None):
+        """Chooses an item of the pop-up that is open, with the pointer. Its items tell themselves when pointed at."""
+        left, top, width, _ = until("the pop-up", self.desktop.popup_box)
+        if shot:
+            self.desktop.shot(shot)
+        self.focused.clear()
+        self.desktop.point(left + width // 2, top + 8)
+        first = until("the first item of the pop-up", self.focused_item)
+        wanted = [one for one in Control(first.parent).children() if one.name == item]
+        assert len(wanted) == 1, f"{len(wanted)} items '{item}' in the pop-up"
+        place = middle(wanted[0].box())
+        self.desktop.point(*place)
+        until(f"the item '{item}' under the pointer", lambda: self.focused_item().name == item)
+        self.desktop.click(*place)
+
+    def focused_item(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
+        return self.focused[-1] if self.focused else None
+
+
+def middle(box):
+    left, top, width, height = box
+    return left + width // 2, top + height // 2

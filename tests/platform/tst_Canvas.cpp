@@ -1,0 +1,331 @@
+#include "platform/Canvas.h"
+#include "platform/PictureBox.h"
+#include "support/Testbank.h"
+
+#include <QFontInfo>
+#include <QFontMetricsF>
+#include <QRegularExpression>
+
+#include <cmath>
+
+static constexpr QRgb Wit = qRgb(255, 255, 255);
+static constexpr QRgb Rood = qRgb(255, 0, 0);
+
+/// A white surface of 400 x 200 pixels.
+class Doek : public PictureBox
+{
+public:
+    explicit Doek(ScaleModes mode = ScaleModes::Twips) : PictureBox(nullptr)
+    {
+        ScaleMode = mode;
+        SetSize(6000, 3000);
+        Cls();
+    }
+    QRect Inkt() const { return InktVlak(Image(), rect()); }
+};
+
+class TestCanvas : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void theFontIsTheOneMeant_data();
+    void theFontIsTheOneMeant();
+    void aSizeInPointsIsRoundedToPixels_data();
+    void aSizeInPointsIsRoundedToPixels();
+    void aNewCanvasWritesSmallBlackArial();
+    void theInkStaysInsideItsCell_data();
+    void theInkStaysInsideItsCell();
+    void theCellIsThatOfTheFont();
+    void anotherFontCountsAtOnce();
+    void theCellIsInTheUnitsOfTheSurface();
+    void textHasTheForeColor();
+    void textIsSmoothedInGrey();
+    void printingGoesToTheNextLine();
+    void linesBelowEachOtherDoNotTouch();
+    void aNumberLeavesRoomForItsSign();
+    void aNegativeNumberHasItsSign();
+    void textOutsideTheSurfaceIsLeftOut();
+    void aPictureIsCopied();
+    void aPictureIsAddedBitByBit();
+};
+
+void TestCanvas::theFontIsTheOneMeant_data()
+{
+    QTest::addColumn<QString>("naam");
+    QTest::addColumn<QString>("familie");
+    QTest::newRow("Arial") << QStringLiteral("Arial") << QStringLiteral("Liberation Sans");
+    QTest::newRow("Arial Narrow") << QStringLiteral("Arial Narrow") << QStringLiteral("Liberation Sans Narrow");
+    QTest::newRow("Courier New") << QStringLiteral("Courier New") << QStringLiteral("Liberation Mono");
+    QTest::newRow("its own name") << QStringLiteral("Liberation Mono") << QStringLiteral("Liberation Mono");
+}
+
+void TestCanvas::theFontIsTheOneMeant()
+{
+    QFETCH(QString, naam);
+    for (const double punten : {8.25, 12.0, 48.0})
+        for (const bool vet : {false, true}) {
+            const QFontInfo font(Lettertype(naam, punten, vet));
+            QTEST(font.family(), "familie");
+            QCOMPARE(font.bold(), vet);
+            QVERIFY(!font.italic());
+        }
+}
+
+void TestCanvas::aSizeInPointsIsRoundedToPixels_data()
+{
+    QTest::addColumn<double>("punten");
+    QTest::addColumn<int>("pixels");
+    const auto rij = [](double punten, int pixels) { QTest::addRow("%g", punten) << punten << pixels; };
+    rij(8.25, 11);
+    rij(9.75, 13);
+    rij(12, 16);
+    rij(13, 17);
+    rij(14, 19);
+    rij(48, 64);
+    rij(0.1, 1);
+    rij(0, 1);
+}
+
+void TestCanvas::aSizeInPointsIsRoundedToPixels()
+{
+    QFETCH(double, punten);
+    QTEST(Lettertype(QStringLiteral("Arial"), punten, false).pixelSize(), "pixels");
+    QTEST(QFontInfo(Lettertype(QStringLiteral("Arial"), punten, true)).pixelSize(), "pixels");
+}
+
+void TestCanvas::aNewCanvasWritesSmallBlackArial()
+{
+    const Doek doek;
+    QCOMPARE(doek.FontName, QStringLiteral("Arial"));
+    QCOMPARE(doek.FontSize, 8.25);
+    QVERIFY(!doek.FontBold);
+    QCOMPARE(doek.ForeColor, qRgb(0, 0, 0));
+    QCOMPARE(doek.CurrentX, 0.0);
+    QCOMPARE(doek.CurrentY, 0.0);
+}
+
+void TestCanvas::theInkStaysInsideItsCell_data()
+{
+    QTest::addColumn<QString>("naam");
+    QTest::addColumn<double>("punten");
+    QTest::addColumn<bool>("vet");
+    for (const char *naam : {"Arial", "Arial Narrow", "Courier New"})
+        for (const double punten : {8.25, 12.0, 13.0, 36.0})
+            for (const bool vet : {false, true})
+                QTest::addRow("%s %g%s", naam, punten, vet ? " bold" : "")
+                    << QString::fromLatin1(naam) << punten << vet;
+}
+
+void TestCanvas::theInkStaysInsideItsCell()
+{
+    QFETCH(QString, naam);
+    QFETCH(double, punten);
+    QFETCH(bool, vet);
+    for (const QString &tekst : {QStringLiteral("Hg"), QStringLiteral("\u00CBjW"), QStringLiteral("i")}) {
+        Doek doek;
+        doek.FontName = naam;
+        doek.FontSize = punten;
+        doek.FontBold = vet;
+        doek.CurrentX = 1500;
+        doek.CurrentY = 900;
+        const QRectF cel(100, 60, doek.TextWidth(tekst) / 15, doek.TextHeight(tekst) / 15);
+        doek.Print(tekst);
+        const QRect inkt = doek.Inkt();
+        QVERIFY(QRectF(inkt).intersects(cel));
+        QVERIFY2(cel.adjusted(-1, -1, 1, 1).contains(QRectF(inkt)), qPrintable(tekst));
+        // The cell is not wider or higher than the letters ask for.
+        QVERIFY(inkt.height() * 2 > cel.height());
+        QVERIFY(inkt.width() * 4 > cel.width());
+    }
+}
+
+void TestCanvas::theCellIsThatOfTheFont()
+{
+    Doek doek;
+    doek.FontSize = 12;
+    doek.FontBold = true;
+    const QFontMetricsF maten(Lettertype(QStringLiteral("Arial"), 12, true));
+    QCOMPARE(doek.TextWidth(QStringLiteral("Raster")), maten.horizontalAdvance(QStringLiteral("Raster")) * 15);
+    QCOMPARE(doek.TextWidth(QString()), 0.0);
+    QCOMPARE(doek.TextHeight(QStringLiteral("Raster")), std::round(maten.ascent() + maten.descent()) * 15);
+    QCOMPARE(doek.TextHeight(QString()), doek.TextHeight(QStringLiteral("Raster")));
+    QVERIFY(doek.TextHeight(QString()) >= 16 * 15);
+    QVERIFY(doek.TextHeight(QString()) <= 20 * 15);
+}
+
+void TestCanvas::anotherFontCountsAtOnce()
+{
+    const QString tekst = QStringLiteral("Raster");
+    Doek doek;
+    const auto breedte = [&](const QString &naam, double punten, bool vet) {
+        doek.FontName = naam;
+        doek.FontSize = punten;
+        doek.FontBold = vet;
+        return doek.TextWidth(tekst) / 15;
+    };
+    const auto gemeten = [&](const QString &naam, double punten, bool vet) {
+        return QFontMetricsF(Lettertype(naam, punten, vet)).horizontalAdvance(tekst);
+    };
+    const QString arial = QStringLiteral("Arial"), smal = QStringLiteral("Arial Narrow");
+    QCOMPARE(breedte(arial, 12, false), gemeten(arial, 12, false));
+    QCOMPARE(breedte(arial, 24, false), gemeten(arial, 24, false));
+    QCOMPARE(breedte(arial, 24, true), gemeten(arial, 24, true));
+    QCOMPARE(breedte(smal, 24, true), gemeten(smal, 24, true));
+    QVERIFY(gemeten(smal, 24, true) < gemeten(arial, 24, true));
+    QVERIFY(gemeten(arial, 24, true) > gemeten(arial, 24, false));
+}
+
+void TestCanvas::theCellIsInTheUnitsOfTheSurface()
+{
+    const QString tekst = QStringLiteral("Raster");
+    Doek twips, pixels(ScaleModes::Pixels);
+    QCOMPARE(pixels.TextWidth(tekst) * 15, twips.TextWidth(tekst));
+    QCOMPARE(pixels.TextHeight(tekst) * 15, twips.TextHeight(tekst));
+    twips.CurrentX = 750;
+    twips.CurrentY = 300;
+    twips.Print(tekst);
+    pixels.CurrentX = 50;
+    pixels.CurrentY = 20;
+    pixels.Print(tekst);
+    QVERIFY(HeeftInkt(pixels.Image(), pixels.rect()));
+    QCOMPARE(pixels.Image(), twips.Image());
+}
+
+void TestCanvas::textHasTheForeColor()
+{
+    Doek doek;
+    doek.FontSize = 48;
+    doek.ForeColor = Rood;
+    doek.Print(QStringLiteral("I"));
+    bool vol = false;
+    const QImage beeld = doek.Image();
+    for (int y = 0; y < beeld.height(); ++y)
+        for (int x = 0; x < beeld.width(); ++x) {
+            QCOMPARE(qRed(beeld.pixel(x, y)), 255);
+            vol = vol || beeld.pixel(x, y) == Rood;
+        }
+    QVERIFY(vol);
+}
+
+void TestCanvas::textIsSmoothedInGrey()
+{
+    Doek doek;
+    doek.FontSize = 24;
+    doek.Print(QStringLiteral("Sudoku WOZ"));
+    bool grijs = false;
+    const QImage beeld = doek.Image();
+    for (int y = 0; y < beeld.height(); ++y)
+        for (int x = 0; x < beeld.width(); ++x) {
+            const QRgb pixel = beeld.pixel(x, y);
+            QCOMPARE(qGreen(pixel), qRed(pixel));
+            QCOMPARE(qBlue(pixel), qRed(pixel));
+            grijs = grijs || (qRed(pixel) > 64 && qRed(pixel) < 192);
+        }
+    QVERIFY(grijs);
+}
+
+void TestCanvas::printingGoesToTheNextLine()
+{
+    Doek doek;
+    doek.CurrentX = 1500;
+    doek.CurrentY = 300;
+    const double regel = doek.TextHeight(QStringLiteral("a"));
+    doek.Print(QStringLiteral("a"));
+    QCOMPARE(doek.CurrentX, 0.0);
+    QCOMPARE(doek.CurrentY, 300 + regel);
+    doek.CurrentX = 1500;
+    doek.Print(QString());
+    QCOMPARE(doek.CurrentX, 0.0);
+    QCOMPARE(doek.CurrentY, 300 + 2 * regel);
+    doek.Print(12);
+    QCOMPARE(doek.CurrentY, 300 + 3 * regel);
+}
+
+void TestCanvas::linesBelowEachOtherDoNotTouch()
+{
+    Doek doek;
+    const int hoog = static_cast<int>(doek.TextHeight(QStringLiteral("H")) / 15);
+    doek.Print(QStringLiteral("H"));
+    const QRect eerste = doek.Inkt();
+    doek.Print(QStringLiteral("H"));
+    QCOMPARE(doek.Inkt(), eerste.united(eerste.translated(0, hoog)));
+    QVERIFY(!HeeftInkt(doek.Image(), QRect(0, eerste.bottom() + 1, 400, hoog - eerste.height())));
+}
+
+void TestCanvas::aNumberLeavesRoomForItsSign()
+{
+    Doek getal, tekst, metBlanco;
+    for (Doek *doek : {&getal, &tekst, &metBlanco})
+        doek->FontSize = 24;
+    getal.Print(5);
+    tekst.Print(QStringLiteral("5"));
+    metBlanco.Print(QStringLiteral(" 5"));
+    QCOMPARE(getal.Image(), metBlanco.Image());
+    const double verschil = getal.Inkt().left() - tekst.Inkt().left();
+    QVERIFY(std::abs(verschil - getal.TextWidth(QStringLiteral(" ")) / 15) <= 1);
+    QVERIFY(verschil >= 5);
+}
+
+void TestCanvas::aNegativeNumberHasItsSign()
+{
+    Doek getal, tekst;
+    getal.Print(-12);
+    tekst.Print(QStringLiteral("-12"));
+    QVERIFY(HeeftInkt(tekst.Image(), tekst.rect()));
+    QCOMPARE(getal.Image(), tekst.Image());
+}
+
+void TestCanvas::textOutsideTheSurfaceIsLeftOut()
+{
+    Doek doek;
+    for (const double x : {-1e6, 1e6})
+        for (const double y : {-1e6, 0.0, 1e6}) {
+            doek.CurrentX = x;
+            doek.CurrentY = y;
+            doek.Print(QStringLiteral("Raster"));
+        }
+    QCOMPARE(doek.Inkt(), QRect());
+    doek.CurrentX = -30;
+    doek.CurrentY = -30;
+    doek.Print(QStringLiteral("W"));
+    QVERIFY(!doek.Inkt().isEmpty());
+}
+
+/// Two by two pixels of four colours.
+static QImage Vierkleur()
+{
+    QImage beeld(2, 2, QImage::Format_RGB32);
+    beeld.setPixel(0, 0, qRgb(0x96, 0x0F, 0xFF));
+    beeld.setPixel(1, 0, Rood);
+    beeld.setPixel(0, 1, Wit);
+    beeld.setPixel(1, 1, qRgb(0, 0, 0));
+    return beeld;
+}
+
+void TestCanvas::aPictureIsCopied()
+{
+    for (const ScaleModes mode : {ScaleModes::Twips, ScaleModes::Pixels}) {
+        Doek doek(mode);
+        const double eenheid = mode == ScaleModes::Twips ? 15 : 1;
+        doek.PaintPicture(Vierkleur(), 10 * eenheid, 20 * eenheid, 30, 30, 0, 0, PlakWijze::Kopie);
+        QCOMPARE(doek.Image().copy(10, 20, 2, 2), Vierkleur());
+        QCOMPARE(doek.Inkt(), QRect(10, 20, 2, 2));
+    }
+}
+
+void TestCanvas::aPictureIsAddedBitByBit()
+{
+    Doek doek;
+    doek.BoxFull(0, 0, 15, 15, qRgb(0xE5, 0xAA, 0x5A));
+    doek.PaintPicture(Vierkleur(), 0, 0, 30, 30, 0, 0, PlakWijze::En);
+    QCOMPARE(doek.GetPixel(0, 0), qRgb(0x96 & 0xE5, 0x0F & 0xAA, 0x5A));
+    QCOMPARE(doek.GetPixel(1, 0), qRgb(0xE5, 0, 0));
+    QCOMPARE(doek.GetPixel(0, 1), qRgb(0xE5, 0xAA, 0x5A));
+    QCOMPARE(doek.GetPixel(1, 1), qRgb(0, 0, 0));
+}
+
+RASTER_TEST(TestCanvas)
+#include "tst_Canvas.moc"

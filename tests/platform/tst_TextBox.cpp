@@ -1,0 +1,338 @@
+#include "platform/Canvas.h"
+#include "platform/TextBox.h"
+#include "support/Testbank.h"
+
+#include <QClipboard>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QRegularExpression>
+
+/// A box of 123 pixels with the letters of a clue.
+class OmschrijvingBox : public TextBox
+{
+public:
+    explicit OmschrijvingBox(QWidget *ouder = nullptr) : TextBox(ouder)
+    {
+        setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+        resize(123, 60);
+    }
+    /// The width that a line of text has for itself.
+    double Regelbreedte() const { return width() - 2 * frameWidth() - 2 * document()->documentMargin(); }
+};
+
+class TestTextBox : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+
+    void linesAreCounted_data();
+    void linesAreCounted();
+    void aLineEndIsTwoCharacters();
+    void everyLineEndIsMadeTheSame_data();
+    void everyLineEndIsMadeTheSame();
+    void anIndexOutsideTheTextIsTheNearestOne();
+    void aTextWrapsBetweenWordsAtTheWidth();
+    void aLongWordIsBroken();
+    void wrappedAndEndedLinesCountOn();
+    void theWidthDecidesWhereTheTextWraps();
+    void theFontDecidesWhereTheTextWraps();
+    void typedTextIsLikeSetText_data();
+    void typedTextIsLikeSetText();
+    void aLineEndWithinAParagraphIsALineEnd();
+    void aBoxThatIsShownWrapsLikeOneThatIsNot();
+    void aLongTextIsToldToo();
+    void aChangedTextIsToldAnew();
+    void theTextIsPlain();
+    void pastedTextIsPlain();
+    void theTabKeyDoesNotType();
+};
+
+static QString LangeTekst()
+{
+    return QStringLiteral("Deze omschrijving is veel te lang voor zo'n klein vakje en loopt dus over vele regels door");
+}
+
+/// The text as the box displays it, line by line.
+static QStringList Regels(const TextBox &box)
+{
+    QStringList regels;
+    const QString tekst = box.Text();
+    for (qsizetype i = 0; i < tekst.size(); ++i) {
+        while (regels.size() <= box.LineFromChar(i))
+            regels += QString();
+        regels.last() += tekst[i];
+    }
+    return regels;
+}
+
+static QList<int> RegelPerTeken(const TextBox &box)
+{
+    QList<int> regels;
+    for (qsizetype i = 0; i <= box.Text().size(); ++i)
+        regels += box.LineFromChar(i);
+    return regels;
+}
+
+void TestTextBox::linesAreCounted_data()
+{
+    QTest::addColumn<QString>("tekst");
+    QTest::addColumn<int>("aantal");
+    QTest::newRow("empty") << QString() << 1;
+    QTest::newRow("one line") << QStringLiteral("a") << 1;
+    QTest::newRow("a line end") << QStringLiteral("\r\n") << 2;
+    QTest::newRow("a line end behind") << QStringLiteral("a\r\n") << 2;
+    QTest::newRow("a line end before") << QStringLiteral("\r\na") << 2;
+    QTest::newRow("two lines") << QStringLiteral("a\r\nb") << 2;
+    QTest::newRow("an empty line between") << QStringLiteral("a\r\n\r\nb") << 3;
+    QTest::newRow("a blank") << QStringLiteral(" ") << 1;
+}
+
+void TestTextBox::linesAreCounted()
+{
+    QFETCH(QString, tekst);
+    QFETCH(int, aantal);
+    OmschrijvingBox box;
+    box.SetText(tekst);
+    QCOMPARE(box.LineCount(), aantal);
+    QCOMPARE(box.Text(), tekst);
+    QCOMPARE(box.LineFromChar(0), 0);
+    QCOMPARE(box.LineFromChar(tekst.size()), aantal - 1);
+}
+
+void TestTextBox::aLineEndIsTwoCharacters()
+{
+    OmschrijvingBox box;
+    box.SetText(QStringLiteral("ab\r\nc\r\n\r\nd"));
+    QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 0, 1, 1, 1, 2, 2, 3, 3}));
+}
+
+void TestTextBox::everyLineEndIsMadeTheSame_data()
+{
+    QTest::addColumn<QString>("tekst");
+    QTest::newRow("both") << QStringLiteral("a\r\nb\r\n");
+    QTest::newRow("line feed") << QStringLiteral("a\nb\n");
+    QTest::newRow("carriage return") << QStringLiteral("a\rb\r");
+}
+
+void TestTextBox::everyLineEndIsMadeTheSame()
+{
+    QFETCH(QString, tekst);
+    OmschrijvingBox box;
+    box.SetText(tekst);
+    QCOMPARE(box.Text(), QStringLiteral("a\r\nb\r\n"));
+    QCOMPARE(box.LineCount(), 3);
+}
+
+void TestTextBox::anIndexOutsideTheTextIsTheNearestOne()
+{
+    OmschrijvingBox box;
+    box.SetText(QStringLiteral("a\r\nb"));
+    QCOMPARE(box.LineFromChar(-1), 0);
+    QCOMPARE(box.LineFromChar(-1000000), 0);
+    QCOMPARE(box.LineFromChar(5), 1);
+    QCOMPARE(box.LineFromChar(1000000), 1);
+    QCOMPARE(OmschrijvingBox().LineFromChar(3), 0);
+}
+
+void TestTextBox::aTextWrapsBetweenWordsAtTheWidth()
+{
+    OmschrijvingBox box;
+    box.SetText(LangeTekst());
+    const QFontMetricsF maten(box.font());
+    const QStringList regels = Regels(box);
+    QCOMPARE(regels.size(), box.LineCount());
+    QVERIFY(regels.size() > 5);
+    QCOMPARE(regels.join(QString()), LangeTekst());
+    for (int i = 0; i < regels.size(); ++i) {
+        QVERIFY2(maten.horizontalAdvance(regels[i].trimmed()) <= box.Regelbreedte(), qPrintable(regels[i]));
+        if (i + 1 == regels.size())
+            break;
+        QVERIFY2(regels[i].endsWith(u' '), qPrintable(regels[i]));
+        // A line ends where the next word would not have fitted on it any more.
+        const QString metVolgende = regels[i] + regels[i + 1].section(u' ', 0, 0);
+        QVERIFY2(maten.horizontalAdvance(metVolgende) > box.Regelbreedte(), qPrintable(metVolgende));
+    }
+}
+
+void TestTextBox::aLongWordIsBroken()
+{
+    OmschrijvingBox box;
+    const QString woord(60, u'w');
+    box.SetText(woord);
+    const QFontMetricsF maten(box.font());
+    const QStringList regels = Regels(box);
+    QCOMPARE(regels.size(), box.LineCount());
+    QVERIFY(regels.size() > 3);
+    QCOMPARE(regels.join(QString()), woord);
+    for (int i = 0; i < regels.size(); ++i) {
+        QVERIFY(maten.horizontalAdvance(regels[i]) <= box.Regelbreedte());
+        if (i + 1 < regels.size())
+            QVERIFY(maten.horizontalAdvance(regels[i] + u'w') > box.Regelbreedte());
+    }
+}
+
+void TestTextBox::wrappedAndEndedLinesCountOn()
+{
+    OmschrijvingBox box;
+    box.SetText(LangeTekst());
+    const int regels = box.LineCount();
+    box.SetText(QStringLiteral("a\r\n") + LangeTekst() + QStringLiteral("\r\nb"));
+    QCOMPARE(box.LineCount(), regels + 2);
+    QCOMPARE(box.LineFromChar(3), 1);
+    QCOMPARE(box.LineFromChar(3 + LangeTekst().size() - 1), regels);
+    QCOMPARE(box.LineFromChar(3 + LangeTekst().size() + 1), regels);
+    QCOMPARE(box.LineFromChar(3 + LangeTekst().size() + 2), regels + 1);
+}
+
+void TestTextBox::theWidthDecidesWhereTheTextWraps()
+{
+    OmschrijvingBox box;
+    box.SetText(LangeTekst());
+    const int smal = box.LineCount();
+    box.resize(246, 60);
+    QVERIFY(box.LineCount() < smal);
+    box.resize(3000, 60);
+    QCOMPARE(box.LineCount(), 1);
+    box.resize(123, 20);
+    QCOMPARE(box.LineCount(), smal);
+}
+
+void TestTextBox::theFontDecidesWhereTheTextWraps()
+{
+    OmschrijvingBox box, kleineBox;
+    box.SetText(LangeTekst());
+    const int groot = box.LineCount();
+    const QFont klein = Lettertype(QStringLiteral("Arial"), 8.25, false);
+    kleineBox.setFont(klein);
+    kleineBox.SetText(LangeTekst());
+    QVERIFY(kleineBox.LineCount() < groot);
+    box.setFont(klein);
+    QCOMPARE(RegelPerTeken(box), RegelPerTeken(kleineBox));
+}
+
+void TestTextBox::typedTextIsLikeSetText_data()
+{
+    QTest::addColumn<QString>("tekst");
+    QTest::newRow("wrapped") << LangeTekst();
+    QTest::newRow("ended") << QStringLiteral("aap\r\n\r\nnoot\r\n");
+    QTest::newRow("both") << LangeTekst() + QStringLiteral("\r\n") + LangeTekst();
+    QTest::newRow("long word") << QString(40, u'm');
+    QTest::newRow("many blanks") << QStringLiteral("aap                                        noot");
+}
+
+void TestTextBox::typedTextIsLikeSetText()
+{
+    QFETCH(QString, tekst);
+    OmschrijvingBox gezet, getypt;
+    gezet.SetText(tekst);
+    for (const QChar c : tekst) {
+        if (c == u'\r')
+            QTest::keyClick(&getypt, Qt::Key_Return);
+        else if (c != u'\n')
+            QTest::keyClick(&getypt, c.toLatin1());
+    }
+    QCOMPARE(getypt.Text(), tekst);
+    QCOMPARE(getypt.LineCount(), gezet.LineCount());
+    QCOMPARE(RegelPerTeken(getypt), RegelPerTeken(gezet));
+    QVERIFY(gezet.LineCount() > 1);
+}
+
+void TestTextBox::aLineEndWithinAParagraphIsALineEnd()
+{
+    OmschrijvingBox box;
+    QTest::keyClick(&box, 'a');
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(box.Text(), QStringLiteral("a\r\n"));
+    QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1}));
+    QTest::keyClick(&box, 'b');
+    QTest::keyClick(&box, Qt::Key_Return);
+    QTest::keyClick(&box, 'c');
+    QCOMPARE(box.Text(), QStringLiteral("a\r\nb\r\nc"));
+    QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1, 1, 1, 2, 2}));
+}
+
+void TestTextBox::aBoxThatIsShownWrapsLikeOneThatIsNot()
+{
+    QWidget venster;
+    venster.resize(300, 200);
+    OmschrijvingBox getoond(&venster), eerder(&venster), verborgen;
+    eerder.SetText(LangeTekst());
+    venster.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&venster));
+    getoond.SetText(LangeTekst());
+    verborgen.SetText(LangeTekst());
+    QVERIFY(verborgen.LineCount() > 5);
+    QCOMPARE(RegelPerTeken(getoond), RegelPerTeken(verborgen));
+    QCOMPARE(RegelPerTeken(eerder), RegelPerTeken(verborgen));
+}
+
+void TestTextBox::aLongTextIsToldToo()
+{
+    OmschrijvingBox box;
+    QString tekst;
+    while (tekst.size() < 10000)
+        tekst += QStringLiteral("woord %1 ").arg(tekst.size());
+    tekst.truncate(10000);
+    box.SetText(tekst);
+    const QList<int> regels = RegelPerTeken(box);
+    QCOMPARE(regels.size(), 10001);
+    QCOMPARE(regels.first(), 0);
+    QCOMPARE(regels.last(), box.LineCount() - 1);
+    QVERIFY(box.LineCount() > 500);
+    for (int i = 1; i < regels.size(); ++i)
+        QVERIFY(regels[i] == regels[i - 1] || regels[i] == regels[i - 1] + 1);
+}
+
+void TestTextBox::aChangedTextIsToldAnew()
+{
+    OmschrijvingBox box;
+    box.SetText(LangeTekst());
+    QVERIFY(box.LineCount() > 1);
+    box.SetText(QStringLiteral("a"));
+    QCOMPARE(box.LineCount(), 1);
+    QTest::keyClick(&box, Qt::Key_Return);
+    QCOMPARE(box.LineCount(), 2);
+    box.clear();
+    QCOMPARE(box.LineCount(), 1);
+    QCOMPARE(box.Text(), QString());
+}
+
+void TestTextBox::theTextIsPlain()
+{
+    OmschrijvingBox box;
+    box.SetText(QStringLiteral("<b>a</b> & b"));
+    QCOMPARE(box.Text(), QStringLiteral("<b>a</b> & b"));
+}
+
+void TestTextBox::pastedTextIsPlain()
+{
+    auto *inhoud = new QMimeData;
+    inhoud->setText(QStringLiteral("aap\nnoot"));
+    inhoud->setHtml(QStringLiteral("<h1>aap</h1><h1>noot</h1>"));
+    QGuiApplication::clipboard()->setMimeData(inhoud);
+    OmschrijvingBox box, gezet;
+    box.paste();
+    QCOMPARE(box.Text(), QStringLiteral("aap\r\nnoot"));
+    gezet.SetText(QStringLiteral("aap\r\nnoot"));
+    QCOMPARE(box.toHtml(), gezet.toHtml());
+}
+
+void TestTextBox::theTabKeyDoesNotType()
+{
+    QWidget venster;
+    OmschrijvingBox eerste(&venster), tweede(&venster);
+    venster.show();
+    venster.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&venster));
+    eerste.setFocus();
+    QTest::keyClick(&eerste, 'a');
+    QTest::keyClick(&eerste, Qt::Key_Tab);
+    QCOMPARE(eerste.Text(), QStringLiteral("a"));
+    QVERIFY(tweede.hasFocus());
+}
+
+RASTER_TEST(TestTextBox)
+#include "tst_TextBox.moc"
