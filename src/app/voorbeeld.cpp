@@ -55,7 +55,7 @@ void WijsAan(const QString &plaats)
 {
     const int kolom = plaats.at(0).unicode() - 'A';
     const int rij = plaats.mid(2).toInt() - 1;
-    Main().Pic_MouseMove(kolom * VakMaat + VakMaat / 2, rij * VakMaat + VakMaat / 2);
+    Main().Pic_MouseMove(kolom * VakMaat + VakMaat / 2.0, rij * VakMaat + VakMaat / 2.0);
 }
 
 void Ontwerp(const QStringList &regel)
@@ -150,7 +150,7 @@ int Voer(const QStringList &argumenten)
 {
     if (argumenten.size() != 4)
         throw Fout(Fout::OngeldigArgument, QStringLiteral("voorbeeld maak|bewaar|controleer BRON MAP"));
-    const QString wat = argumenten[1];
+    const QString &wat = argumenten[1];
     const QList<QStringList> bron = LeesBron(argumenten[2]);
     AppPath = QDir(argumenten[3]).absolutePath();
     qputenv("HOME", AppPath.toLocal8Bit()); // the JPEG goes to the folder Pictures in it, not to the user's own

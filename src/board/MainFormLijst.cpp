@@ -73,8 +73,8 @@ void MainForm::ListView1_ItemClick()
     const Soort *soort = SoortVan(PuzzelType);
     if (!soort || soort->Richtingen.isEmpty())
         return;
-    Line1->X1 = x + VakMaat / 2;
-    Line1->Y1 = y + VakMaat / 2;
+    Line1->X1 = x + VakMaat / 2.0;
+    Line1->Y1 = y + VakMaat / 2.0;
     const QChar richting = plaats.back();
     if (soort->Richtingen.contains(richting)) { // another letter leaves the end of the line where it was
         const bool omlaag = richting != u'H';

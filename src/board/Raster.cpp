@@ -68,10 +68,10 @@ void TekenRaster(int breedte, int hoogte)
 
     pic.SetPicture({});
     pic.SetSize(PicMaat(breedte), PicMaat(hoogte));
-    for (double x = 0; x <= pic.Width(); x += VakMaat)
-        pic.Line(x, 0, x, pic.Height(), lijn);
-    for (double y = 0; y <= pic.Height(); y += VakMaat)
-        pic.Line(0, y, pic.Width(), y, lijn);
+    for (int kolom = 0; kolom <= breedte; ++kolom)
+        pic.Line(kolom * VakMaat, 0, kolom * VakMaat, pic.Height(), lijn);
+    for (int rij = 0; rij <= hoogte; ++rij)
+        pic.Line(0, rij * VakMaat, pic.Width(), rij * VakMaat, lijn);
     if (PuzzelType == Sudoku)
         Banden(pic, 1335, 1365, 2685, 2715, lijn);
     Linialen(breedte, hoogte);

@@ -53,7 +53,8 @@ QImage Blik(const uchar *bytes, const Opgave &opgave)
 {
     if (opgave.Bits != 32 || opgave.Compressie != 0 || opgave.Hoogte >= 0 || opgave.Begin % 4 != 0)
         return {};
-    return QImage(bytes + opgave.Begin, opgave.Breedte, -opgave.Hoogte, opgave.Breedte * 4, QImage::Format_RGB32);
+    return QImage(bytes + opgave.Begin, opgave.Breedte, -opgave.Hoogte, qsizetype{opgave.Breedte} * 4,
+                  QImage::Format_RGB32);
 }
 
 } // namespace Bitmap

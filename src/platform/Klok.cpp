@@ -33,10 +33,12 @@ void Klok::Wacht(double seconden, QEventLoop::ProcessEventsFlags welke)
 {
     constexpr double Rounding = 1e-6; // what a difference of two times of a day loses at most
     const double begin = Timer();
-    for (double verstreken = 0; verstreken < seconden - Rounding; verstreken = Timer() - begin) {
-        Slaap(std::min(seconden - verstreken, seconden), welke);
+    double rest = seconden;
+    while (rest > Rounding) {
+        Slaap(std::min(rest, seconden), welke);
         if (programmaEindigt)
             throw Afgebroken();
+        rest = seconden - (Timer() - begin);
     }
 }
 
