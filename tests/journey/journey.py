@@ -144,11 +144,14 @@ class Journey:
         self.log = (desktop.output / "program.log").open("wb")
         self.program = self.main = self.saved = None
 
-    def start(self, shot):
+    def launch(self, folder):
         # Here and not above: the import connects to the accessibility bus of the desktop that is there.
         from controls import Program
 
-        self.program = Program(self.desktop, [str(self.path), "--map", str(self.map)], self.log)
+        self.program = Program(self.desktop, [str(self.path), "--map", str(folder)], self.log)
+
+    def start(self, shot):
+        self.launch(self.map)
         self.main = MainWindow(self.program, MAIN_16X19, shot)
 
     # Small steps
@@ -401,6 +404,21 @@ class Journey:
         equal("exit code", self.program.ended(), 0)
         self.settings()
 
+    def failed_start(self, folder, about, shot):
+        """A start that ends with a message and exit code 1."""
+        self.launch(folder)
+        box = self.program.window("Rasteratelier", shot)
+        check(len(box.names()) == 1 and str(about) in box.names()[0], f"the message does not name {about}: {box.names()}")
+        self.push(box, "OK")
+        equal("exit code", self.program.ended(), 1)
+
+    def damaged_starts(self):
+        settings = self.map / "Rasteratelier.ini"
+        settings.write_bytes(b'"kop"\r\n"streep"\r\nrood,groen')
+        self.failed_start(self.map, settings, "damaged-settings")
+        equal("the damaged settings", settings.read_bytes(), b'"kop"\r\n"streep"\r\nrood,groen')
+        self.failed_start(self.map / "weg", self.map / "weg", "no-folder")
+
     def said_nothing_bad(self):
         self.log.close()
         said = (self.desktop.output / "program.log").read_text(encoding="utf-8", errors="replace")
@@ -410,7 +428,7 @@ class Journey:
     def whole(self):
         for step in (self.empty_folder, self.new_puzzle, self.clue_cell, self.solutions, self.red_line, self.save,
                      self.delete_row, self.quit_with_changes, self.open_again, self.messages, self.black_cell,
-                     self.quit_without_question, self.said_nothing_bad):
+                     self.quit_without_question, self.damaged_starts, self.said_nothing_bad):
             print(step.__name__, flush=True)
             step()
 
