@@ -13,7 +13,7 @@ static QString OverTekst()
     const QFileInfo programma(QCoreApplication::applicationFilePath());
     return QStringLiteral("Raster Atelier\n"
                           "Puzzels ontwerpen, bewaren en delen.\n"
-                          "Gemaakt door the Rasteratelier authors.\n"
+                          "Gemaakt door de makers van Rasteratelier.\n"
                           "\n"
                           "Version : %1 / %2\n"
                           "Date : %3")
@@ -27,8 +27,7 @@ AboutForm::AboutForm()
 {
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Raster Atelier"), nullptr);
     Label1 = MaakLabel("Label1", OverTekst());
-    CancelKnop =
-        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Sluiten"), nullptr, QStringLiteral("knop-sluiten"));
 
     Zet(Image1, 180, 210, 1920, 1920);
     Zet(Label1, 2250, 300, 3900, 1800);

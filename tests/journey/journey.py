@@ -375,7 +375,7 @@ class Journey:
         window = self.program.window("About Rasteratelier...", "about")
         told = "\n".join(window.names())
         check(re.search(rf"^Version : \d+\.\d+\.\d+ / {self.path.stat().st_size}$", told, re.MULTILINE), told)
-        self.push(window, "Annuleren")
+        self.push(window, "Sluiten")
         self.program.until_closed("About Rasteratelier...")
 
         self.program.menu("Tools", "Copy puzzelveld naar Clipboard", "menu-tools")
