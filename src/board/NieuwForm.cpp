@@ -14,24 +14,18 @@ static constexpr QRgb Achtergrond = qRgb(190, 230, 230);
 NieuwForm::NieuwForm()
     : Form(QStringLiteral("NieuwForm"), QStringLiteral("Nieuwe puzzel ontwerpen"), 6300, 3720, Achtergrond)
 {
-    Combo1 = Maak<QComboBox>("Combo1", QStringLiteral("Vakjes Horizontaal"), nullptr);
+    Combo1 = MaakNummers("Combo1", QStringLiteral("Vakjes Horizontaal"), 9, 16, BoardWidth);
     Label1 = MaakLabel("Label1", QString());
-    Combo2 = Maak<QComboBox>("Combo2", QStringLiteral("Vakjes Vertikaal"), nullptr);
+    Combo2 = MaakNummers("Combo2", QStringLiteral("Vakjes Vertikaal"), 9, 19, BoardHeight);
     Label2 = MaakLabel("Label2", QString());
-    const QStringList opschriften{QStringLiteral("Zweedse Puzzel"), QStringLiteral("Woordzoeker"),
-                                  QStringLiteral("Kruiswoord Puzzel"), QStringLiteral("Sudoku Puzzel"),
-                                  QStringLiteral("Filippine Puzzel")};
-    for (std::size_t i = 0; i < Option.size(); ++i) {
-        const QString &opschrift = opschriften[static_cast<qsizetype>(i)];
-        Option[i] =
-            Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
-    }
+    Option = MaakOpties({QStringLiteral("Zweedse Puzzel"), QStringLiteral("Woordzoeker"),
+                         QStringLiteral("Kruiswoord Puzzel"), QStringLiteral("Sudoku Puzzel"),
+                         QStringLiteral("Filippine Puzzel")});
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Voorbeeld van de soort"), nullptr);
     Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Naam Puzzel"), nullptr);
     Label3 = MaakLabel("Label3", QStringLiteral("Naam Puzzel"));
-    CancelKnop =
-        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
-    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    CancelKnop = MaakCancelKnop();
+    OkKnop = MaakOkKnop();
     Plaats();
     Vul();
     Verbind();
@@ -55,27 +49,14 @@ void NieuwForm::Plaats()
     Zet(OkKnop, 5070, 2760);
 }
 
-static void VulMaten(QComboBox &combo, int grootste, int nu)
-{
-    for (int maat = 9; maat <= grootste; ++maat)
-        combo.addItem(QString::number(maat));
-    combo.setEditable(true);
-    combo.setInsertPolicy(QComboBox::NoInsert);
-    combo.setCompleter(nullptr);
-    combo.setEditText(QString::number(nu));
-}
-
 void NieuwForm::Vul()
 {
-    VulMaten(*Combo1, 16, BoardWidth);
-    VulMaten(*Combo2, 19, BoardHeight);
     Combo1_Change();
     Combo2_Change();
     const char *previews[] = {"soort-zweeds", "soort-woordzoeker", "soort-kruiswoord", "soort-sudoku",
                               "soort-filippine"};
-    for (std::size_t i = 0; i < Img.size(); ++i)
-        Img[i] = Plaatjes::Pixmap(QLatin1String(previews[i]), Image1->size(), devicePixelRatioF());
-    Option[0]->setChecked(true);
+    for (const char *preview : previews)
+        Img += Plaatjes::Pixmap(QLatin1String(preview), Image1->size(), devicePixelRatioF());
     Image1->setPixmap(Img[0]);
     for (QComboBox *combo : {Combo1, Combo2})
         Kleur(combo, RGB(30, 0, 0), RGB(230, 230, 230));
@@ -87,10 +68,10 @@ void NieuwForm::Verbind()
 {
     bij(Combo1, &QComboBox::editTextChanged, [this] { Combo1_Change(); });
     bij(Combo2, &QComboBox::editTextChanged, [this] { Combo2_Change(); });
-    for (std::size_t i = 0; i < Option.size(); ++i)
+    for (int i = 0; i < Option.size(); ++i)
         bij(Option[i], &QRadioButton::toggled, [this, i](bool aan) {
             if (aan)
-                Option_Click(static_cast<int>(i));
+                Option_Click(i);
         });
     bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
     bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
@@ -108,18 +89,10 @@ void NieuwForm::Combo2_Change()
 
 void NieuwForm::Option_Click(int index)
 {
-    Image1->setPixmap(Img[static_cast<std::size_t>(index)]);
+    Image1->setPixmap(Img[index]);
     const bool vrijeMaat = SoortVan(static_cast<quint8>(index + 1))->VasteBreedte == 0;
     Combo1->setEnabled(vrijeMaat);
     Combo2->setEnabled(vrijeMaat);
-}
-
-quint8 NieuwForm::GekozenSoort() const
-{
-    quint8 soort = 1;
-    while (!Option[soort - 1u]->isChecked())
-        ++soort;
-    return soort;
 }
 
 void NieuwForm::CancelKnop_Click()
@@ -144,7 +117,7 @@ void NieuwForm::OkKnop_Click()
 
     int breedte = Getallen::NaarInt32(Combo1->currentText());
     int hoogte = Getallen::NaarInt32(Combo2->currentText());
-    const quint8 type = GekozenSoort();
+    const auto type = static_cast<quint8>(Gekozen(Option) + 1);
     const Soort &soort = *SoortVan(type);
     if (soort.VasteBreedte > 0) {
         breedte = soort.VasteBreedte;

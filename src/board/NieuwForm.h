@@ -7,8 +7,6 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include <array>
-
 /// Starts a new design: picks the kind, the size and a name. It doesn't ask about the puzzle that it replaces.
 class NieuwForm : public Form
 {
@@ -22,9 +20,9 @@ public:
 
     QComboBox *Combo1, *Combo2;
     Label *Label1, *Label2, *Label3;
-    std::array<QRadioButton *, 5> Option; ///< Option1 to Option5, in the order of the kinds
+    QList<QRadioButton *> Option; ///< Option1 to Option5, in the order of the kinds
     QLabel *Image1;
-    std::array<QPixmap, 5> Img; ///< the previews, in the order of the options
+    QList<QPixmap> Img; ///< the previews, in the order of the options
     QLineEdit *Text1;
     ImageButton *CancelKnop, *OkKnop;
 
@@ -32,5 +30,4 @@ private:
     void Plaats();
     void Vul();
     void Verbind();
-    quint8 GekozenSoort() const;
 };

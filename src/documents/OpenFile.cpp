@@ -22,9 +22,8 @@ OpenFile::OpenFile()
     Label2 = MaakLabel("Label2", QStringLiteral("Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."));
     DelKnop =
         Maak<ImageButton>("DelKnop", QStringLiteral("Puzzel verwijderen"), nullptr, QStringLiteral("knop-wissen"));
-    CancelKnop =
-        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
-    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    CancelKnop = MaakCancelKnop();
+    OkKnop = MaakOkKnop();
 
     Zet(List1, 180, 180, 2400, 2940);
     Zet(Image1, 3300, 1800, 1440, 1440);

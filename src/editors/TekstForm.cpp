@@ -20,12 +20,12 @@ struct RichtingSoort
     int Kolommen, Rijen;
 };
 
-constexpr std::array<RichtingSoort, 4> Richtingen{{
+constexpr RichtingSoort Richtingen[]{
     {QLatin1String("H"), "richting-h", 1, 0},
     {QLatin1String("V"), "richting-v", 0, 1},
     {QLatin1String("R"), "richting-r", 1, 1},
     {QLatin1String("L"), "richting-l", -1, 1},
-}};
+};
 
 } // namespace
 
@@ -39,22 +39,16 @@ TekstForm::TekstForm()
     Label2 = MaakLabel("Label2", QStringLiteral("Oplossing (0)"));
     CopyKnop = Maak<ImageButton>("CopyKnop", QStringLiteral("Copy tekst vanaf hoofdscherm"), nullptr,
                                  QStringLiteral("knop-kopie"));
-    const QStringList opschriften{
-        QStringLiteral("Oplossing Horizontaal Plaatsen"), QStringLiteral("Oplossing Vertikaal Plaatsen"),
-        QStringLiteral("Diagonaal naar rechtsonder Plaatsen"), QStringLiteral("Diagonaal naar linksonder plaatsen")};
-    for (std::size_t i = 0; i < Option.size(); ++i) {
-        const QString &opschrift = opschriften[static_cast<qsizetype>(i)];
-        Option[i] =
-            Maak<QRadioButton>(qPrintable(QStringLiteral("Option%1").arg(i + 1)), opschrift, nullptr, opschrift);
-    }
+    Option = MaakOpties(
+        {QStringLiteral("Oplossing Horizontaal Plaatsen"), QStringLiteral("Oplossing Vertikaal Plaatsen"),
+         QStringLiteral("Diagonaal naar rechtsonder Plaatsen"), QStringLiteral("Diagonaal naar linksonder plaatsen")});
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Richting"), nullptr);
     Check1 = Maak<QCheckBox>("Check1", QStringLiteral("Oplossing omgekeerd"), nullptr,
                              QStringLiteral("Oplossing omgekeerd"));
-    Combo1 = Maak<QComboBox>("Combo1", QStringLiteral("Vaknummer Kruiswoordpuzzel"), nullptr);
+    Combo1 = MaakNummers("Combo1", QStringLiteral("Vaknummer Kruiswoordpuzzel"), 1, 99, 1);
     Label3 = MaakLabel("Label3", QStringLiteral("Vaknummer Kruiswoordpuzzel"));
-    CancelKnop =
-        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
-    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    CancelKnop = MaakCancelKnop();
+    OkKnop = MaakOkKnop();
     Plaats();
     Vul();
     Verbind();
@@ -81,14 +75,8 @@ void TekstForm::Plaats()
 
 void TekstForm::Vul()
 {
-    for (std::size_t i = 0; i < Img.size(); ++i)
-        Img[i] = Plaatjes::Pixmap(QLatin1String(Richtingen[i].Plaatje), Image1->size(), devicePixelRatioF());
-    for (int nummer = 1; nummer <= 99; ++nummer)
-        Combo1->addItem(QString::number(nummer));
-    Combo1->setEditable(true);
-    Combo1->setInsertPolicy(QComboBox::NoInsert);
-    Combo1->setCompleter(nullptr);
-    Option[0]->setChecked(true);
+    for (const RichtingSoort &richting : Richtingen)
+        Img += Plaatjes::Pixmap(QLatin1String(richting.Plaatje), Image1->size(), devicePixelRatioF());
     Image1->setPixmap(Img[0]);
     CopyKnop->setToolTip(QStringLiteral(" Copy tekst vanaf hoofdscherm "));
     Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
@@ -107,10 +95,10 @@ void TekstForm::Vul()
 
 void TekstForm::Verbind()
 {
-    for (std::size_t i = 0; i < Option.size(); ++i)
+    for (int i = 0; i < Option.size(); ++i)
         bij(Option[i], &QRadioButton::toggled, [this, i](bool aan) {
             if (aan)
-                Option_Click(static_cast<int>(i));
+                Option_Click(i);
         });
     bij(Text2, &QLineEdit::textChanged, [this] { Text2_Change(); });
     bij(CopyKnop, &ImageButton::clicked, [this] { CopyKnop_Click(); });
@@ -120,7 +108,7 @@ void TekstForm::Verbind()
 
 void TekstForm::Option_Click(int index)
 {
-    Image1->setPixmap(Img[static_cast<std::size_t>(index)]);
+    Image1->setPixmap(Img[index]);
 }
 
 void TekstForm::Text2_Change()
@@ -160,14 +148,6 @@ bool TekstForm::IsCompleet()
     return true;
 }
 
-std::size_t TekstForm::Richting() const
-{
-    std::size_t i = 0;
-    while (!Option[i]->isChecked())
-        ++i;
-    return i;
-}
-
 void TekstForm::DrukNummer() const
 {
     const auto druk = [this](PictureBox &pic, double punten, int x, int y) {
@@ -190,7 +170,7 @@ void TekstForm::DrukLetters(const QString &woord) const
     pic.FontSize = 12;
     groot.FontSize = 48;
     pic.ForeColor = groot.ForeColor = RGB(80, 80, 80);
-    const RichtingSoort &richting = Richtingen[Richting()];
+    const RichtingSoort &richting = Richtingen[Gekozen(Option)];
     int kolom = CurCol, rij = CurRow;
     for (const QChar teken : woord) {
         QString letter = QString(teken).toUpper();
@@ -230,7 +210,7 @@ void TekstForm::OkKnop_Click()
     DrukLetters(woord);
     Text2->setText(ZonderCode(Text2->text()));
     LaatsteOplossing = Text2->text();
-    VoegRegelToe(Richtingen[Richting()].Letter, Text1->text(), LaatsteOplossing, nummer);
+    VoegRegelToe(Richtingen[Gekozen(Option)].Letter, Text1->text(), LaatsteOplossing, nummer);
     Main().ToonAantal();
     PuzzelGewijzigd = true;
     Unload();

@@ -8,8 +8,6 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
-#include <array>
-
 /// Writes one solution word on the board, a letter a cell from the current cell on, and adds its row to the entry list.
 class TekstForm : public Form
 {
@@ -27,8 +25,8 @@ public:
 
     QLineEdit *Text1, *Text2;
     Label *Label1, *Label2, *Label3;
-    std::array<QRadioButton *, 4> Option; ///< Option1 to Option4: H, V, R, L
-    std::array<QPixmap, 4> Img;           ///< the pictures of the directions
+    QList<QRadioButton *> Option; ///< Option1 to Option4: H, V, R, L
+    QList<QPixmap> Img;           ///< the pictures of the directions
     QLabel *Image1;
     QCheckBox *Check1;
     QComboBox *Combo1;
@@ -39,7 +37,6 @@ private:
     void Vul();
     void Verbind();
     bool IsCompleet();
-    std::size_t Richting() const;
     void DrukNummer() const;
     void DrukLetters(const QString &woord) const;
 };

@@ -28,9 +28,8 @@ VakForm::VakForm()
     Label6 = MaakLabel("Label6", QString());
     HScroll1 = Maak<QScrollBar>("HScroll1", QStringLiteral("Soort Vakje"), nullptr, Qt::Horizontal);
     Label7 = MaakLabel("Label7", QStringLiteral("Soort Vakje"));
-    CancelKnop =
-        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
-    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    CancelKnop = MaakCancelKnop();
+    OkKnop = MaakOkKnop();
     TextLabel = MaakLabel("TextLabel", QString());
     Plaats();
     Vul();

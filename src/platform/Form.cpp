@@ -1,11 +1,14 @@
 #include "platform/Form.h"
 
 #include "platform/Berichten.h"
+#include "platform/ImageButton.h"
 #include "platform/Twips.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QMenuBar>
+#include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -88,6 +91,47 @@ void Form::Unload()
 Label *Form::MaakLabel(const char *naam, const QString &caption, QWidget *ouder)
 {
     return Maak<Label>(naam, QString(), ouder, caption);
+}
+
+ImageButton *Form::MaakOkKnop()
+{
+    return Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+}
+
+ImageButton *Form::MaakCancelKnop()
+{
+    return Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+}
+
+QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften)
+{
+    QList<QRadioButton *> opties;
+    for (const QString &opschrift : opschriften) {
+        opties += Maak<QRadioButton>("", opschrift, nullptr, opschrift);
+        opties.last()->setObjectName(QStringLiteral("Option%1").arg(opties.size()));
+    }
+    opties.first()->setChecked(true);
+    return opties;
+}
+
+int Form::Gekozen(const QList<QRadioButton *> &opties)
+{
+    int index = 0;
+    while (!opties[index]->isChecked())
+        ++index;
+    return index;
+}
+
+QComboBox *Form::MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu)
+{
+    auto *combo = Maak<QComboBox>(naam, leesnaam, nullptr);
+    for (int nummer = van; nummer <= tot; ++nummer)
+        combo->addItem(QString::number(nummer));
+    combo->setEditable(true);
+    combo->setInsertPolicy(QComboBox::NoInsert);
+    combo->setCompleter(nullptr);
+    combo->setEditText(QString::number(nu));
+    return combo;
 }
 
 void Form::Zet(QWidget *control, int links, int boven)

@@ -8,7 +8,10 @@
 
 #include <functional>
 
+class ImageButton;
+class QComboBox;
 class QMenuBar;
+class QRadioButton;
 
 /// A window that places its controls in twips. Built afresh by each opening, on the stack: Toon<VakForm>().
 ///
@@ -56,6 +59,15 @@ protected:
         return control;
     }
     Label *MaakLabel(const char *naam, const QString &caption, QWidget *ouder = nullptr);
+
+    ImageButton *MaakOkKnop();
+    ImageButton *MaakCancelKnop();
+    /// The option buttons Option1, Option2 and so on, with these captions; the first one is chosen.
+    QList<QRadioButton *> MaakOpties(const QStringList &opschriften);
+    /// The index of the option that is chosen.
+    static int Gekozen(const QList<QRadioButton *> &opties);
+    /// A box with the numbers from one to another, in which anything may be typed as well.
+    QComboBox *MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu);
 
     /// Places a control: left, top, width, height in twips. Without a size it keeps its own.
     static void Zet(QWidget *control, int links, int boven);

@@ -65,13 +65,7 @@ private slots:
         QFETCH(QRect, vlak);
         Bord bord;
         TekstForm form;
-        const QRect plaats = Vind<QWidget>(form, naam)->geometry();
-        QCOMPARE(plaats.x(), Twips::NaarPixels(vlak.x()));
-        QCOMPARE(plaats.y(), Twips::NaarPixels(vlak.y()));
-        if (vlak.width() > 0)
-            QCOMPARE(plaats.width(), Twips::NaarPixels(vlak.width()));
-        if (vlak.height() > 0)
-            QCOMPARE(plaats.height(), Twips::NaarPixels(vlak.height()));
+        QVERIFY(StaatOp(form, naam, vlak));
     }
 
     void asItOpens()
