@@ -10,6 +10,7 @@
 #include "board/Opvullen.h"
 #include "documents/OpenFile.h"
 #include "documents/SaveForm.h"
+#include "editors/Filippine.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
 #include "platform/Berichten.h"
@@ -47,6 +48,9 @@ void VerbindOpdrachten()
     Koppel(main.HelpMeerSoftware, [] { OpenDocument(QStringLiteral(ADRES_SOFTWARE)); });
     Koppel(main.HelpMail, HelpMail_Click);
     Koppel(main.HelpWoordlijstAanmaken, [] { OpenDocument(DataBestand(QStringLiteral("Woordlijst Importeren.pdf"))); });
+    // These two are enabled by the kind of the puzzle.
+    main.bij(main.EditDeleteRaster, &QAction::triggered, [] { VerwijderRaster(*Main().Pic); });
+    main.bij(main.EditDeleteLetters, &QAction::triggered, [] { VerwijderLetters(*Main().Pic); });
     main.bij(&main, &MainForm::VakMenuGekozen, SoortVakTekst_Click);
     main.bij(main.HelpKnop, &ImageButton::clicked, [] { HelpKnop_Click(); });
     main.bij(main.AboutKnop, &ImageButton::clicked, [] { AboutKnop_Click(); });

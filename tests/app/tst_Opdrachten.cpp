@@ -162,6 +162,21 @@ private slots:
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
     }
 
+    void aFilippineCanBeCleared()
+    {
+        Programma programma;
+        programma.Scherm.Begin(Filippine, 16, 19);
+        programma.Main().ToonSoortDelen();
+        PictureBox &pic = *programma.Main().Pic;
+        pic.PaintPicture(programma.Main().Vak1->Image(), 450, 450, 465, 465, 0, 0, PlakWijze::Kopie);
+        pic.SetPixel(45, 45, qRgb(1, 2, 3));
+        programma.Main().EditDeleteRaster->trigger();
+        QCOMPARE(pic.GetPixel(90, 15), qRgb(255, 255, 255));
+        QCOMPARE(pic.GetPixel(45, 45), qRgb(1, 2, 3));
+        programma.Main().EditDeleteLetters->trigger();
+        QVERIFY(pic.GetPixel(45, 45) != qRgb(1, 2, 3));
+    }
+
     void thePopUpOpensItsEditor_data()
     {
         QTest::addColumn<int>("index");

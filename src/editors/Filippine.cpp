@@ -1,0 +1,52 @@
+#include "editors/Filippine.h"
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "platform/Kleur.h"
+#include "platform/Screen.h"
+
+#include <QCoreApplication>
+
+static constexpr int RasterRed = 150;
+static constexpr int AnswerRed = 240; ///< of Vak1, a cell of a horizontal answer
+static constexpr int SearchRed = 174; ///< of Vak2, a cell of the vertical search word
+
+void VerwijderRaster(PictureBox &doel)
+{
+    Screen::MousePointer(Screen::Hourglass);
+    for (int x = 0; x <= doel.width(); ++x) {
+        for (int y = 0; y <= doel.height(); ++y)
+            if (qRed(doel.GetPixel(x, y)) == RasterRed)
+                doel.SetPixel(x, y, RGB(255, 255, 255));
+        // Clicks and keys wait: another puzzle must not come in between.
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    }
+    Screen::MousePointer(Screen::Own);
+}
+
+/// The picture that a cell is to have, by the pixel at 5, 5 of it; nullptr when it is no answer cell.
+static const PictureBox *LeegVak(const PictureBox &doel, int x, int y)
+{
+    switch (qRed(doel.GetPixel(x + 5, y + 5))) {
+    case AnswerRed:
+        return Main().Vak1;
+    case SearchRed:
+        return Main().Vak2;
+    default:
+        return nullptr;
+    }
+}
+
+void VerwijderLetters(PictureBox &doel)
+{
+    constexpr int Cell = 30, TileSize = 465;
+    Screen::MousePointer(Screen::Hourglass);
+    for (int kolom = 0; kolom < 16; ++kolom) {
+        for (int rij = 0; rij < 19; ++rij)
+            if (const PictureBox *vak = LeegVak(doel, kolom * Cell, rij * Cell))
+                doel.PaintPicture(vak->Image(), kolom * VakMaat, rij * VakMaat, TileSize, TileSize, 0, 0,
+                                  PlakWijze::Kopie);
+        Wachten(0.2, QEventLoop::ExcludeUserInputEvents);
+    }
+    Screen::MousePointer(Screen::Own);
+}
