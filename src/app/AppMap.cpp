@@ -30,7 +30,10 @@ QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString 
     }
     if (QDir(eigen + QStringLiteral("/Data")).exists())
         return eigen;
-    if (!QDir(gebruiker).exists())
+    if (!QDir(gebruiker).exists()) {
+        if (!QDir(installatie).exists())
+            throw Fout(Fout::BestandNietGevonden, QStringLiteral("de bestanden van de installatie in ") + installatie);
         Kopieer(installatie, gebruiker);
+    }
     return gebruiker;
 }

@@ -8,5 +8,5 @@
 /// @param eigen the folder that the program's file is in
 /// @param gebruiker the user's data folder for this program
 /// @param installatie the folder with the installed files
-/// Raises Fout when the folder that was asked for is none, or when the user's cannot be made.
+/// Raises Fout when the folder that was asked for is none, or when the user's cannot be made or filled.
 QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString &gebruiker, const QString &installatie);

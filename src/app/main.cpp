@@ -30,7 +30,7 @@ int main(int argc, char *argv[])
     try {
         AppPath = KiesAppMap(GevraagdeMap(app), QCoreApplication::applicationDirPath(),
                              QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
-                             QStringLiteral(INSTALLED_FILES));
+                             QCoreApplication::applicationDirPath() + QStringLiteral("/" INSTALLED_FILES));
         MainForm main;
         LaadMain();
         VerbindOpdrachten();

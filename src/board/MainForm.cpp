@@ -173,7 +173,11 @@ void MainForm::MaakWoordPaneel()
     Zet(Label4, 180, 240);
     Zet(Label5, 180, 690, 2190, 2100);
     Zet(LoadKnop, 1560, 2805, 840, 330);
+    VulWoordPaneel();
+}
 
+void MainForm::VulWoordPaneel()
+{
     for (const int lengte : {-1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, -1})
         Combo1->addItem(lengte < 0 ? QStringLiteral("Alles") : QString::number(lengte));
     ScrolLengte->setRange(2, 19);

@@ -84,6 +84,7 @@ private:
     void MaakBord();
     void MaakLijst();
     void MaakWoordPaneel();
+    void VulWoordPaneel();
     void MaakKnoppen();
     void MaakMenuBalk(); // in MainFormMenu.cpp
     void MaakPopups();   // in MainFormMenu.cpp
@@ -100,3 +101,5 @@ MainForm &Main();
 
 /// A row of the board as it is shown, from row 0: "01" up to "19".
 QString RijTekst(int rij);
+/// A column as it is shown, from column 0: "A" up to "P". Beyond those it is whatever sign comes next.
+QString KolomTekst(int kolom);

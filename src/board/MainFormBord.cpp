@@ -10,6 +10,11 @@ QString RijTekst(int rij)
     return QStringLiteral("%1").arg(rij + 1, 2, 10, QLatin1Char('0'));
 }
 
+QString KolomTekst(int kolom)
+{
+    return QString(QChar(static_cast<char16_t>(u'A' + kolom)));
+}
+
 // Both comparisons are strict on purpose: on a grid line the column or the row keeps its earlier value.
 void MainForm::Pic_MouseMove(double pointerX, double pointerY)
 {
@@ -26,7 +31,7 @@ void MainForm::Pic_MouseMove(double pointerX, double pointerY)
     if (soort && soort->AlleenRij)
         Label6->SetCaption(RijTekst(CurRow));
     else
-        Label6->SetCaption(QStringLiteral("%1-%2 / %3").arg(QChar(65 + CurCol)).arg(RijTekst(CurRow)).arg(CurCell));
+        Label6->SetCaption(QStringLiteral("%1-%2 / %3").arg(KolomTekst(CurCol), RijTekst(CurRow)).arg(CurCell));
 }
 
 void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)

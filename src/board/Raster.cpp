@@ -11,15 +11,25 @@ static double PicMaat(int vakjes)
     return double{VakMaat} * vakjes + 15;
 }
 
+static double PlaatMaat(int vakjes)
+{
+    return PicMaat(vakjes) + 195;
+}
+
 static double GrootMaat(int vakjes)
 {
     return double{VakMaatGroot} * vakjes + 45;
 }
 
+static constexpr int RowStripWidth = 450;
+static constexpr int ColumnStripHeight = 300;
+
 void ControleerBord(int breedte, int hoogte)
 {
     PictureBox::ControleerMaat(PicMaat(breedte), PicMaat(hoogte));
     PictureBox::ControleerMaat(GrootMaat(breedte), GrootMaat(hoogte));
+    PictureBox::ControleerMaat(PlaatMaat(breedte), ColumnStripHeight);
+    PictureBox::ControleerMaat(RowStripWidth, PlaatMaat(hoogte));
 }
 
 static void Banden(PictureBox &pic, int van1, int tot1, int van2, int tot2, QRgb kleur)
@@ -44,18 +54,18 @@ static void DrukOpLiniaal(PictureBox &strook, double x, double y, const QString 
 static void Linialen(int breedte, int hoogte)
 {
     MainForm &main = Main();
-    const double plaatBreedte = PicMaat(breedte) + 195;
-    const double plaatHoogte = PicMaat(hoogte) + 195;
+    const double plaatBreedte = PlaatMaat(breedte);
+    const double plaatHoogte = PlaatMaat(hoogte);
 
     main.PicR->move(Twips::NaarPixels(plaatBreedte + 195), main.PicR->y());
-    main.PicR->SetSize(main.PicR->Width(), plaatHoogte);
+    main.PicR->SetSize(RowStripWidth, plaatHoogte);
     for (int rij = 0; rij < hoogte; ++rij)
         DrukOpLiniaal(*main.PicR, 90, 210 + rij * VakMaat, RijTekst(rij));
 
     main.PicO->move(main.PicO->x(), Twips::NaarPixels(plaatHoogte + 795));
-    main.PicO->SetSize(plaatBreedte, main.PicO->Height());
+    main.PicO->SetSize(plaatBreedte, ColumnStripHeight);
     for (int kolom = 0; kolom < breedte; ++kolom)
-        DrukOpLiniaal(*main.PicO, 255 + kolom * VakMaat, 30, QString(QChar(65 + kolom)));
+        DrukOpLiniaal(*main.PicO, 255 + kolom * VakMaat, 30, KolomTekst(kolom));
     main.Label1->resize(Twips::NaarPixels(plaatBreedte), Twips::NaarPixels(plaatHoogte));
     main.Frame8->resize(Twips::NaarPixels(plaatBreedte), main.Frame8->height());
 }

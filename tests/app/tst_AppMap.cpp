@@ -72,6 +72,16 @@ private slots:
         QVERIFY(!QFile::exists(machine.Gebruiker + QStringLiteral("/Puzzels/Kennismaking.lst")));
     }
 
+    void withoutWhatIsInstalledNothingIsMade()
+    {
+        Machine machine;
+        QVERIFY(QFile::setPermissions(machine.Installatie + QStringLiteral("/Puzzels/Kennismaking.lst"),
+                                      QFile::ReadOwner | QFile::WriteOwner));
+        QVERIFY(QDir(machine.Installatie).removeRecursively());
+        QCOMPARE(FoutVan([&] { machine.Kies(); }), int(Fout::BestandNietGevonden));
+        QVERIFY(!QDir(machine.Gebruiker).exists());
+    }
+
     void aFolderThatCannotBeMadeFails()
     {
         Machine machine;

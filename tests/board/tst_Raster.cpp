@@ -167,6 +167,8 @@ private slots:
         QTest::newRow("negative height") << 9 << -1 << int(Fout::OngeldigeWaarde);
         QTest::newRow("hundred thousand") << 100000 << 100000 << int(Fout::GeheugenVol);
         QTest::newRow("hundred") << 100 << 100 << int(Fout::GeheugenVol);
+        QTest::newRow("wide without a height") << 150000 << 0 << int(Fout::GeheugenVol);
+        QTest::newRow("high without a width") << 0 << 150000 << int(Fout::GeheugenVol);
         QTest::newRow("largest number") << 2147483647 << 2147483647 << int(Fout::GeheugenVol);
     }
     void impossibleSizesChangeNothing()
