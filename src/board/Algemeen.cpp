@@ -81,9 +81,23 @@ void ToonSpecialeTekens()
                           "¾ = Ctrl-Alt - 8"));
 }
 
+QString Hoofdletters(QString tekst)
+{
+    for (QChar &teken : tekst)
+        teken = teken.toUpper();
+    return tekst;
+}
+
+QString KleineLetters(QString tekst)
+{
+    for (QChar &teken : tekst)
+        teken = teken.toLower();
+    return tekst;
+}
+
 QString EersteHoofdletter(const QString &tekst)
 {
-    return tekst.left(1).toUpper() + tekst.mid(1).toLower();
+    return Hoofdletters(tekst.left(1)) + KleineLetters(tekst.mid(1));
 }
 
 QString MetCode(QString woord)

@@ -65,7 +65,7 @@ void MainForm::ListView1_ItemClick()
     if (!rij || rij->text(0) == QLatin1String("-"))
         return;
     const QString plaats = rij->text(0);
-    const QString oplossing = rij->text(2).toUpper().replace(QLatin1String("IJ"), QLatin1String("?"));
+    const QString oplossing = Hoofdletters(rij->text(2)).replace(QLatin1String("IJ"), QLatin1String("?"));
     const double x = double{VakMaat} * (plaats.at(0).unicode() - 65);
     const double y = Getallen::Val(QStringView(plaats).mid(2, 2)) * VakMaat - VakMaat;
     const int lengte = Getallen::AlsInt16(qint64{oplossing.size()} * VakMaat) - VakMaat;

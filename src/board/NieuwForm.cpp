@@ -22,7 +22,7 @@ NieuwForm::NieuwForm()
                          QStringLiteral("Kruiswoord Puzzel"), QStringLiteral("Sudoku Puzzel"),
                          QStringLiteral("Filippine Puzzel")});
     Image1 = Maak<QLabel>("Image1", QStringLiteral("Voorbeeld van de soort"), nullptr);
-    Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Naam Puzzel"), nullptr);
+    Text1 = Maak<LineBox>("Text1", QStringLiteral("Naam Puzzel"), nullptr);
     Label3 = MaakLabel("Label3", QStringLiteral("Naam Puzzel"));
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();

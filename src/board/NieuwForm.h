@@ -2,9 +2,9 @@
 
 #include "platform/Form.h"
 #include "platform/ImageButton.h"
+#include "platform/LineBox.h"
 
 #include <QComboBox>
-#include <QLineEdit>
 #include <QRadioButton>
 
 /// Starts a new design: picks the kind, the size and a name. It doesn't ask about the puzzle that it replaces.
@@ -23,7 +23,7 @@ public:
     QList<QRadioButton *> Option; ///< Option1 to Option5, in the order of the kinds
     QLabel *Image1;
     QList<QPixmap> Img; ///< the previews, in the order of the options
-    QLineEdit *Text1;
+    LineBox *Text1;
     ImageButton *CancelKnop, *OkKnop;
 
 private:

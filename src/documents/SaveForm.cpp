@@ -19,7 +19,7 @@ static QString PuzzelPad(const QString &bestand)
 SaveForm::SaveForm()
     : Form(QStringLiteral("SaveForm"), QStringLiteral("Puzzel opslaan"), 4800, 1560, qRgb(170, 240, 240))
 {
-    Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Naam van de puzzel"), nullptr);
+    Text1 = Maak<LineBox>("Text1", QStringLiteral("Naam van de puzzel"), nullptr);
     Bar = Maak<PictureBox>("Bar", QStringLiteral("Voortgang"), nullptr);
     Label1 = MaakLabel("Label1", QStringLiteral("0%"));
     CancelKnop =
@@ -115,15 +115,16 @@ bool SaveForm::MaakJpeg(const QString &naam)
     return true;
 }
 
-// It comes when all is written, and reports no work: some three seconds, whatever the puzzle.
+// It comes when all is written, and reports no work: some three seconds, whatever the puzzle. Clicks and keys wait, so
+// that nothing is changed meanwhile that would then count as saved.
 void SaveForm::ToonVoortgang()
 {
     for (int i = 0; i <= 300; i += 2) {
         Bar->BoxFull(0, 0, i, 20, RGB(0, 240, 0));
         Label1->SetCaption(QStringLiteral("%1%").arg(Getallen::RondEven(i / 3.0)));
-        Wachten(0.02);
+        Wachten(0.02, QEventLoop::ExcludeUserInputEvents);
     }
     Screen::MousePointer(Screen::Arrow);
     Label1->SetCaption(QStringLiteral("100%"));
-    Wachten(1);
+    Wachten(1, QEventLoop::ExcludeUserInputEvents);
 }

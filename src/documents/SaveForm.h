@@ -2,9 +2,8 @@
 
 #include "platform/Form.h"
 #include "platform/ImageButton.h"
+#include "platform/LineBox.h"
 #include "platform/PictureBox.h"
-
-#include <QLineEdit>
 
 /// Saves the puzzle: a text file and two bitmaps in the folder of puzzles, and a JPEG in the user's own picture folder.
 class SaveForm : public Form
@@ -20,7 +19,7 @@ public:
     /// Writes the text file. @param Naam comes back capitalised
     void SaveLijstPuzzel(QString &Naam);
 
-    QLineEdit *Text1;
+    LineBox *Text1;
     PictureBox *Bar;
     Label *Label1;
     ImageButton *CancelKnop, *SaveKnop;

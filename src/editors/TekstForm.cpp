@@ -33,9 +33,9 @@ TekstForm::TekstForm()
     : Form(QStringLiteral("TekstForm"), QStringLiteral("Oplossing Plaatsen op ") + Main().Label6->Caption(), 6600, 3690,
            qRgb(230, 250, 190))
 {
-    Text1 = Maak<QLineEdit>("Text1", QStringLiteral("Omschrijving"), nullptr);
+    Text1 = Maak<LineBox>("Text1", QStringLiteral("Omschrijving"), nullptr);
     Label1 = MaakLabel("Label1", QStringLiteral("Omschrijving"));
-    Text2 = Maak<QLineEdit>("Text2", QStringLiteral("Oplossing"), nullptr);
+    Text2 = Maak<LineBox>("Text2", QStringLiteral("Oplossing"), nullptr);
     Label2 = MaakLabel("Label2", QStringLiteral("Oplossing (0)"));
     CopyKnop = Maak<ImageButton>("CopyKnop", QStringLiteral("Copy tekst vanaf hoofdscherm"), nullptr,
                                  QStringLiteral("knop-kopie"));
@@ -100,7 +100,7 @@ void TekstForm::Verbind()
             if (aan)
                 Option_Click(i);
         });
-    bij(Text2, &QLineEdit::textChanged, [this] { Text2_Change(); });
+    bij(Text2, &LineBox::textChanged, [this] { Text2_Change(); });
     bij(CopyKnop, &ImageButton::clicked, [this] { CopyKnop_Click(); });
     bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
     bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
@@ -173,7 +173,7 @@ void TekstForm::DrukLetters(const QString &woord) const
     const RichtingSoort &richting = Richtingen[Gekozen(Option)];
     int kolom = CurCol, rij = CurRow;
     for (const QChar teken : woord) {
-        QString letter = QString(teken).toUpper();
+        QString letter(teken.toUpper());
         pic.CurrentX = kolom * VakMaat + 165 + LetterVerschuiving(letter);
         pic.CurrentY = rij * VakMaat + 105;
         if (letter == QLatin1String("?"))
@@ -198,7 +198,7 @@ void TekstForm::OkKnop_Click()
     if (!IsCompleet())
         return;
     const qint32 nummer = PuzzelType == Kruiswoord ? Getallen::NaarInt32(Combo1->currentText()) : 0;
-    const QString metCode = MetCode(Text2->text().toLower().remove(QLatin1Char(' ')));
+    const QString metCode = MetCode(KleineLetters(Text2->text()).remove(QLatin1Char(' ')));
     if (metCode.size() > LongestWord) // before anything is printed
         throw Fout(Fout::Overloop, QStringLiteral("een woord van meer dan %1 letters").arg(LongestWord));
     Text2->setText(metCode);

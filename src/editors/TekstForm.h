@@ -2,10 +2,10 @@
 
 #include "platform/Form.h"
 #include "platform/ImageButton.h"
+#include "platform/LineBox.h"
 
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLineEdit>
 #include <QRadioButton>
 
 /// Writes one solution word on the board, a letter a cell from the current cell on, and adds its row to the entry list.
@@ -23,7 +23,7 @@ public:
     /// @param Richting "H", "V", "R" or "L"
     void VoegRegelToe(const QString &Richting, const QString &Omschrijving, const QString &Oplossing, qint32 Nummer);
 
-    QLineEdit *Text1, *Text2;
+    LineBox *Text1, *Text2;
     Label *Label1, *Label2, *Label3;
     QList<QRadioButton *> Option; ///< Option1 to Option4: H, V, R, L
     QList<QPixmap> Img;           ///< the pictures of the directions

@@ -180,7 +180,7 @@ void VakForm::TekstPlaatsen(PictureBox &doel, double X, qint32 &Y)
     if (PijlSoort > 4 && n > 4)
         Y -= 150;
     for (int i = 0; i <= n; ++i) {
-        TextLabel->SetCaption(regels[i].toUpper());
+        TextLabel->SetCaption(Hoofdletters(regels[i]));
         const double w = Twips::VanPixels(TextLabel->width());
         // The width is that of Arial, the print is Arial Narrow: the 75 goes with that difference.
         doel.CurrentX = X + static_cast<double>(Getallen::RondEven((1800 - w) / 2)) + 75;

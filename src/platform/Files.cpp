@@ -144,7 +144,7 @@ void Hernoem(const QString &pad, const QString &naam)
 /// spares the old one.
 static void SchrijfDelen(const QString &pad, std::initializer_list<QByteArrayView> delen)
 {
-    QFile nieuw(pad + QStringLiteral(".nieuw~"));
+    QFile nieuw(QFileInfo(pad).path() + QStringLiteral("/.rasteratelier~")); // no longer than any name
     if (!nieuw.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw Fout(Fout::GeenToegang, pad);
     bool geschreven = true;

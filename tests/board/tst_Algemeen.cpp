@@ -55,6 +55,7 @@ private slots:
                                      << " abc";
         QTest::newRow("empty") << ""
                                << "";
+        QTest::newRow("keeps its length") << QStringLiteral("ßTEST") << QStringLiteral("ßtest");
         QTest::newRow("accent") << QStringLiteral("ÉÉN") << QStringLiteral("Één");
     }
     void firstLetterCapital()

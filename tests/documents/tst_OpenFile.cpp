@@ -117,6 +117,7 @@ private slots:
         PuzzelGewijzigd = true;
         bord.Klik(Qt::LeftButton, 1, 1);
         bord.Venster.SoortPlaatsing->close();
+        bord.Venster.Line1->Toon();
 
         Open(QStringLiteral("Mijn puzzel")); // the bitmaps are spelled as they were typed
         QVERIFY(bord.Pic() == pic);

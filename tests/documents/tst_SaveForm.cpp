@@ -20,6 +20,7 @@ public:
             Percentages += Form->Label1->Caption();
             Breedtes += InktVlak(Form->Bar->Image(), QRect(0, 0, 400, 22)).width();
             Wachttijden += seconden;
+            Welke += welke;
             const QCursor *pointer = QGuiApplication::overrideCursor();
             Zandlopers += pointer && pointer->shape() == Qt::WaitCursor;
         }
@@ -28,6 +29,7 @@ public:
     QStringList Percentages;
     QList<int> Breedtes;
     QList<double> Wachttijden;
+    QList<QEventLoop::ProcessEventsFlags> Welke;
     QList<bool> Zandlopers;
 };
 
@@ -132,7 +134,9 @@ private slots:
         PuzzelGewijzigd = true;
         SaveForm form;
         form.Text1->setText(naam);
+        form.SaveKnop->setFocus();
         form.SaveKnop_Click();
+        QCOMPARE(form.focusWidget(), form.Text1);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Naam Puzzel ontbreekt!"));
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral("Error"));
@@ -263,6 +267,38 @@ private slots:
         QVERIFY(!PuzzelGewijzigd); // the puzzle counts as saved
         QVERIFY(bord.Pic() == pic);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
+    }
+
+    void theLongestNameThatFits()
+    {
+        Bord bord;
+        Bewaar(QString(250, u'x'));
+        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 3);
+    }
+
+    void theSavedNameMeetsItsBitmaps()
+    {
+        Bord bord;
+        Bewaar(QStringLiteral("ßTEST"));
+        QCOMPARE(
+            bord.Bank.Bestanden(QStringLiteral("Puzzels")),
+            (QStringList{QStringLiteral("ßTEST1.bmp"), QStringLiteral("ßTEST2.bmp"), QStringLiteral("ßtest.lst")}));
+        QVERIFY(
+            Files::FileExists(Files::Pad(bord.Bank.Map(), {QStringLiteral("Puzzels"), QStringLiteral("ßtest1.bmp")})));
+    }
+
+    void clicksAndKeysWaitForTheEndOfTheShow()
+    {
+        Bord bord;
+        VoortgangKlok klok;
+        Klok::Gebruik(&klok);
+        SaveForm form;
+        klok.Form = &form;
+        form.Text1->setText(QStringLiteral("reis"));
+        form.SaveKnop_Click();
+        QVERIFY(!klok.Welke.isEmpty());
+        for (const auto welke : klok.Welke)
+            QCOMPARE(welke, QEventLoop::ExcludeUserInputEvents);
     }
 
     void twoDotsAreANameLikeAnother()

@@ -219,7 +219,9 @@ private slots:
         form.Text1->setText(omschrijving);
         form.Text2->setText(oplossing);
         form.Combo1->setEditText(nummer);
+        form.OkKnop->setFocus();
         form.OkKnop_Click();
+        QCOMPARE(form.focusWidget() == form.Text2, soort == Woordzoeker);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral("Error"));
