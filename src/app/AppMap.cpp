@@ -33,7 +33,12 @@ QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString 
     if (!QDir(gebruiker).exists()) {
         if (!QDir(installatie).exists())
             throw Fout(Fout::BestandNietGevonden, QStringLiteral("de bestanden van de installatie in ") + installatie);
-        Kopieer(installatie, gebruiker);
+        // Under another name until it is whole: a start that fails halfway leaves nothing that is taken for the folder.
+        const QString nieuw = gebruiker + QStringLiteral(".nieuw~");
+        QDir(nieuw).removeRecursively();
+        Kopieer(installatie, nieuw);
+        if (!QDir().rename(nieuw, gebruiker))
+            throw Fout(Fout::GeenToegang, gebruiker);
     }
     return gebruiker;
 }

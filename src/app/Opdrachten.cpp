@@ -87,11 +87,12 @@ QString MailDoel()
     return QStringLiteral("mailto:" ADRES_POST "?subject=Rasteratelier V" VERSIE " &body=Hallo Tessel,");
 }
 
-// A shell that has no mail program says nothing, so that no failure is ever seen here.
 void HelpMail_Click()
 {
     GebruikersNaam = HaalGebruiker();
-    OpenDocument(MailDoel());
+    if (VoerUit(MailDoel()) < 0)
+        MsgBox(QStringLiteral("Cannot send Mail from this System."), Knoppen::Ok, Icoon::Kritiek,
+               QStringLiteral("Mail disabled/not installed"));
 }
 
 void HelpKnop_Click()

@@ -39,9 +39,14 @@ void BeginWaarden()
     VakZwart.fill(false);
 }
 
+int VoerUit(const QString &doel)
+{
+    return QDesktopServices::openUrl(QUrl::fromUserInput(doel)) ? 0 : -1;
+}
+
 void OpenDocument(const QString &doel)
 {
-    QDesktopServices::openUrl(QUrl::fromUserInput(doel));
+    VoerUit(doel);
 }
 
 void Wachten(double seconden, QEventLoop::ProcessEventsFlags welke)

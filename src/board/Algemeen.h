@@ -40,6 +40,8 @@ extern std::array<bool, 305> VakZwart;
 /// Gives the globals the values that they start with.
 void BeginWaarden();
 
+/// Asks the system to open a document or an address. @return negative when the system has nothing that opens it
+int VoerUit(const QString &doel);
 /// Asks the system to open a document or an address; what comes of it isn't looked at.
 void OpenDocument(const QString &doel);
 /// Pauses for so many seconds, with events running.

@@ -93,7 +93,6 @@ private:
     QFrame *MaakFrame(const char *naam, const QString &leesnaam);
     PictureBox *MaakVerborgen(const char *naam, const QString &plaatje);
     void ZwartOmzetten();
-    void NeemRijOp(QTreeWidgetItem *rij);
 };
 
 /// The main window. There is one.

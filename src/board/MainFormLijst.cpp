@@ -68,7 +68,6 @@ void MainForm::ListView1_ItemClick()
     const QString oplossing = Hoofdletters(rij->text(2)).replace(QLatin1String("IJ"), QLatin1String("?"));
     const double x = double{VakMaat} * (plaats.at(0).unicode() - 65);
     const double y = Getallen::Val(QStringView(plaats).mid(2, 2)) * VakMaat - VakMaat;
-    const int lengte = Getallen::AlsInt16(qint64{oplossing.size()} * VakMaat) - VakMaat;
 
     const Soort *soort = SoortVan(PuzzelType);
     if (!soort || soort->Richtingen.isEmpty())
@@ -77,6 +76,7 @@ void MainForm::ListView1_ItemClick()
     Line1->Y1 = y + VakMaat / 2.0;
     const QChar richting = plaats.back();
     if (soort->Richtingen.contains(richting)) { // another letter leaves the end of the line where it was
+        const int lengte = Getallen::AlsInt16(qint64{oplossing.size()} * VakMaat) - VakMaat;
         const bool omlaag = richting != u'H';
         Line1->X2 = Line1->X1 + (richting == u'L' ? -lengte : richting == u'V' ? 0 : lengte);
         Line1->Y2 = Line1->Y1 + (omlaag ? lengte : 0);

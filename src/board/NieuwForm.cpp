@@ -107,6 +107,8 @@ void NieuwForm::OkKnop_Click()
 {
     OkKnop->Druk();
     Wachten(0.2);
+    if (Unloaded()) // closed meanwhile
+        return;
     if (Text1->text().trimmed().isEmpty()) {
         MsgBox(QStringLiteral("Naam Puzzel invullen a.u.b. (Alleen letters a..z)"));
         Text1->setFocus();

@@ -38,7 +38,10 @@ void Klok::Wacht(double seconden, QEventLoop::ProcessEventsFlags welke)
         Slaap(std::min(rest, seconden), welke);
         if (programmaEindigt)
             throw Afgebroken();
-        rest = seconden - (Timer() - begin);
+        const double nu = Timer();
+        if (nu < begin && welke.testFlag(QEventLoop::ExcludeUserInputEvents))
+            break; // at midnight such a wait would shut the user out for a day
+        rest = seconden - (nu - begin);
     }
 }
 

@@ -178,12 +178,16 @@ void PictureBox::paintEvent(QPaintEvent *event)
 void PictureBox::mouseMoveEvent(QMouseEvent *event)
 {
     const QPoint plaats = event->position().toPoint();
-    if (rect().contains(plaats))
-        emit MouseMove(Twips::VanPixels(plaats.x()), Twips::VanPixels(plaats.y()));
+    if (!rect().contains(plaats))
+        return;
+    bewogen_ = true;
+    emit MouseMove(Twips::VanPixels(plaats.x()), Twips::VanPixels(plaats.y()));
 }
 
 void PictureBox::mousePressEvent(QMouseEvent *event)
 {
+    if (bewogen_) // a menu that was open may have swallowed the moves to here
+        mouseMoveEvent(event);
     emit MouseDown(event->button(), event->globalPosition().toPoint());
 }
 

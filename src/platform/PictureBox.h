@@ -60,4 +60,5 @@ private:
     void Vul(QRect vlak, QRgb kleur);
 
     QImage beeld_;
+    bool bewogen_ = false; ///< whether the pointer has ever moved over the box
 };

@@ -82,6 +82,18 @@ private slots:
         QVERIFY(!QDir(machine.Gebruiker).exists());
     }
 
+    void aCopyThatFailedHalfwayIsMadeAnew()
+    {
+        Machine machine;
+        QVERIFY(
+            QDir().mkpath(machine.Gebruiker + QStringLiteral(".nieuw~/Puzzels/Rest.lst"))); // what such a start left
+        QCOMPARE(machine.Kies(), machine.Gebruiker);
+        QCOMPARE(
+            QDir(machine.Gebruiker + QStringLiteral("/Puzzels")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
+            QStringList{QStringLiteral("Kennismaking.lst")});
+        QVERIFY(!QDir(machine.Gebruiker + QStringLiteral(".nieuw~")).exists());
+    }
+
     void aFolderThatCannotBeMadeFails()
     {
         Machine machine;

@@ -124,6 +124,17 @@ private slots:
             QCOMPARE(GebruikersNaam, QStringLiteral("tessel"));
     }
 
+    void aSystemWithoutMailIsTold()
+    {
+        Programma programma;
+        QDesktopServices::unsetUrlHandler(QStringLiteral("mailto")); // this platform itself opens nothing
+        programma.Main().HelpMail->trigger();
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst, QStringLiteral("Cannot send Mail from this System."));
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Titel, QStringLiteral("Mail disabled/not installed"));
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+    }
+
     void theHelpButtonOpensTheManual()
     {
         Programma programma;

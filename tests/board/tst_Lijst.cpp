@@ -120,7 +120,7 @@ private slots:
         QFETCH(QString, plaats);
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
-        bord.Venster.VoegRijToe(plaats, {}, QStringLiteral("woord"), QStringLiteral("-"));
+        bord.Venster.VoegRijToe(plaats, {}, QString(80, u'a'), QStringLiteral("-")); // no length is looked at either
         bord.Venster.ListView1_ItemClick();
         QVERIFY(bord.Venster.Line1->isHidden());
     }

@@ -2,7 +2,7 @@
 #include "board/Soorten.h"
 #include "support/Bord.h"
 
-#include <QListView>
+#include <QTimer>
 
 class tst_NieuwForm : public QObject
 {
@@ -259,6 +259,21 @@ private slots:
         form.OkKnop_Click();
         QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(maat, maat));
         QCOMPARE(bord.Pic().size(), QSize(maat * 30 + 1, maat * 30 + 1));
+    }
+
+    void closingDuringTheSecondWaitChangesNothing()
+    {
+        Bord bord;
+        NieuwForm form;
+        form.show();
+        form.Text1->setText(QStringLiteral("naam"));
+        QTimer::singleShot(0, &form, [&form] { // the first wait; the next turn of events is in the second one
+            QTimer::singleShot(0, &form, [&form] { form.Unload(); });
+        });
+        form.OkKnop_Click();
+        QVERIFY(form.Unloaded());
+        QVERIFY(PuzzelNaam.isEmpty());
+        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.4) < 1e-6);
     }
 
     void cancelChangesNothing()

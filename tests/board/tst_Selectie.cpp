@@ -2,6 +2,7 @@
 #include "board/Soorten.h"
 #include "support/Bord.h"
 
+#include <QMouseEvent>
 #include <QSignalSpy>
 
 static const QRgb Wit = qRgb(255, 255, 255);
@@ -76,6 +77,23 @@ private slots:
         QVERIFY(bord.Venster.SoortPlaatsing->isVisible());
         bord.Venster.SoortPlaatsing->close();
         QVERIFY(bord.Venster.Shape1->isVisible()); // dismissing the pop-up leaves the frame on the cell
+    }
+
+    void aPressActsWhereThePointerIs()
+    {
+        Bord bord;
+        bord.Venster.show();
+        const auto druk = [&](QPoint plaats) {
+            QMouseEvent event(QEvent::MouseButtonPress, plaats, bord.Venster.Pic->mapToGlobal(plaats), Qt::RightButton,
+                              Qt::RightButton, Qt::NoModifier);
+            QCoreApplication::sendEvent(bord.Venster.Pic, &event);
+        };
+        druk(QPoint(100, 100)); // before any movement: the first cell
+        QVERIFY(VakZwart[1]);
+        QTest::mouseMove(bord.Venster.Pic, QPoint(45, 45));
+        druk(QPoint(7 * 30 + 15, 9 * 30 + 15)); // the moves to here went to a menu
+        QCOMPARE(bord.Venster.Label6->Caption(), QStringLiteral("H-10 / 152"));
+        QVERIFY(VakZwart[152]);
     }
 
     void theFrameLiesOnTheChosenCell()

@@ -51,6 +51,7 @@ private slots:
     void aRestThatIsOnlyRoundingEndsTheWait();
     void aSmallRestIsSleptToo();
     void aWaitAcrossMidnightSleepsOn();
+    void midnightEndsAWaitThatHoldsInputBack();
     void theKindOfEventsIsHandedOn_data();
     void theKindOfEventsIsHandedOn();
     void theEndOfTheProgramEndsEveryWait();
@@ -179,6 +180,13 @@ void TestKlok::aWaitAcrossMidnightSleepsOn()
     QCOMPARE(klok.Gevraagd.size(), std::size_t{Slaapjes + 1});
     for (const double seconden : klok.Gevraagd)
         QCOMPARE(seconden, 0.2);
+}
+
+void TestKlok::midnightEndsAWaitThatHoldsInputBack()
+{
+    LijstKlok klok(86399.9, {0.05});
+    klok.Wacht(0.2, QEventLoop::ExcludeUserInputEvents);
+    QCOMPARE(klok.Gevraagd.size(), std::size_t{1});
 }
 
 void TestKlok::theKindOfEventsIsHandedOn_data()
