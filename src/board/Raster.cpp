@@ -94,7 +94,8 @@ void TekenGroot(int breedte, int hoogte)
     PictureBox &pic = *Main().PicGroot;
     const QImage tegel = Main().PicVak->Image();
 
-    pic.Cls();
+    if (breedte == 0 || hoogte == 0)
+        pic.Cls(); // any other board is covered by its tiles
     pic.SetSize(GrootMaat(breedte), GrootMaat(hoogte));
     for (int kolom = 0; kolom < breedte && hoogte > 0; ++kolom)
         pic.PaintPicture(tegel, kolom * VakMaatGroot, 0, TileSize, TileSize, 0, 0, PlakWijze::Kopie);

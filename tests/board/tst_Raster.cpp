@@ -190,6 +190,7 @@ private slots:
         Bord bord;
         bord.Begin(Zweeds, 0, 0);
         QCOMPARE(bord.Pic().size(), QSize(1, 1));
+        QVERIFY(IsVlak(bord.Groot(), QRect(0, 0, 3, 3), Wit));
         bord.Begin(Zweeds, 40, 3);
         QCOMPARE(bord.Pic().size(), QSize(40 * 30 + 1, 3 * 30 + 1));
     }
