@@ -16,7 +16,7 @@ public:
     {
         if (event->type() == QEvent::UpdateRequest || event->type() == QEvent::Paint)
             QTimer::singleShot(0, this, [] {
-                QFile status(QStringLiteral("/proc/self/status"));
+                QFile status("/proc/self/status");
                 if (status.open(QIODevice::ReadOnly))
                     for (const QByteArray &regel : status.readAll().split('\n'))
                         if (regel.startsWith("VmRSS"))

@@ -15,6 +15,8 @@
 
 #include <benchmark/benchmark.h>
 
+using namespace Qt::StringLiterals;
+
 static void DrawBothBoards(benchmark::State &state)
 {
     for (auto _ : state) {
@@ -44,8 +46,8 @@ public:
 
 static QStringList Bestanden(const QString &map)
 {
-    return {map + QStringLiteral("/Puzzels/Proef.lst"), map + QStringLiteral("/Puzzels/Proef1.bmp"),
-            map + QStringLiteral("/Puzzels/Proef2.bmp"), map + QStringLiteral("/Pictures/Proef.jpg")};
+    return {map + u"/Puzzels/Proef.lst"_s, map + u"/Puzzels/Proef1.bmp"_s, map + u"/Puzzels/Proef2.bmp"_s,
+            map + u"/Pictures/Proef.jpg"_s};
 }
 
 static void WholeSaveWithoutItsWaits(benchmark::State &state)
@@ -55,7 +57,7 @@ static void WholeSaveWithoutItsWaits(benchmark::State &state)
         for (const QString &pad : Bestanden(AppPath))
             QFile::remove(pad);
         SaveForm form;
-        QString naam = QStringLiteral("Proef");
+        QString naam = u"Proef"_s;
         state.ResumeTiming();
         form.OpslaanPuzzel(naam);
     }
@@ -73,14 +75,14 @@ static void WriteTheSameBytes(benchmark::State &state)
         inhouden += bestand.readAll();
     }
     inhouden += inhouden[2];
-    const QString map = AppPath + QStringLiteral("/nieuw");
+    const QString map = AppPath + u"/nieuw"_s;
     for (auto _ : state) {
         state.PauseTiming();
         QDir(map).removeRecursively();
         QDir().mkpath(map);
         state.ResumeTiming();
         for (qsizetype i = 0; i < inhouden.size(); ++i) {
-            QFile bestand(map + QLatin1Char('/') + QString::number(i));
+            QFile bestand(map + u'/' + QString::number(i));
             if (!bestand.open(QIODevice::WriteOnly) || bestand.write(inhouden[i]) != inhouden[i].size())
                 return state.SkipWithError("cannot write");
         }

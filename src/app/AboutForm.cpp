@@ -8,32 +8,32 @@
 #include <QFileInfo>
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 static QString OverTekst()
 {
     const QFileInfo programma(QCoreApplication::applicationFilePath());
-    return QStringLiteral("Raster Atelier\n"
-                          "Puzzels ontwerpen, bewaren en delen.\n"
-                          "Gemaakt door de makers van Rasteratelier.\n"
-                          "\n"
-                          "Version : %1 / %2\n"
-                          "Date : %3")
-        .arg(QStringLiteral(VERSIE))
-        .arg(programma.size())
-        .arg(QLocale::system().toString(programma.lastModified(), QLocale::ShortFormat));
+    return u"Raster Atelier\n"
+           "Puzzels ontwerpen, bewaren en delen.\n"
+           "Gemaakt door de makers van Rasteratelier.\n"
+           "\n"
+           "Version : %1 / %2\n"
+           "Date : %3"_s.arg(Versie)
+               .arg(programma.size())
+               .arg(QLocale::system().toString(programma.lastModified(), QLocale::ShortFormat));
 }
 
-AboutForm::AboutForm()
-    : Form(QStringLiteral("AboutForm"), QStringLiteral("About Rasteratelier..."), 6390, 2910, qRgb(230, 230, 190))
+AboutForm::AboutForm() : Form(u"AboutForm"_s, u"About Rasteratelier..."_s, 6390, 2910, qRgb(230, 230, 190))
 {
-    Image1 = Maak<QLabel>("Image1", QStringLiteral("Raster Atelier"), nullptr);
+    Image1 = Maak<QLabel>("Image1", u"Raster Atelier"_s, nullptr);
     Label1 = MaakLabel("Label1", OverTekst());
-    CancelKnop = Maak<ImageButton>("CancelKnop", QStringLiteral("Sluiten"), nullptr, QStringLiteral("knop-sluiten"));
+    CancelKnop = Maak<ImageButton>("CancelKnop", u"Sluiten"_s, nullptr, u"knop-sluiten"_s);
 
     Zet(Image1, 180, 210, 1920, 1920);
     Zet(Label1, 2250, 300, 3900, 1800);
     Zet(CancelKnop, 5070, 1920);
 
-    Image1->setPixmap(Plaatjes::Pixmap(QStringLiteral("rasteratelier"), Image1->size(), devicePixelRatioF()));
+    Image1->setPixmap(Plaatjes::Pixmap(u"rasteratelier"_s, Image1->size(), devicePixelRatioF()));
     Label1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
 }

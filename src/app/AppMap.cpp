@@ -5,6 +5,8 @@
 #include <QDir>
 #include <QDirIterator>
 
+using namespace Qt::StringLiterals;
+
 static void Kopieer(const QString &van, const QString &naar)
 {
     if (!QDir().mkpath(naar))
@@ -12,7 +14,7 @@ static void Kopieer(const QString &van, const QString &naar)
     QDirIterator lus(van, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (lus.hasNext()) {
         const QString pad = lus.next();
-        const QString doel = naar + QLatin1Char('/') + QDir(van).relativeFilePath(pad);
+        const QString doel = naar + u'/' + QDir(van).relativeFilePath(pad);
         const bool gelukt = lus.fileInfo().isDir() ? QDir().mkpath(doel) : QFile::copy(pad, doel);
         if (!gelukt)
             throw Fout(Fout::GeenToegang, doel);
@@ -25,16 +27,16 @@ QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString 
 {
     if (!gevraagd.isEmpty()) {
         if (!QDir(gevraagd).exists())
-            throw Fout(Fout::BestandNietGevonden, QStringLiteral("de map ") + gevraagd);
+            throw Fout(Fout::BestandNietGevonden, u"de map "_s + gevraagd);
         return QDir(gevraagd).absolutePath();
     }
-    if (QDir(eigen + QStringLiteral("/Data")).exists())
+    if (QDir(eigen + u"/Data"_s).exists())
         return eigen;
     if (!QDir(gebruiker).exists()) {
         if (!QDir(installatie).exists())
-            throw Fout(Fout::BestandNietGevonden, QStringLiteral("de bestanden van de installatie in ") + installatie);
+            throw Fout(Fout::BestandNietGevonden, u"de bestanden van de installatie in "_s + installatie);
         // Under another name until it is whole: a start that fails halfway leaves nothing that is taken for the folder.
-        const QString nieuw = gebruiker + QStringLiteral(".nieuw~");
+        const QString nieuw = gebruiker + u".nieuw~"_s;
         QDir(nieuw).removeRecursively();
         Kopieer(installatie, nieuw);
         if (!QDir().rename(nieuw, gebruiker))

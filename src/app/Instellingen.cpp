@@ -2,6 +2,8 @@
 
 #include "platform/Files.h"
 
+using namespace Qt::StringLiterals;
+
 Instellingen LeesInstellingen(const QByteArray &inhoud)
 {
     Files::VeldLezer lezer(inhoud);
@@ -19,8 +21,8 @@ Instellingen LeesInstellingen(const QByteArray &inhoud)
 QByteArray SchrijfInstellingen(const Instellingen &instellingen)
 {
     Files::VeldSchrijver schrijver;
-    schrijver.Regel(QStringLiteral("Tessel Hoeksma Software 2017"));
-    schrijver.Regel(QString(26, QLatin1Char('-')));
+    schrijver.Regel(u"Tessel Hoeksma Software 2017"_s);
+    schrijver.Regel(QString(26, u'-'));
     schrijver.Regel({instellingen.Rood, instellingen.Groen, instellingen.Blauw});
     schrijver.Regel({instellingen.Kleur});
     schrijver.Regel(instellingen.PaginaTekst);

@@ -18,14 +18,16 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 static QString DataBestand(const QString &naam)
 {
-    return AppPath + QStringLiteral("/Data/") + naam;
+    return AppPath + u"/Data/"_s + naam;
 }
 
 static void OpenHelp()
 {
-    OpenDocument(DataBestand(QStringLiteral("help.pdf")));
+    OpenDocument(DataBestand(u"help.pdf"_s));
 }
 
 static void Koppel(QAction *item, void (*opdracht)())
@@ -41,13 +43,13 @@ void VerbindOpdrachten()
     Koppel(main.FileOpen, Toon<OpenFile>);
     Koppel(main.FileSave, Toon<SaveForm>);
     Koppel(main.FileExit, [] { Main().close(); });
-    Koppel(main.BiebOnlineWoordenboek, [] { OpenDocument(QStringLiteral(ADRES_WOORDENBOEK)); });
+    Koppel(main.BiebOnlineWoordenboek, [] { OpenDocument(Adressen::Woordenboek); });
     Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
     Koppel(main.HelpHelp, OpenHelp);
     Koppel(main.HelpSpecialeTekens, ToonSpecialeTekens);
-    Koppel(main.HelpMeerSoftware, [] { OpenDocument(QStringLiteral(ADRES_SOFTWARE)); });
+    Koppel(main.HelpMeerSoftware, [] { OpenDocument(Adressen::Software); });
     Koppel(main.HelpMail, HelpMail_Click);
-    Koppel(main.HelpWoordlijstAanmaken, [] { OpenDocument(DataBestand(QStringLiteral("Woordlijst Importeren.pdf"))); });
+    Koppel(main.HelpWoordlijstAanmaken, [] { OpenDocument(DataBestand(u"Woordlijst Importeren.pdf"_s)); });
     // These two are enabled by the kind of the puzzle.
     main.bij(main.EditDeleteRaster, &QAction::triggered, [] { VerwijderRaster(*Main().Pic); });
     main.bij(main.EditDeleteLetters, &QAction::triggered, [] { VerwijderLetters(*Main().Pic); });
@@ -68,8 +70,8 @@ void SoortVakTekst_Click(int index)
         Toon<TekstForm>();
         break;
     case 5:
-        if (MsgBox(QStringLiteral("Wil je alle lege vakjes opvullen met willekeurige letters?"), Knoppen::JaNee,
-                   Icoon::Geen, QStringLiteral("Fill")) == Antwoord::Ja)
+        if (MsgBox(u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s, Knoppen::JaNee, Icoon::Geen,
+                   u"Fill"_s) == Antwoord::Ja)
             VulLegeVakjes();
         break;
     }
@@ -79,20 +81,19 @@ void SoortVakTekst_Click(int index)
 void ToolsKlemboard_Click()
 {
     QGuiApplication::clipboard()->setImage(Main().Pic->Image());
-    MsgBox(QStringLiteral("Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."));
+    MsgBox(u"Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."_s);
 }
 
 QString MailDoel()
 {
-    return QStringLiteral("mailto:" ADRES_POST "?subject=Rasteratelier V" VERSIE " &body=Hallo Tessel,");
+    return u"mailto:"_s + Adressen::Post + u"?subject=Rasteratelier V"_s + Versie + u" &body=Hallo Tessel,"_s;
 }
 
 void HelpMail_Click()
 {
     GebruikersNaam = HaalGebruiker();
     if (VoerUit(MailDoel()) < 0)
-        MsgBox(QStringLiteral("Cannot send Mail from this System."), Knoppen::Ok, Icoon::Kritiek,
-               QStringLiteral("Mail disabled/not installed"));
+        MsgBox(u"Cannot send Mail from this System."_s, Knoppen::Ok, Icoon::Kritiek, u"Mail disabled/not installed"_s);
 }
 
 void HelpKnop_Click()

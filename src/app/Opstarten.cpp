@@ -8,9 +8,11 @@
 #include "platform/Files.h"
 #include "platform/Klok.h"
 
+using namespace Qt::StringLiterals;
+
 static QString InstellingenPad()
 {
-    return Files::Pad(AppPath, {QStringLiteral("Rasteratelier.ini")});
+    return Files::Pad(AppPath, {u"Rasteratelier.ini"_s});
 }
 
 static void BewaarInstellingen()
@@ -32,7 +34,7 @@ void LaadMain()
     try {
         gelezen = LeesInstellingen(Files::Lees(InstellingenPad()));
     } catch (const Fout &fout) {
-        throw Fout(fout.nummer(), QStringLiteral("het instellingenbestand ") + InstellingenPad());
+        throw Fout(fout.nummer(), u"het instellingenbestand "_s + InstellingenPad());
     }
     OrgineelRood = gelezen.Rood;
     OrgineelGroen = gelezen.Groen;
@@ -43,11 +45,11 @@ void LaadMain()
 
 bool SluitMain()
 {
-    if (PuzzelGewijzigd && MsgBox(QStringLiteral("Puzzel is gewijzigd, wil je toch afsluiten?"), Knoppen::JaNee,
-                                  Icoon::Geen, QStringLiteral("Afsluiten")) != Antwoord::Ja)
+    if (PuzzelGewijzigd && MsgBox(u"Puzzel is gewijzigd, wil je toch afsluiten?"_s, Knoppen::JaNee, Icoon::Geen,
+                                  u"Afsluiten"_s) != Antwoord::Ja)
         return false;
     // Settings that cannot be written are no reason to keep the program open: said, and ended all the same.
-    Form::Voer(QStringLiteral("het bewaren van de instellingen"), [] { BewaarInstellingen(); });
+    Form::Voer(u"het bewaren van de instellingen"_s, [] { BewaarInstellingen(); });
     Klok::ProgrammaEindigt();
     return true;
 }

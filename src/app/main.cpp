@@ -10,12 +10,13 @@
 #include <QCommandLineParser>
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 static QString GevraagdeMap(const QCoreApplication &app)
 {
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Ontwerpt Nederlandstalige puzzels."));
-    const QCommandLineOption map(QStringLiteral("map"), QStringLiteral("De map met de gegevens van het programma."),
-                                 QStringLiteral("MAP"));
+    parser.setApplicationDescription(u"Ontwerpt Nederlandstalige puzzels."_s);
+    const QCommandLineOption map(u"map"_s, u"De map met de gegevens van het programma."_s, u"MAP"_s);
     parser.addOption(map);
     parser.addHelpOption();
     parser.process(app);
@@ -25,20 +26,19 @@ static QString GevraagdeMap(const QCoreApplication &app)
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("rasteratelier"));
+    QApplication::setApplicationName(u"rasteratelier"_s);
     StelUiterlijkIn();
     try {
         AppPath = KiesAppMap(GevraagdeMap(app), QCoreApplication::applicationDirPath(),
                              QStandardPaths::writableLocation(QStandardPaths::AppDataLocation),
-                             QCoreApplication::applicationDirPath() + QStringLiteral("/" INSTALLED_FILES));
+                             QCoreApplication::applicationDirPath() + QLatin1String("/" INSTALLED_FILES));
         MainForm main;
         LaadMain();
         VerbindOpdrachten();
         main.show();
         return QApplication::exec();
     } catch (const Fout &fout) {
-        MsgBox(QStringLiteral("Fout %1 bij het starten: %2.").arg(fout.nummer()).arg(fout.tekst()), Knoppen::Ok,
-               Icoon::Kritiek);
+        MsgBox(u"Fout %1 bij het starten: %2."_s.arg(fout.nummer()).arg(fout.tekst()), Knoppen::Ok, Icoon::Kritiek);
         return 1;
     }
 }

@@ -23,6 +23,8 @@
 #include <QFile>
 #include <QTextStream>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QTextStream uit(stdout);
@@ -61,16 +63,16 @@ void WijsAan(const QString &plaats)
 void Ontwerp(const QStringList &regel)
 {
     const QString &wat = regel.at(0);
-    if (wat == QLatin1String("vak")) {
+    if (wat == "vak"_L1) {
         WijsAan(regel.at(1));
         VakForm form;
         form.HScroll1->setValue(regel.at(2).toInt());
         form.Text1->SetText(QString(regel.at(3)).replace(u'\\', u'\n'));
         form.OkKnop_Click();
-    } else if (wat == QLatin1String("woord")) {
+    } else if (wat == "woord"_L1) {
         WijsAan(regel.at(1));
         TekstForm form;
-        form.Option[regel.at(2) == QLatin1String("H") ? 0 : 1]->setChecked(true);
+        form.Option[regel.at(2) == "H"_L1 ? 0 : 1]->setChecked(true);
         form.Text2->setText(regel.at(3));
         form.Text1->setText(regel.at(4));
         form.OkKnop_Click();
@@ -103,10 +105,10 @@ QString LijstTekst()
 
 void Bewaar(const QString &map)
 {
-    QFile lijst(map + QStringLiteral("/lijst.txt"));
-    const bool gelukt = Main().Pic->Image().save(map + QStringLiteral("/Pic.png")) &&
-                        Main().PicGroot->Image().save(map + QStringLiteral("/PicGroot.png")) &&
-                        lijst.open(QIODevice::WriteOnly) && lijst.write(LijstTekst().toUtf8()) >= 0;
+    QFile lijst(map + u"/lijst.txt"_s);
+    const bool gelukt = Main().Pic->Image().save(map + u"/Pic.png"_s) &&
+                        Main().PicGroot->Image().save(map + u"/PicGroot.png"_s) && lijst.open(QIODevice::WriteOnly) &&
+                        lijst.write(LijstTekst().toUtf8()) >= 0;
     if (!gelukt)
         throw Fout(Fout::SchijfFout, map);
 }
@@ -120,13 +122,12 @@ bool Vergelijk(const QString &map)
     const auto beeld = [&map](const char *naam) {
         return QImage(map + QLatin1String(naam)).convertToFormat(QImage::Format_RGB32);
     };
-    QFile lijst(map + QStringLiteral("/lijst.txt"));
+    QFile lijst(map + u"/lijst.txt"_s);
     const bool open = lijst.open(QIODevice::ReadOnly);
-    bool alles = gelijk(QStringLiteral("zichtbaar puzzelveld, beeldpunt voor beeldpunt"),
-                        Main().Pic->Image() == beeld("/Pic.png"));
-    alles &= gelijk(QStringLiteral("orgineel puzzelveld, beeldpunt voor beeldpunt"),
-                    Main().PicGroot->Image() == beeld("/PicGroot.png"));
-    alles &= gelijk(QStringLiteral("lijst van %1 woorden, rij voor rij").arg(Main().ListView1->topLevelItemCount()),
+    bool alles = gelijk(u"zichtbaar puzzelveld, beeldpunt voor beeldpunt"_s, Main().Pic->Image() == beeld("/Pic.png"));
+    alles &=
+        gelijk(u"orgineel puzzelveld, beeldpunt voor beeldpunt"_s, Main().PicGroot->Image() == beeld("/PicGroot.png"));
+    alles &= gelijk(u"lijst van %1 woorden, rij voor rij"_s.arg(Main().ListView1->topLevelItemCount()),
                     open && QString::fromUtf8(lijst.readAll()) == LijstTekst());
     return alles;
 }
@@ -138,7 +139,7 @@ bool Controleer(const QString &naam, const QString &map)
         if (open.List1->List(i) == naam)
             open.List1->SetListIndex(i);
     open.OkKnop_Click();
-    const QString venster = map + QStringLiteral("/venster.png");
+    const QString venster = map + u"/venster.png"_s;
     Main().resize(Main().maximumSize()); // the window as it is on a screen that has room for all of it
     if (!Main().grab().save(venster))
         throw Fout(Fout::SchijfFout, venster);
@@ -149,19 +150,19 @@ bool Controleer(const QString &naam, const QString &map)
 int Voer(const QStringList &argumenten)
 {
     if (argumenten.size() != 4)
-        throw Fout(Fout::OngeldigArgument, QStringLiteral("voorbeeld maak|bewaar|controleer BRON MAP"));
+        throw Fout(Fout::OngeldigArgument, u"voorbeeld maak|bewaar|controleer BRON MAP"_s);
     const QString &wat = argumenten[1];
     const QList<QStringList> bron = LeesBron(argumenten[2]);
     AppPath = QDir(argumenten[3]).absolutePath();
     qputenv("HOME", AppPath.toLocal8Bit()); // the JPEG goes to the folder Pictures in it, not to the user's own
     qunsetenv("XDG_CONFIG_HOME");
-    const QString controle = AppPath + QStringLiteral("/controle");
+    const QString controle = AppPath + u"/controle"_s;
     MainForm main;
     BeginWaarden();
-    if (wat == QLatin1String("controleer"))
+    if (wat == "controleer"_L1)
         return Controleer(bron.at(0).at(1), controle) ? 0 : 1;
     MaakPuzzel(bron);
-    if (wat == QLatin1String("bewaar")) {
+    if (wat == "bewaar"_L1) {
         QDir().mkpath(controle);
         Bewaar(controle);
     }

@@ -9,6 +9,8 @@
 #include <QDesktopServices>
 #include <QUrl>
 
+using namespace Qt::StringLiterals;
+
 quint8 PuzzelType;
 qint32 BoardWidth, BoardHeight;
 qint32 CurCol, CurRow, CurCell;
@@ -32,7 +34,7 @@ void BeginWaarden()
     OrgineelBlauw = 190;
     KleurVakjes = 1;
     PuzzelType = Zweeds;
-    PaginaTekst = QStringLiteral(ADRES_UITGEVER);
+    PaginaTekst = Adressen::Uitgever;
     CurCol = CurRow = CurCell = 0;
     PuzzelNaam.clear();
     PuzzelGewijzigd = false;
@@ -67,23 +69,23 @@ bool BestandBestaat(const QString &pad)
 
 void ToonSpecialeTekens()
 {
-    MsgBox(QStringLiteral("Bijzondere combinaties\r\n"
-                          "-------------------------\r\n"
-                          "á  = Ctrl-Alt - a / 160\r\n"
-                          "é  = Ctrl-Alt - e / 130\r\n"
-                          "ó  = Ctrl-Alt - o / 162\r\n"
-                          "ä  = Ctrl-Alt - q / 132\r\n"
-                          "ü  = Ctrl-Alt - y / 129\r\n"
-                          "ö  = Ctrl-Alt - p / 148\r\n"
-                          "ú  = Ctrl-Alt - u / 163\r\n"
-                          "µ  = Ctrl-Alt - m / 230\r\n"
-                          "© = Ctrl-Alt - c\r\n"
-                          " ²  = Ctrl-Alt - 2\r\n"
-                          " ³  = Ctrl-Alt - 3\r\n"
-                          "€   = Ctrl-Alt - 5\r\n"
-                          "¼ = Ctrl-Alt - 6 / 172\r\n"
-                          "½ = Ctrl-Alt - 7 / 171\r\n"
-                          "¾ = Ctrl-Alt - 8"));
+    MsgBox(u"Bijzondere combinaties\r\n"
+           "-------------------------\r\n"
+           "á  = Ctrl-Alt - a / 160\r\n"
+           "é  = Ctrl-Alt - e / 130\r\n"
+           "ó  = Ctrl-Alt - o / 162\r\n"
+           "ä  = Ctrl-Alt - q / 132\r\n"
+           "ü  = Ctrl-Alt - y / 129\r\n"
+           "ö  = Ctrl-Alt - p / 148\r\n"
+           "ú  = Ctrl-Alt - u / 163\r\n"
+           "µ  = Ctrl-Alt - m / 230\r\n"
+           "© = Ctrl-Alt - c\r\n"
+           " ²  = Ctrl-Alt - 2\r\n"
+           " ³  = Ctrl-Alt - 3\r\n"
+           "€   = Ctrl-Alt - 5\r\n"
+           "¼ = Ctrl-Alt - 6 / 172\r\n"
+           "½ = Ctrl-Alt - 7 / 171\r\n"
+           "¾ = Ctrl-Alt - 8"_s);
 }
 
 QString Hoofdletters(QString tekst)
@@ -107,19 +109,19 @@ QString EersteHoofdletter(const QString &tekst)
 
 QString MetCode(QString woord)
 {
-    return woord.replace(QLatin1String("ij"), QLatin1String("?"));
+    return woord.replace("ij"_L1, "?"_L1);
 }
 
 QString ZonderCode(QString woord)
 {
-    return woord.replace(QLatin1Char('?'), QLatin1String("ij"));
+    return woord.replace(u'?', "ij"_L1);
 }
 
 int LetterVerschuiving(const QString &letter)
 {
-    if (letter == QLatin1String("W"))
+    if (letter == "W"_L1)
         return -45;
-    if (letter == QLatin1String("I"))
+    if (letter == "I"_L1)
         return 60;
     return 0;
 }

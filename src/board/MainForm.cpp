@@ -11,6 +11,8 @@
 #include <QHeaderView>
 #include <QLocale>
 
+using namespace Qt::StringLiterals;
+
 static MainForm *enige = nullptr;
 
 MainForm &Main()
@@ -21,12 +23,11 @@ MainForm &Main()
 
 static const QRgb PaneelKleur = qRgb(230, 230, 190);
 
-MainForm::MainForm()
-    : Form(QStringLiteral("Main"), QStringLiteral("Raster Atelier (16x19)"), 18600, 11340, PaneelKleur, true)
+MainForm::MainForm() : Form(u"Main"_s, u"Raster Atelier (16x19)"_s, 18600, 11340, PaneelKleur, true)
 {
     enige = this;
     setWindowFlags(Qt::Window);
-    setWindowIcon(Plaatjes::Pixmap(QStringLiteral("rasteratelier"), {64, 64}, 1));
+    setWindowIcon(Plaatjes::Pixmap(u"rasteratelier"_s, {64, 64}, 1));
     MaakBord();
     MaakLijst();
     MaakWoordPaneel();
@@ -67,23 +68,23 @@ static void StelLetterIn(PictureBox &box, const QString &naam, double punten)
 
 void MainForm::MaakBord()
 {
-    Frame8 = MaakFrame("Frame8", QStringLiteral("Soort puzzel"));
-    Label12 = MaakLabel("Label12", QStringLiteral("Soortpuzzel : Zweeds"), Frame8);
+    Frame8 = MaakFrame("Frame8", u"Soort puzzel"_s);
+    Label12 = MaakLabel("Label12", u"Soortpuzzel : Zweeds"_s, Frame8);
     Label1 = MaakLabel("Label1", QString());
-    Pic = Maak<PictureBox>("Pic", QStringLiteral("Puzzelveld"), nullptr);
-    PicR = Maak<PictureBox>("PicR", QStringLiteral("Rijnummers"), nullptr);
-    PicO = Maak<PictureBox>("PicO", QStringLiteral("Kolomletters"), nullptr);
+    Pic = Maak<PictureBox>("Pic", u"Puzzelveld"_s, nullptr);
+    PicR = Maak<PictureBox>("PicR", u"Rijnummers"_s, nullptr);
+    PicO = Maak<PictureBox>("PicO", u"Kolomletters"_s, nullptr);
     PicGroot = Maak<PictureBox>("PicGroot", QString(), nullptr);
-    PicVak = MaakVerborgen("PicVak", QStringLiteral("vak"));
-    Vak1 = MaakVerborgen("Vak1", QStringLiteral("vak1"));
-    Vak2 = MaakVerborgen("Vak2", QStringLiteral("vak2"));
+    PicVak = MaakVerborgen("PicVak", u"vak"_s);
+    Vak1 = MaakVerborgen("Vak1", u"vak1"_s);
+    Vak2 = MaakVerborgen("Vak2", u"vak2"_s);
     Shape1 = Maak<RectMark>("Shape1", QString(), Pic);
     Line1 = Maak<LineMark>("Line1", QString(), Pic);
-    Label2 = MaakLabel("Label2", QStringLiteral(" Load Database "));
-    Frame9 = MaakFrame("Frame9", QStringLiteral("Sudoku"));
-    Frame1 = MaakFrame("Frame1", QStringLiteral("Statusbalk"));
-    Label6 = MaakLabel("Label6", QStringLiteral("Coordinaten"), Frame1);
-    KlokLabel = MaakLabel("KlokLabel", QStringLiteral("00:00"), Frame1);
+    Label2 = MaakLabel("Label2", u" Load Database "_s);
+    Frame9 = MaakFrame("Frame9", u"Sudoku"_s);
+    Frame1 = MaakFrame("Frame1", u"Statusbalk"_s);
+    Label6 = MaakLabel("Label6", u"Coordinaten"_s, Frame1);
+    KlokLabel = MaakLabel("KlokLabel", u"00:00"_s, Frame1);
 
     Zet(Frame8, 180, 90, 7815, 540);
     Zet(Label12, 90, 180);
@@ -99,7 +100,7 @@ void MainForm::MaakBord()
 
     Label1->AutoSize = false;
     Label1->SetBackColor(RGB(150, 150, 150));
-    Label2->SetFont(Lettertype(QStringLiteral("Arial"), 30, false));
+    Label2->SetFont(Lettertype(u"Arial"_s, 30, false));
     Label2->SetBackColor(RGB(230, 230, 0));
     Label2->AutoSize = true;
     Label2->SetCaption(Label2->Caption());
@@ -108,10 +109,10 @@ void MainForm::MaakBord()
     PicGroot->hide();
     Frame9->hide();
     PicR->BackColor = PicO->BackColor = PaneelKleur;
-    StelLetterIn(*Pic, QStringLiteral("Arial"), 8.25);
-    StelLetterIn(*PicGroot, QStringLiteral("Arial Narrow"), 8.25);
-    StelLetterIn(*PicR, QStringLiteral("Arial"), 9.75);
-    StelLetterIn(*PicO, QStringLiteral("Arial"), 9.75);
+    StelLetterIn(*Pic, u"Arial"_s, 8.25);
+    StelLetterIn(*PicGroot, u"Arial Narrow"_s, 8.25);
+    StelLetterIn(*PicR, u"Arial"_s, 9.75);
+    StelLetterIn(*PicO, u"Arial"_s, 9.75);
     Shape1->BorderWidth = 2;
     Line1->BorderColor = RGB(255, 0, 0);
     Line1->BorderWidth = 2;
@@ -119,36 +120,35 @@ void MainForm::MaakBord()
 
 void MainForm::MaakWoordPaneel()
 {
-    List1 = Maak<ListBox>("List1", QStringLiteral("Gevonden woorden"), nullptr);
-    Frame10 = MaakFrame("Frame10", QStringLiteral("Copytekst"));
+    List1 = Maak<ListBox>("List1", u"Gevonden woorden"_s, nullptr);
+    Frame10 = MaakFrame("Frame10", u"Copytekst"_s);
     Label18 = MaakLabel("Label18", QString(), Frame10);
     CopyLabel = MaakLabel("CopyLabel", QString(), Frame10);
-    Frame2 = MaakFrame("Frame2", QStringLiteral("Zoeken op woordlengte"));
-    Label3 = MaakLabel("Label3", QStringLiteral("0 Woorden in lijst"), Frame2);
-    Label16 = MaakLabel("Label16", QStringLiteral("Woordlengte (2)"), Frame2);
+    Frame2 = MaakFrame("Frame2", u"Zoeken op woordlengte"_s);
+    Label3 = MaakLabel("Label3", u"0 Woorden in lijst"_s, Frame2);
+    Label16 = MaakLabel("Label16", u"Woordlengte (2)"_s, Frame2);
     Label15 = MaakLabel("Label15", QString(), Frame2);
-    ScrolLengte = Maak<QScrollBar>("ScrolLengte", QStringLiteral("Woordlengte"), Frame2, Qt::Horizontal);
-    OkKnop = Maak<ImageButton>("OkKnop", QStringLiteral("Start zoeken op woordlengte"), Frame2,
-                               QStringLiteral("knop-zoeken"));
-    Label17 = MaakLabel("Label17", QStringLiteral("Zoeken"), Frame2);
+    ScrolLengte = Maak<QScrollBar>("ScrolLengte", u"Woordlengte"_s, Frame2, Qt::Horizontal);
+    OkKnop = Maak<ImageButton>("OkKnop", u"Start zoeken op woordlengte"_s, Frame2, u"knop-zoeken"_s);
+    Label17 = MaakLabel("Label17", u"Zoeken"_s, Frame2);
     Image1 = Maak<QLabel>("Image1", QString(), Frame2);
     Label9 = MaakLabel("Label9", QString(), Frame2);
-    List2 = Maak<ListBox>("List2", QStringLiteral("Woorden van de lijst"), nullptr);
-    Frame6 = MaakFrame("Frame6", QStringLiteral("Lengte woorden"));
-    Combo1 = Maak<QComboBox>("Combo1", QStringLiteral("Lengte woorden"), Frame6);
-    Label7 = MaakLabel("Label7", QStringLiteral("Lengte woorden"), Frame6);
-    Label8 = MaakLabel("Label8", QStringLiteral("0"), Frame6);
-    Frame3 = MaakFrame("Frame3", QStringLiteral("Woordlijsten"));
-    List3 = Maak<ListBox>("List3", QStringLiteral("Woordlijsten"), Frame3);
-    Label4 = MaakLabel("Label4", QStringLiteral("Woordlijsten"), Frame3);
+    List2 = Maak<ListBox>("List2", u"Woorden van de lijst"_s, nullptr);
+    Frame6 = MaakFrame("Frame6", u"Lengte woorden"_s);
+    Combo1 = Maak<QComboBox>("Combo1", u"Lengte woorden"_s, Frame6);
+    Label7 = MaakLabel("Label7", u"Lengte woorden"_s, Frame6);
+    Label8 = MaakLabel("Label8", u"0"_s, Frame6);
+    Frame3 = MaakFrame("Frame3", u"Woordlijsten"_s);
+    List3 = Maak<ListBox>("List3", u"Woordlijsten"_s, Frame3);
+    Label4 = MaakLabel("Label4", u"Woordlijsten"_s, Frame3);
     Label5 = MaakLabel("Label5",
-                       QStringLiteral("Klik op de button 'Load' om de woordlijsten te openen, "
-                                      "selecteer vervolgens één van de woorden uit de lijst voor de bijbehorende "
-                                      "omschrijvingen.\n\n"
-                                      "Onder het menu-item 'Tools' kun je deze woordlijsten nog bewerken en / of "
-                                      "uitbreiden."),
+                       u"Klik op de button 'Load' om de woordlijsten te openen, "
+                       "selecteer vervolgens één van de woorden uit de lijst voor de bijbehorende "
+                       "omschrijvingen.\n\n"
+                       "Onder het menu-item 'Tools' kun je deze woordlijsten nog bewerken en / of "
+                       "uitbreiden."_s,
                        Frame3);
-    LoadKnop = Maak<ImageButton>("LoadKnop", QStringLiteral("Load"), Frame3, QStringLiteral("knop-laden"));
+    LoadKnop = Maak<ImageButton>("LoadKnop", u"Load"_s, Frame3, u"knop-laden"_s);
 
     Zet(List1, 8160, 6285, 2910, 4110);
     Zet(Frame10, 11230, 6195, 2100, 600);
@@ -179,15 +179,15 @@ void MainForm::MaakWoordPaneel()
 void MainForm::VulWoordPaneel()
 {
     for (const int lengte : {-1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, -1})
-        Combo1->addItem(lengte < 0 ? QStringLiteral("Alles") : QString::number(lengte));
+        Combo1->addItem(lengte < 0 ? u"Alles"_s : QString::number(lengte));
     ScrolLengte->setRange(2, 19);
-    Image1->setPixmap(Plaatjes::Pixmap(QStringLiteral("woordenboek"), Image1->size(), devicePixelRatioF()));
+    Image1->setPixmap(Plaatjes::Pixmap(u"woordenboek"_s, Image1->size(), devicePixelRatioF()));
     Label5->setWordWrap(true);
     Label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Label8->setAlignment(Qt::AlignRight);
     CopyLabel->SetForeColor(RGB(0, 0, 0));
-    CopyLabel->setToolTip(QStringLiteral(" Copytekst "));
-    OkKnop->setToolTip(QStringLiteral(" Start zoeken op woordlengte "));
+    CopyLabel->setToolTip(u" Copytekst "_s);
+    OkKnop->setToolTip(u" Start zoeken op woordlengte "_s);
     Label15->SetBackColor(RGB(150, 180, 180));
     Label18->SetBackColor(RGB(150, 180, 180));
     Kleur(List1, RGB(180, 180, 150), RGB(0, 0, 0));
@@ -201,13 +201,12 @@ void MainForm::VulWoordPaneel()
 
 void MainForm::MaakKnoppen()
 {
-    Frame4 = MaakFrame("Frame4", QStringLiteral("Raster Atelier"));
-    LogoPic = Maak<QLabel>("LogoPic", QStringLiteral("Raster Atelier"), Frame4);
-    Frame5 = MaakFrame("Frame5", QStringLiteral("Programma"));
-    HelpKnop = Maak<ImageButton>("HelpKnop", QStringLiteral("Uitleg en Hulp"), Frame5, QStringLiteral("knop-help"));
-    AboutKnop =
-        Maak<ImageButton>("AboutKnop", QStringLiteral("Over de ontwerper"), Frame5, QStringLiteral("knop-over"));
-    ExitKnop = Maak<ImageButton>("ExitKnop", QStringLiteral("Programma Stoppen"), Frame5, QStringLiteral("knop-stop"));
+    Frame4 = MaakFrame("Frame4", u"Raster Atelier"_s);
+    LogoPic = Maak<QLabel>("LogoPic", u"Raster Atelier"_s, Frame4);
+    Frame5 = MaakFrame("Frame5", u"Programma"_s);
+    HelpKnop = Maak<ImageButton>("HelpKnop", u"Uitleg en Hulp"_s, Frame5, u"knop-help"_s);
+    AboutKnop = Maak<ImageButton>("AboutKnop", u"Over de ontwerper"_s, Frame5, u"knop-over"_s);
+    ExitKnop = Maak<ImageButton>("ExitKnop", u"Programma Stoppen"_s, Frame5, u"knop-stop"_s);
 
     Zet(Frame4, 13500, 6840, 4830, 2490);
     Zet(LogoPic, 120, 240, 4575, 2100);
@@ -216,16 +215,16 @@ void MainForm::MaakKnoppen()
     Zet(AboutKnop, 840, 240);
     Zet(ExitKnop, 4050, 240);
 
-    LogoPic->setPixmap(Plaatjes::Pixmap(QStringLiteral("logo"), LogoPic->size(), devicePixelRatioF()));
-    HelpKnop->setToolTip(QStringLiteral(" Uitleg en Hulp "));
-    AboutKnop->setToolTip(QStringLiteral(" Over de ontwerper "));
-    ExitKnop->setToolTip(QStringLiteral(" Programma Stoppen "));
+    LogoPic->setPixmap(Plaatjes::Pixmap(u"logo"_s, LogoPic->size(), devicePixelRatioF()));
+    HelpKnop->setToolTip(u" Uitleg en Hulp "_s);
+    AboutKnop->setToolTip(u" Over de ontwerper "_s);
+    ExitKnop->setToolTip(u" Programma Stoppen "_s);
 }
 
 void MainForm::Verbind()
 {
     Timer1 = new QTimer(this);
-    Timer1->setObjectName(QStringLiteral("Timer1"));
+    Timer1->setObjectName(u"Timer1"_s);
     Timer1->start(1000);
     bij(Timer1, &QTimer::timeout, [this] { Timer1_Timer(); });
     bij(Pic, &PictureBox::MouseMove, [this](double x, double y) { Pic_MouseMove(x, y); });
@@ -238,8 +237,8 @@ void MainForm::Verbind()
 void MainForm::Timer1_Timer()
 {
     const QDateTime nu = Klok::Huidig().Nu();
-    KlokLabel->SetCaption(QLocale::system().toString(nu.date(), QLocale::ShortFormat) + QStringLiteral(" / ") +
-                          nu.time().toString(QStringLiteral("h:mm:ss")));
+    KlokLabel->SetCaption(QLocale::system().toString(nu.date(), QLocale::ShortFormat) + u" / "_s +
+                          nu.time().toString(u"h:mm:ss"_s));
 }
 
 void MainForm::ToonSoort()

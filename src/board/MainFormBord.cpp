@@ -3,11 +3,13 @@
 #include "board/Soorten.h"
 #include "platform/Kleur.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr bool NummerEditorBestaat = false; // item 7 stays disabled until it has an editor
 
 QString RijTekst(int rij)
 {
-    return QStringLiteral("%1").arg(rij + 1, 2, 10, QLatin1Char('0'));
+    return u"%1"_s.arg(rij + 1, 2, 10, QChar(u'0'));
 }
 
 QString KolomTekst(int kolom)
@@ -31,7 +33,7 @@ void MainForm::Pic_MouseMove(double pointerX, double pointerY)
     if (soort && soort->AlleenRij)
         Label6->SetCaption(RijTekst(CurRow));
     else
-        Label6->SetCaption(QStringLiteral("%1-%2 / %3").arg(KolomTekst(CurCol), RijTekst(CurRow)).arg(CurCell));
+        Label6->SetCaption(u"%1-%2 / %3"_s.arg(KolomTekst(CurCol), RijTekst(CurRow)).arg(CurCell));
 }
 
 void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)
@@ -62,7 +64,7 @@ void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)
 void MainForm::ZwartOmzetten()
 {
     if (CurCell < 0 || CurCell >= static_cast<int>(VakZwart.size()))
-        throw Fout(Fout::IndexBuitenBereik, QStringLiteral("vakje %1").arg(CurCell));
+        throw Fout(Fout::IndexBuitenBereik, u"vakje %1"_s.arg(CurCell));
     bool &isZwart = VakZwart[static_cast<std::size_t>(CurCell)];
     const int x = CurCol * VakMaat + 15;
     const int y = CurRow * VakMaat + 15;

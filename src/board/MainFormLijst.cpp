@@ -10,6 +10,8 @@
 #include <QSignalBlocker>
 #include <QStyledItemDelegate>
 
+using namespace Qt::StringLiterals;
+
 /// Shows the beginning of a text: a file may hold one of megabytes.
 class BeginVanTekst : public QStyledItemDelegate
 {
@@ -24,12 +26,11 @@ public:
 
 void MainForm::MaakLijst()
 {
-    ListView1 = Maak<QTreeWidget>("ListView1", QStringLiteral("Lijst van geplaatste woorden"), nullptr);
-    Frame7 = MaakFrame("Frame7", QStringLiteral("Lijst"));
-    DelKnop = Maak<ImageButton>("DelKnop", QStringLiteral("Verwijder een item uit bovenstaande lijst"), Frame7,
-                                QStringLiteral("knop-wissen"));
-    Label10 = MaakLabel("Label10", QStringLiteral("Item verwijderen"), Frame7);
-    Label11 = MaakLabel("Label11", QStringLiteral("0 Items"), Frame7);
+    ListView1 = Maak<QTreeWidget>("ListView1", u"Lijst van geplaatste woorden"_s, nullptr);
+    Frame7 = MaakFrame("Frame7", u"Lijst"_s);
+    DelKnop = Maak<ImageButton>("DelKnop", u"Verwijder een item uit bovenstaande lijst"_s, Frame7, u"knop-wissen"_s);
+    Label10 = MaakLabel("Label10", u"Item verwijderen"_s, Frame7);
+    Label11 = MaakLabel("Label11", u"0 Items"_s, Frame7);
 
     Zet(ListView1, 8160, 195, 5145, 5145);
     Zet(Frame7, 8160, 5400, 5175, 750);
@@ -37,8 +38,7 @@ void MainForm::MaakLijst()
     Zet(Label10, 1170, 315);
     Zet(Label11, 4350, 315);
 
-    ListView1->setHeaderLabels({QStringLiteral("Vaknummer"), QStringLiteral("Omschrijving"),
-                                QStringLiteral("Oplossing"), QStringLiteral("Nr.")});
+    ListView1->setHeaderLabels({u"Vaknummer"_s, u"Omschrijving"_s, u"Oplossing"_s, u"Nr."_s});
     ListView1->header()->setStretchLastSection(false);
     ListView1->header()->setSectionsMovable(false);
     ListView1->header()->setMinimumSectionSize(20);
@@ -49,7 +49,7 @@ void MainForm::MaakLijst()
     ListView1->setUniformRowHeights(true);
     ListView1->setItemDelegate(new BeginVanTekst(ListView1));
     Kleur(ListView1, RGB(220, 220, 250), RGB(0, 0, 0));
-    DelKnop->setToolTip(QStringLiteral(" Verwijder een item uit bovenstaande lijst "));
+    DelKnop->setToolTip(u" Verwijder een item uit bovenstaande lijst "_s);
 }
 
 static QTreeWidgetItem *GekozenRij(const QTreeWidget &lijst)
@@ -62,10 +62,10 @@ static QTreeWidgetItem *GekozenRij(const QTreeWidget &lijst)
 void MainForm::ListView1_ItemClick()
 {
     const QTreeWidgetItem *rij = GekozenRij(*ListView1);
-    if (!rij || rij->text(0) == QLatin1String("-"))
+    if (!rij || rij->text(0) == "-"_L1)
         return;
     const QString plaats = rij->text(0);
-    const QString oplossing = Hoofdletters(rij->text(2)).replace(QLatin1String("IJ"), QLatin1String("?"));
+    const QString oplossing = Hoofdletters(rij->text(2)).replace("IJ"_L1, "?"_L1);
     const double x = double{VakMaat} * (plaats.at(0).unicode() - 65);
     const double y = Getallen::Val(QStringView(plaats).mid(2, 2)) * VakMaat - VakMaat;
 
@@ -91,9 +91,9 @@ void MainForm::DelKnop_Click()
     QTreeWidgetItem *rij = GekozenRij(*ListView1);
     if (!rij)
         return;
-    const QString vraag = QStringLiteral("Wil je (") + rij->text(2) + QStringLiteral(") verwijderen uit de lijst?");
+    const QString vraag = u"Wil je ("_s + rij->text(2) + u") verwijderen uit de lijst?"_s;
     const int index = ListView1->indexOfTopLevelItem(rij);
-    if (MsgBox(vraag, Knoppen::JaNee, Icoon::Geen, QStringLiteral(" Delete")) != Antwoord::Ja)
+    if (MsgBox(vraag, Knoppen::JaNee, Icoon::Geen, u" Delete"_s) != Antwoord::Ja)
         return;
     {
         const QSignalBlocker stil(ListView1);
@@ -131,5 +131,5 @@ void MainForm::WisRijen()
 
 void MainForm::ToonAantal()
 {
-    Label11->SetCaption(QStringLiteral("%1 Items").arg(ListView1->topLevelItemCount()));
+    Label11->SetCaption(u"%1 Items"_s.arg(ListView1->topLevelItemCount()));
 }

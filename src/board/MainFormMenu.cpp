@@ -2,6 +2,8 @@
 
 #include <QMenuBar>
 
+using namespace Qt::StringLiterals;
+
 // The menu bar from left to right, each menu from top to bottom. An item is disabled until a command is connected to
 // it.
 
@@ -36,78 +38,75 @@ static void VulMenu(QMenuBar &balk, const char *naam, const QString &opschrift, 
 void MainForm::MaakMenuBalk()
 {
     QMenuBar &balk = *MenuBalk();
-    VulMenu(balk, "Bestand", QStringLiteral("Bestand"),
-            {{&FileNew, "FileNew", QStringLiteral("Nieuwe puzzel ontwerpen")},
+    VulMenu(balk, "Bestand", u"Bestand"_s,
+            {{&FileNew, "FileNew", u"Nieuwe puzzel ontwerpen"_s},
              {nullptr, "FileStreep1", {}},
-             {&FileOpen, "FileOpen", QStringLiteral("Puzzel openen")},
-             {&FileSave, "FileSave", QStringLiteral("Puzzel opslaan")},
-             {&FilePrint, "FilePrint", QStringLiteral("Puzzel afdrukken")},
+             {&FileOpen, "FileOpen", u"Puzzel openen"_s},
+             {&FileSave, "FileSave", u"Puzzel opslaan"_s},
+             {&FilePrint, "FilePrint", u"Puzzel afdrukken"_s},
              {nullptr, "FileStreep2", {}},
-             {&FileExit, "FileExit", QStringLiteral("Exit")}});
-    VulMenu(balk, "ShowGroot", QStringLiteral("Show"),
-            {{&ShowOrgineel, "ShowOrgineel", QStringLiteral("Orgineel puzzelveld")}});
-    VulMenu(balk, "Edit", QStringLiteral("Bewerken"),
-            {{&EditDeleteRaster, "EditDeleteRaster", QStringLiteral("Verwijder raster Filippine")},
-             {&EditDeleteLetters, "EditDeleteLetters", QStringLiteral("Verwijder letters Filippine")}});
-    VulMenu(balk, "Biebliotheek", QStringLiteral("Bibliotheek"),
-            {{&BiebOnlineWoordenboek, "BiebOnlineWoordenboek", QStringLiteral("Online woordenboek")},
+             {&FileExit, "FileExit", u"Exit"_s}});
+    VulMenu(balk, "ShowGroot", u"Show"_s, {{&ShowOrgineel, "ShowOrgineel", u"Orgineel puzzelveld"_s}});
+    VulMenu(balk, "Edit", u"Bewerken"_s,
+            {{&EditDeleteRaster, "EditDeleteRaster", u"Verwijder raster Filippine"_s},
+             {&EditDeleteLetters, "EditDeleteLetters", u"Verwijder letters Filippine"_s}});
+    VulMenu(balk, "Biebliotheek", u"Bibliotheek"_s,
+            {{&BiebOnlineWoordenboek, "BiebOnlineWoordenboek", u"Online woordenboek"_s},
              {nullptr, "BiebStreep1", {}},
-             {&BiebInternZoeken, "BiebInternZoeken", QStringLiteral("Database doorzoeken")},
-             {&BiebWoordzoeker, "BiebWoordzoeker", QStringLiteral("Woorden wisseling")},
-             {&BiebOntbrekendeLetters, "BiebOntbrekendeLetters", QStringLiteral("Ontbrekende letters")},
+             {&BiebInternZoeken, "BiebInternZoeken", u"Database doorzoeken"_s},
+             {&BiebWoordzoeker, "BiebWoordzoeker", u"Woorden wisseling"_s},
+             {&BiebOntbrekendeLetters, "BiebOntbrekendeLetters", u"Ontbrekende letters"_s},
              {nullptr, "BiebStreep2", {}},
-             {&BiebSpreekwoorden, "BiebSpreekwoorden", QStringLiteral("Spreekwoorden en gezegden")},
-             {&BiebChemisch, "BiebChemisch", QStringLiteral("Scheikundige symbolen")}});
-    VulMenu(balk, "Tools", QStringLiteral("Tools"),
-            {{&ToolsAdd, "ToolsAdd", QStringLiteral("Woordlijsten bewerken")},
-             {&ToolsConfig, "ToolsConfig", QStringLiteral("Instellingen")},
-             {&ToolsKlemboard, "ToolsKlemboard", QStringLiteral("Copy puzzelveld naar Clipboard")},
-             {&ToolsKladblok, "ToolsKladblok", QStringLiteral("Kladblok")},
+             {&BiebSpreekwoorden, "BiebSpreekwoorden", u"Spreekwoorden en gezegden"_s},
+             {&BiebChemisch, "BiebChemisch", u"Scheikundige symbolen"_s}});
+    VulMenu(balk, "Tools", u"Tools"_s,
+            {{&ToolsAdd, "ToolsAdd", u"Woordlijsten bewerken"_s},
+             {&ToolsConfig, "ToolsConfig", u"Instellingen"_s},
+             {&ToolsKlemboard, "ToolsKlemboard", u"Copy puzzelveld naar Clipboard"_s},
+             {&ToolsKladblok, "ToolsKladblok", u"Kladblok"_s},
              {nullptr, "ToolsStreep1", {}},
-             {&ToolsAutoWoordzoeker, "ToolsAutoWoordzoeker", QStringLiteral("Automatische woordzoeker")}});
-    VulMenu(balk, "Exporteren", QStringLiteral("Website"),
-            {{&Export1, "Export(1)", QStringLiteral("Html webpagina maken")}});
-    VulMenu(balk, "Help", QStringLiteral("Help"),
-            {{&HelpHelp, "HelpHelp", QStringLiteral("Uitleg en hulp")},
-             {&HelpSpecialeTekens, "HelpSpecialeTekens", QStringLiteral("Speciale tekens")},
-             {&HelpMeerSoftware, "HelpMeerSoftware", QStringLiteral("Meer software")},
+             {&ToolsAutoWoordzoeker, "ToolsAutoWoordzoeker", u"Automatische woordzoeker"_s}});
+    VulMenu(balk, "Exporteren", u"Website"_s, {{&Export1, "Export(1)", u"Html webpagina maken"_s}});
+    VulMenu(balk, "Help", u"Help"_s,
+            {{&HelpHelp, "HelpHelp", u"Uitleg en hulp"_s},
+             {&HelpSpecialeTekens, "HelpSpecialeTekens", u"Speciale tekens"_s},
+             {&HelpMeerSoftware, "HelpMeerSoftware", u"Meer software"_s},
              {nullptr, "helpStreep1", {}},
-             {&HelpMail, "HelpMail", QStringLiteral("Mail sturen")},
+             {&HelpMail, "HelpMail", u"Mail sturen"_s},
              {nullptr, "helpStreep2", {}},
-             {&HelpWoordlijstAanmaken, "HelpWoordlijstAanmaken", QStringLiteral("Woordlijsten aanmaken")}});
-    balk.addAction(Spatie = MaakItem(this, {nullptr, "Spatie", QStringLiteral("|")}));
-    balk.addAction(Bestandsnaam = MaakItem(this, {nullptr, "Bestandsnaam", QStringLiteral("Puzzelnaam")}));
+             {&HelpWoordlijstAanmaken, "HelpWoordlijstAanmaken", u"Woordlijsten aanmaken"_s}});
+    balk.addAction(Spatie = MaakItem(this, {nullptr, "Spatie", u"|"_s}));
+    balk.addAction(Bestandsnaam = MaakItem(this, {nullptr, "Bestandsnaam", u"Puzzelnaam"_s}));
 }
 
 void MainForm::MaakPopups()
 {
     SoortPlaatsing = new QMenu(this);
-    SoortPlaatsing->setObjectName(QStringLiteral("SoortPlaatsing"));
-    const QStringList opschriften{QStringLiteral("Informatievakje plaatsen"),
-                                  QStringLiteral("Omschrijving en/of oplossing plaatsen"),
-                                  QStringLiteral("Letter plaatsen"),
-                                  QStringLiteral("-"),
-                                  QStringLiteral("Lege vakjes opvullen"),
-                                  QStringLiteral("-"),
-                                  QStringLiteral("Vaknummer plaatsen"),
-                                  QStringLiteral("-"),
-                                  QStringLiteral("Annuleren")};
+    SoortPlaatsing->setObjectName(u"SoortPlaatsing"_s);
+    const QStringList opschriften{u"Informatievakje plaatsen"_s,
+                                  u"Omschrijving en/of oplossing plaatsen"_s,
+                                  u"Letter plaatsen"_s,
+                                  u"-"_s,
+                                  u"Lege vakjes opvullen"_s,
+                                  u"-"_s,
+                                  u"Vaknummer plaatsen"_s,
+                                  u"-"_s,
+                                  u"Annuleren"_s};
     for (int i = 1; i <= opschriften.size(); ++i) {
         const QString &opschrift = opschriften[i - 1];
-        QAction *item =
-            opschrift == QLatin1String("-") ? SoortPlaatsing->addSeparator() : SoortPlaatsing->addAction(opschrift);
-        item->setObjectName(QStringLiteral("SoortVakTekst(%1)").arg(i));
+        QAction *item = opschrift == "-"_L1 ? SoortPlaatsing->addSeparator() : SoortPlaatsing->addAction(opschrift);
+        item->setObjectName(u"SoortVakTekst(%1)"_s.arg(i));
         SoortVakTekst[static_cast<std::size_t>(i)] = item;
         bij(item, &QAction::triggered, [this, i] { emit VakMenuGekozen(i); });
     }
     SoortVakTekst[3]->setEnabled(false); // there is no letter editor yet
 
     SudokuMenu = new QMenu(this);
-    SudokuMenu->setObjectName(QStringLiteral("SudokuMenu"));
+    SudokuMenu->setObjectName(u"SudokuMenu"_s);
     for (int i = 0; i < static_cast<int>(SuMe.size()); ++i) {
-        QAction *item = i == 9 ? SudokuMenu->addSeparator()
-                               : SudokuMenu->addAction(i < 9 ? QString::number(i + 1) : QStringLiteral("Hint"));
-        item->setObjectName(QStringLiteral("SuMe(%1)").arg(i));
+        QAction *item =
+            i == 9 ? SudokuMenu->addSeparator() : SudokuMenu->addAction(i < 9 ? QString::number(i + 1) : u"Hint"_s);
+        item->setObjectName(u"SuMe(%1)"_s.arg(i));
         item->setEnabled(false); // a Sudoku cannot be played yet
         SuMe[static_cast<std::size_t>(i)] = item;
     }

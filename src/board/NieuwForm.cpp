@@ -9,21 +9,21 @@
 #include "platform/Kleur.h"
 #include "platform/Plaatjes.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr QRgb Achtergrond = qRgb(190, 230, 230);
 
-NieuwForm::NieuwForm()
-    : Form(QStringLiteral("NieuwForm"), QStringLiteral("Nieuwe puzzel ontwerpen"), 6300, 3720, Achtergrond)
+NieuwForm::NieuwForm() : Form(u"NieuwForm"_s, u"Nieuwe puzzel ontwerpen"_s, 6300, 3720, Achtergrond)
 {
-    Combo1 = MaakNummers("Combo1", QStringLiteral("Vakjes Horizontaal"), 9, 16, BoardWidth);
+    Combo1 = MaakNummers("Combo1", u"Vakjes Horizontaal"_s, 9, 16, BoardWidth);
     Label1 = MaakLabel("Label1", QString());
-    Combo2 = MaakNummers("Combo2", QStringLiteral("Vakjes Vertikaal"), 9, 19, BoardHeight);
+    Combo2 = MaakNummers("Combo2", u"Vakjes Vertikaal"_s, 9, 19, BoardHeight);
     Label2 = MaakLabel("Label2", QString());
-    Option = MaakOpties({QStringLiteral("Zweedse Puzzel"), QStringLiteral("Woordzoeker"),
-                         QStringLiteral("Kruiswoord Puzzel"), QStringLiteral("Sudoku Puzzel"),
-                         QStringLiteral("Filippine Puzzel")});
-    Image1 = Maak<QLabel>("Image1", QStringLiteral("Voorbeeld van de soort"), nullptr);
-    Text1 = Maak<LineBox>("Text1", QStringLiteral("Naam Puzzel"), nullptr);
-    Label3 = MaakLabel("Label3", QStringLiteral("Naam Puzzel"));
+    Option = MaakOpties(
+        {u"Zweedse Puzzel"_s, u"Woordzoeker"_s, u"Kruiswoord Puzzel"_s, u"Sudoku Puzzel"_s, u"Filippine Puzzel"_s});
+    Image1 = Maak<QLabel>("Image1", u"Voorbeeld van de soort"_s, nullptr);
+    Text1 = Maak<LineBox>("Text1", u"Naam Puzzel"_s, nullptr);
+    Label3 = MaakLabel("Label3", u"Naam Puzzel"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
     Plaats();
@@ -79,12 +79,12 @@ void NieuwForm::Verbind()
 
 void NieuwForm::Combo1_Change()
 {
-    Label1->SetCaption(QStringLiteral("Vakjes Horizontaal (") + Combo1->currentText() + QStringLiteral(")"));
+    Label1->SetCaption(u"Vakjes Horizontaal ("_s + Combo1->currentText() + u")"_s);
 }
 
 void NieuwForm::Combo2_Change()
 {
-    Label2->SetCaption(QStringLiteral("Vakjes Vertikaal (") + Combo2->currentText() + QStringLiteral(")"));
+    Label2->SetCaption(u"Vakjes Vertikaal ("_s + Combo2->currentText() + u")"_s);
 }
 
 void NieuwForm::Option_Click(int index)
@@ -110,11 +110,11 @@ void NieuwForm::OkKnop_Click()
     if (Unloaded()) // closed meanwhile
         return;
     if (Text1->text().trimmed().isEmpty()) {
-        MsgBox(QStringLiteral("Naam Puzzel invullen a.u.b. (Alleen letters a..z)"));
+        MsgBox(u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
         Text1->setFocus();
         return;
     }
-    PuzzelNaam = Text1->text().trimmed().remove(QLatin1Char(' '));
+    PuzzelNaam = Text1->text().trimmed().remove(u' ');
     Main().Bestandsnaam->setText(PuzzelNaam);
 
     int breedte = Getallen::NaarInt32(Combo1->currentText());
@@ -135,7 +135,7 @@ void NieuwForm::OkKnop_Click()
     TekenRaster(BoardWidth, BoardHeight);
     TekenGroot(BoardWidth, BoardHeight);
     Main().WisRijen();
-    Main().setWindowTitle(QStringLiteral("Raster Atelier (%1x%2)").arg(BoardWidth).arg(BoardHeight));
+    Main().setWindowTitle(u"Raster Atelier (%1x%2)"_s.arg(BoardWidth).arg(BoardHeight));
     Main().ToonAantal();
     Main().Shape1->hide();
     Main().Line1->hide();

@@ -2,6 +2,8 @@
 
 #include "platform/TextBox.h"
 
+using namespace Qt::StringLiterals;
+
 int TekstRegels(const TextBox &box, QStringList &regels)
 {
     const int n = box.LineCount();
@@ -19,6 +21,6 @@ int TekstRegels(const TextBox &box, QStringList &regels)
     }
     regels[regel] = tekst.sliced(begin);
     for (QString &element : regels)
-        element.remove(QLatin1String("\r\n"));
+        element.remove("\r\n"_L1);
     return n;
 }

@@ -9,19 +9,19 @@
 #include "platform/Kleur.h"
 #include "platform/Plaatjes.h"
 
+using namespace Qt::StringLiterals;
+
 static QString PuzzelMap()
 {
-    return Files::Pad(AppPath, {QStringLiteral("Puzzels")});
+    return Files::Pad(AppPath, {u"Puzzels"_s});
 }
 
-OpenFile::OpenFile()
-    : Form(QStringLiteral("OpenFile"), QStringLiteral("Puzzel openen"), 5160, 4395, qRgb(190, 240, 240))
+OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, qRgb(190, 240, 240))
 {
-    List1 = Maak<ListBox>("List1", QStringLiteral("Puzzels"), nullptr);
+    List1 = Maak<ListBox>("List1", u"Puzzels"_s, nullptr);
     Image1 = Maak<QLabel>("Image1", QString(), nullptr);
-    Label2 = MaakLabel("Label2", QStringLiteral("Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."));
-    DelKnop =
-        Maak<ImageButton>("DelKnop", QStringLiteral("Puzzel verwijderen"), nullptr, QStringLiteral("knop-wissen"));
+    Label2 = MaakLabel("Label2", u"Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."_s);
+    DelKnop = Maak<ImageButton>("DelKnop", u"Puzzel verwijderen"_s, nullptr, u"knop-wissen"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
 
@@ -33,12 +33,12 @@ OpenFile::OpenFile()
     Zet(OkKnop, 3915, 3390);
 
     Kleur(List1, RGB(30, 0, 0), RGB(250, 250, 250));
-    Image1->setPixmap(Plaatjes::Pixmap(QStringLiteral("map-open"), Image1->size(), devicePixelRatioF()));
+    Image1->setPixmap(Plaatjes::Pixmap(u"map-open"_s, Image1->size(), devicePixelRatioF()));
     Label2->setWordWrap(true);
     Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    DelKnop->setToolTip(QStringLiteral(" Puzzel verwijderen "));
+    DelKnop->setToolTip(u" Puzzel verwijderen "_s);
     DelKnop->setEnabled(false);
-    QStringList namen = Files::Lijst(PuzzelMap(), QStringLiteral("*.lst"));
+    QStringList namen = Files::Lijst(PuzzelMap(), u"*.lst"_s);
     for (QString &naam : namen)
         naam.chop(4);
     List1->SetItems(namen);
@@ -87,7 +87,7 @@ void OpenFile::OkKnop_Click()
 void OpenFile::LoadPuzzel(const QString &Naam)
 {
     PuzzelLijst lijst;
-    negeer([&] { lijst = LeesPuzzelLijst(Files::Lees(Files::Pad(PuzzelMap(), {Naam + QStringLiteral(".lst")}))); });
+    negeer([&] { lijst = LeesPuzzelLijst(Files::Lees(Files::Pad(PuzzelMap(), {Naam + u".lst"_s}))); });
     const qint32 breedte = lijst.Breedte.value_or(BoardWidth);
     const qint32 hoogte = lijst.Hoogte.value_or(BoardHeight);
     ControleerBord(breedte, hoogte);
@@ -106,10 +106,10 @@ void OpenFile::ToonPuzzel()
     const auto laad = [](PictureBox &pic, const QString &bestand) {
         negeer([&] { pic.SetPicture(Files::LoadPicture(Files::Pad(PuzzelMap(), {PuzzelNaam + bestand}))); });
     };
-    laad(*Main().Pic, QStringLiteral("1.bmp"));
-    laad(*Main().PicGroot, QStringLiteral("2.bmp"));
+    laad(*Main().Pic, u"1.bmp"_s);
+    laad(*Main().PicGroot, u"2.bmp"_s);
     // The word stays "Zweedse" for all kinds.
-    Main().setWindowTitle(QStringLiteral("Zweedse Raster Atelier (%1x%2)").arg(BoardWidth).arg(BoardHeight));
+    Main().setWindowTitle(u"Zweedse Raster Atelier (%1x%2)"_s.arg(BoardWidth).arg(BoardHeight));
     Main().ToonSoortDelen();
     Main().ToonAantal();
     Main().Bestandsnaam->setText(PuzzelNaam);
@@ -123,8 +123,8 @@ void OpenFile::DelKnop_Click()
     const QString naam = List1->Text();
     if (naam.isEmpty())
         return;
-    if (MsgBox(QStringLiteral("Wilt je deze puzzel '") + naam + QStringLiteral("' verwijderen?"), Knoppen::JaNee,
-               Icoon::Geen, QStringLiteral("Delete")) != Antwoord::Ja)
+    if (MsgBox(u"Wilt je deze puzzel '"_s + naam + u"' verwijderen?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s) !=
+        Antwoord::Ja)
         return;
     for (const char *deel : {".lst", "1.bmp", "2.bmp"})
         negeer([&] { Files::Kill(Files::Pad(PuzzelMap(), {naam + QLatin1String(deel)})); });

@@ -2,8 +2,10 @@
 
 #include "platform/Files.h"
 
-static const QString Banner = QStringLiteral("Tessel Hoeksma Software ® 2018");
-static const QString Streep(28, QLatin1Char('-'));
+using namespace Qt::StringLiterals;
+
+static const QString Banner = u"Tessel Hoeksma Software ® 2018"_s;
+static const QString Streep(28, u'-');
 
 PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud)
 {
@@ -34,6 +36,6 @@ QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const
     QStringList regels{Banner, QString::number(soort), QString::number(breedte), QString::number(hoogte), Streep};
     for (const QStringList &rij : rijen)
         regels += QStringList{rij[0].trimmed(), rij[1], rij[2], rij[3], Streep};
-    const QString einde = QStringLiteral("\r\n");
+    const QString einde = u"\r\n"_s;
     return Files::NaarBytes(regels.join(einde) + einde);
 }

@@ -11,20 +11,20 @@
 
 #include <QStandardPaths>
 
+using namespace Qt::StringLiterals;
+
 static QString PuzzelPad(const QString &bestand)
 {
-    return Files::Pad(AppPath, {QStringLiteral("Puzzels"), bestand});
+    return Files::Pad(AppPath, {u"Puzzels"_s, bestand});
 }
 
-SaveForm::SaveForm()
-    : Form(QStringLiteral("SaveForm"), QStringLiteral("Puzzel opslaan"), 4800, 1560, qRgb(170, 240, 240))
+SaveForm::SaveForm() : Form(u"SaveForm"_s, u"Puzzel opslaan"_s, 4800, 1560, qRgb(170, 240, 240))
 {
-    Text1 = Maak<LineBox>("Text1", QStringLiteral("Naam van de puzzel"), nullptr);
-    Bar = Maak<PictureBox>("Bar", QStringLiteral("Voortgang"), nullptr);
-    Label1 = MaakLabel("Label1", QStringLiteral("0%"));
-    CancelKnop =
-        Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren-laag"));
-    SaveKnop = Maak<ImageButton>("SaveKnop", QStringLiteral("Opslaan"), nullptr, QStringLiteral("knop-opslaan"));
+    Text1 = Maak<LineBox>("Text1", u"Naam van de puzzel"_s, nullptr);
+    Bar = Maak<PictureBox>("Bar", u"Voortgang"_s, nullptr);
+    Label1 = MaakLabel("Label1", u"0%"_s);
+    CancelKnop = Maak<ImageButton>("CancelKnop", u"Annuleren"_s, nullptr, u"knop-annuleren-laag"_s);
+    SaveKnop = Maak<ImageButton>("SaveKnop", u"Opslaan"_s, nullptr, u"knop-opslaan"_s);
 
     Zet(Text1, 120, 150, 4470, 330);
     Zet(Bar, 120, 150, 4500, 330);
@@ -36,7 +36,7 @@ SaveForm::SaveForm()
     Bar->ScaleMode = ScaleModes::Pixels;
     Bar->hide();
     const QString naam = Main().Bestandsnaam->text();
-    Text1->setText(naam == QLatin1String("Puzzelnaam") ? QString() : naam);
+    Text1->setText(naam == "Puzzelnaam"_L1 ? QString() : naam);
     Text1->setFocus();
 
     bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
@@ -54,7 +54,7 @@ void SaveForm::SaveKnop_Click()
 {
     SaveKnop->Druk();
     if (Text1->text().trimmed().isEmpty()) {
-        MsgBox(QStringLiteral("Naam Puzzel ontbreekt!"), Knoppen::Ok, Icoon::Kritiek, QStringLiteral("Error"));
+        MsgBox(u"Naam Puzzel ontbreekt!"_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
         Text1->setFocus();
         return;
     }
@@ -68,15 +68,15 @@ void SaveForm::OpslaanPuzzel(QString &Naam)
 {
     GebruikersNaam = HaalGebruiker();
     bool bestaat = false;
-    negeer([&] { bestaat = BestandBestaat(PuzzelPad(Naam + QStringLiteral(".lst"))); });
-    if (bestaat && MsgBox(QStringLiteral("Naam puzzel bestaat al, overschrijven?"), Knoppen::JaNee, Icoon::Geen,
-                          QStringLiteral(" Exist")) != Antwoord::Ja)
+    negeer([&] { bestaat = BestandBestaat(PuzzelPad(Naam + u".lst"_s)); });
+    if (bestaat &&
+        MsgBox(u"Naam puzzel bestaat al, overschrijven?"_s, Knoppen::JaNee, Icoon::Geen, u" Exist"_s) != Antwoord::Ja)
         return;
     Screen::MousePointer(Screen::Hourglass);
     Text1->hide();
     Bar->show();
-    negeer([&] { Files::SavePicture(Main().Pic->Image(), PuzzelPad(Naam + QStringLiteral("1.bmp"))); });
-    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), PuzzelPad(Naam + QStringLiteral("2.bmp"))); });
+    negeer([&] { Files::SavePicture(Main().Pic->Image(), PuzzelPad(Naam + u"1.bmp"_s)); });
+    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), PuzzelPad(Naam + u"2.bmp"_s)); });
     SaveLijstPuzzel(Naam);
     if (!MaakJpeg(Naam))
         return; // the hourglass stays on
@@ -92,7 +92,7 @@ void SaveForm::SaveLijstPuzzel(QString &Naam)
         rijen += QStringList{rij->text(0), rij->text(1), rij->text(2), rij->text(3)};
     }
     negeer([&] {
-        const QString bestand = Naam + QStringLiteral(".lst");
+        const QString bestand = Naam + u".lst"_s;
         const QString pad = PuzzelPad(bestand);
         Files::Schrijf(pad, SchrijfPuzzelLijst(PuzzelType, BoardWidth, BoardHeight, rijen));
         Files::Hernoem(pad, bestand); // an older file of the name may be spelled otherwise
@@ -102,15 +102,15 @@ void SaveForm::SaveLijstPuzzel(QString &Naam)
 /// @return false when there was no bitmap to make it of
 bool SaveForm::MaakJpeg(const QString &naam)
 {
-    const QString tussenNaam = QStringLiteral("mydummy.bmp");
+    const QString tussenNaam = u"mydummy.bmp"_s;
     const QString tussen = Files::Pad(AppPath, {tussenNaam});
     negeer([&] { Files::SavePicture(Main().PicGroot->Image(), tussen); });
     if (Files::Dir(tussen) != tussenNaam) {
-        MsgBox(QStringLiteral("Fout bij opslaan als JPG!"));
+        MsgBox(u"Fout bij opslaan als JPG!"_s);
         return false;
     }
     const QString map = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    negeer([&] { Files::BmpToJpeg(tussen, Files::Pad(map, {naam + QStringLiteral(".jpg")}), 100); });
+    negeer([&] { Files::BmpToJpeg(tussen, Files::Pad(map, {naam + u".jpg"_s}), 100); });
     negeer([&] { Files::Kill(tussen); });
     return true;
 }
@@ -121,10 +121,10 @@ void SaveForm::ToonVoortgang()
 {
     for (int i = 0; i <= 300; i += 2) {
         Bar->BoxFull(0, 0, i, 20, RGB(0, 240, 0));
-        Label1->SetCaption(QStringLiteral("%1%").arg(Getallen::RondEven(i / 3.0)));
+        Label1->SetCaption(u"%1%"_s.arg(Getallen::RondEven(i / 3.0)));
         Wachten(0.02, QEventLoop::ExcludeUserInputEvents);
     }
     Screen::MousePointer(Screen::Arrow);
-    Label1->SetCaption(QStringLiteral("100%"));
+    Label1->SetCaption(u"100%"_s);
     Wachten(1, QEventLoop::ExcludeUserInputEvents);
 }

@@ -8,6 +8,8 @@
 #include "platform/Plaatjes.h"
 #include "platform/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 QString LaatsteOplossing;
 
 namespace {
@@ -21,32 +23,28 @@ struct RichtingSoort
 };
 
 constexpr RichtingSoort Richtingen[]{
-    {QLatin1String("H"), "richting-h", 1, 0},
-    {QLatin1String("V"), "richting-v", 0, 1},
-    {QLatin1String("R"), "richting-r", 1, 1},
-    {QLatin1String("L"), "richting-l", -1, 1},
+    {"H"_L1, "richting-h", 1, 0},
+    {"V"_L1, "richting-v", 0, 1},
+    {"R"_L1, "richting-r", 1, 1},
+    {"L"_L1, "richting-l", -1, 1},
 };
 
 } // namespace
 
 TekstForm::TekstForm()
-    : Form(QStringLiteral("TekstForm"), QStringLiteral("Oplossing Plaatsen op ") + Main().Label6->Caption(), 6600, 3690,
-           qRgb(230, 250, 190))
+    : Form(u"TekstForm"_s, u"Oplossing Plaatsen op "_s + Main().Label6->Caption(), 6600, 3690, qRgb(230, 250, 190))
 {
-    Text1 = Maak<LineBox>("Text1", QStringLiteral("Omschrijving"), nullptr);
-    Label1 = MaakLabel("Label1", QStringLiteral("Omschrijving"));
-    Text2 = Maak<LineBox>("Text2", QStringLiteral("Oplossing"), nullptr);
-    Label2 = MaakLabel("Label2", QStringLiteral("Oplossing (0)"));
-    CopyKnop = Maak<ImageButton>("CopyKnop", QStringLiteral("Copy tekst vanaf hoofdscherm"), nullptr,
-                                 QStringLiteral("knop-kopie"));
-    Option = MaakOpties(
-        {QStringLiteral("Oplossing Horizontaal Plaatsen"), QStringLiteral("Oplossing Vertikaal Plaatsen"),
-         QStringLiteral("Diagonaal naar rechtsonder Plaatsen"), QStringLiteral("Diagonaal naar linksonder plaatsen")});
-    Image1 = Maak<QLabel>("Image1", QStringLiteral("Richting"), nullptr);
-    Check1 = Maak<QCheckBox>("Check1", QStringLiteral("Oplossing omgekeerd"), nullptr,
-                             QStringLiteral("Oplossing omgekeerd"));
-    Combo1 = MaakNummers("Combo1", QStringLiteral("Vaknummer Kruiswoordpuzzel"), 1, 99, 1);
-    Label3 = MaakLabel("Label3", QStringLiteral("Vaknummer Kruiswoordpuzzel"));
+    Text1 = Maak<LineBox>("Text1", u"Omschrijving"_s, nullptr);
+    Label1 = MaakLabel("Label1", u"Omschrijving"_s);
+    Text2 = Maak<LineBox>("Text2", u"Oplossing"_s, nullptr);
+    Label2 = MaakLabel("Label2", u"Oplossing (0)"_s);
+    CopyKnop = Maak<ImageButton>("CopyKnop", u"Copy tekst vanaf hoofdscherm"_s, nullptr, u"knop-kopie"_s);
+    Option = MaakOpties({u"Oplossing Horizontaal Plaatsen"_s, u"Oplossing Vertikaal Plaatsen"_s,
+                         u"Diagonaal naar rechtsonder Plaatsen"_s, u"Diagonaal naar linksonder plaatsen"_s});
+    Image1 = Maak<QLabel>("Image1", u"Richting"_s, nullptr);
+    Check1 = Maak<QCheckBox>("Check1", u"Oplossing omgekeerd"_s, nullptr, u"Oplossing omgekeerd"_s);
+    Combo1 = MaakNummers("Combo1", u"Vaknummer Kruiswoordpuzzel"_s, 1, 99, 1);
+    Label3 = MaakLabel("Label3", u"Vaknummer Kruiswoordpuzzel"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
     Plaats();
@@ -78,7 +76,7 @@ void TekstForm::Vul()
     for (const RichtingSoort &richting : Richtingen)
         Img += Plaatjes::Pixmap(QLatin1String(richting.Plaatje), Image1->size(), devicePixelRatioF());
     Image1->setPixmap(Img[0]);
-    CopyKnop->setToolTip(QStringLiteral(" Copy tekst vanaf hoofdscherm "));
+    CopyKnop->setToolTip(u" Copy tekst vanaf hoofdscherm "_s);
     Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
     Kleur(Text2, RGB(30, 0, 0), RGB(230, 230, 230));
     Kleur(Combo1, RGB(30, 0, 0), RGB(230, 230, 230));
@@ -113,7 +111,7 @@ void TekstForm::Option_Click(int index)
 
 void TekstForm::Text2_Change()
 {
-    Label2->SetCaption(QStringLiteral("Oplossing (%1)").arg(MetCode(Text2->text()).size()));
+    Label2->SetCaption(u"Oplossing (%1)"_s.arg(MetCode(Text2->text()).size()));
 }
 
 void TekstForm::CopyKnop_Click()
@@ -130,19 +128,19 @@ void TekstForm::CancelKnop_Click()
 
 bool TekstForm::IsCompleet()
 {
-    const auto meld = [](const QString &tekst) { MsgBox(tekst, Knoppen::Ok, Icoon::Geen, QStringLiteral("Error")); };
+    const auto meld = [](const QString &tekst) { MsgBox(tekst, Knoppen::Ok, Icoon::Geen, u"Error"_s); };
     const bool metOmschrijving = PuzzelType == Zweeds || PuzzelType == Kruiswoord;
     if (metOmschrijving && (Text1->text().isEmpty() || Text2->text().isEmpty())) {
-        meld(QStringLiteral("Omschrijving en/of Oplossing intypen..."));
+        meld(u"Omschrijving en/of Oplossing intypen..."_s);
         return false;
     }
     if (PuzzelType == Woordzoeker && Text2->text().isEmpty()) {
-        meld(QStringLiteral("Oplossing intypen..."));
+        meld(u"Oplossing intypen..."_s);
         Text2->setFocus();
         return false;
     }
     if (PuzzelType == Kruiswoord && Getallen::NaarInt32(Combo1->currentText()) == 0) {
-        meld(QStringLiteral("Vaknummer selecteren (1..99)"));
+        meld(u"Vaknummer selecteren (1..99)"_s);
         return false;
     }
     return true;
@@ -176,8 +174,8 @@ void TekstForm::DrukLetters(const QString &woord) const
         QString letter(teken.toUpper());
         pic.CurrentX = kolom * VakMaat + 165 + LetterVerschuiving(letter);
         pic.CurrentY = rij * VakMaat + 105;
-        if (letter == QLatin1String("?"))
-            letter = QStringLiteral("IJ");
+        if (letter == "?"_L1)
+            letter = u"IJ"_s;
         pic.Print(letter);
         if (PuzzelType == Woordzoeker) {
             groot.CurrentX = kolom * VakMaatGroot + 600;
@@ -198,9 +196,9 @@ void TekstForm::OkKnop_Click()
     if (!IsCompleet())
         return;
     const qint32 nummer = PuzzelType == Kruiswoord ? Getallen::NaarInt32(Combo1->currentText()) : 0;
-    const QString metCode = MetCode(KleineLetters(Text2->text()).remove(QLatin1Char(' ')));
+    const QString metCode = MetCode(KleineLetters(Text2->text()).remove(u' '));
     if (metCode.size() > LongestWord) // before anything is printed
-        throw Fout(Fout::Overloop, QStringLiteral("een woord van meer dan %1 letters").arg(LongestWord));
+        throw Fout(Fout::Overloop, u"een woord van meer dan %1 letters"_s.arg(LongestWord));
     Text2->setText(metCode);
     if (PuzzelType == Kruiswoord)
         DrukNummer();
@@ -219,6 +217,6 @@ void TekstForm::OkKnop_Click()
 void TekstForm::VoegRegelToe(const QString &Richting, const QString &Omschrijving, const QString &Oplossing,
                              qint32 Nummer)
 {
-    Main().VoegRijToe(Main().Label6->Caption() + QLatin1Char('-') + Richting, Omschrijving, Oplossing,
-                      PuzzelType == Kruiswoord ? QString::number(Nummer) : QStringLiteral("-"));
+    Main().VoegRijToe(Main().Label6->Caption() + u'-' + Richting, Omschrijving, Oplossing,
+                      PuzzelType == Kruiswoord ? QString::number(Nummer) : u"-"_s);
 }

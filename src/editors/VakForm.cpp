@@ -9,25 +9,26 @@
 #include "platform/Plaatjes.h"
 #include "platform/Twips.h"
 
+using namespace Qt::StringLiterals;
+
 static constexpr QRgb Achtergrond = qRgb(230, 250, 190);
 
 VakForm::VakForm()
-    : Form(QStringLiteral("VakForm"), QStringLiteral("Informatievakje Plaatsen op ") + Main().Label6->Caption(), 6900,
-           3480, Achtergrond)
+    : Form(u"VakForm"_s, u"Informatievakje Plaatsen op "_s + Main().Label6->Caption(), 6900, 3480, Achtergrond)
 {
-    Pic = Maak<PictureBox>("Pic", QStringLiteral("Voorbeeld van het vakje"), nullptr);
+    Pic = Maak<PictureBox>("Pic", u"Voorbeeld van het vakje"_s, nullptr);
     Label3 = MaakLabel("Label3", QString(), Pic);
-    ImgR = Maak<PictureBox>("ImgR", QStringLiteral("Pijl naar rechts"), nullptr);
-    ImgO = Maak<PictureBox>("ImgO", QStringLiteral("Pijl omlaag"), nullptr);
-    Text1 = Maak<TextBox>("Text1", QStringLiteral("Omschrijving"), nullptr);
-    Label1 = MaakLabel("Label1", QStringLiteral("Omschrijving"));
-    Label2 = MaakLabel("Label2", QStringLiteral("1"));
-    Label5 = MaakLabel("Label5", QStringLiteral("Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, "
-                                                "typ dan de omschrijving in de tekstvelden en klik daarna op de button "
-                                                "'Ok' om het infovakje op het puzzelveld te plaatsen."));
+    ImgR = Maak<PictureBox>("ImgR", u"Pijl naar rechts"_s, nullptr);
+    ImgO = Maak<PictureBox>("ImgO", u"Pijl omlaag"_s, nullptr);
+    Text1 = Maak<TextBox>("Text1", u"Omschrijving"_s, nullptr);
+    Label1 = MaakLabel("Label1", u"Omschrijving"_s);
+    Label2 = MaakLabel("Label2", u"1"_s);
+    Label5 = MaakLabel("Label5", u"Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, "
+                                 "typ dan de omschrijving in de tekstvelden en klik daarna op de button "
+                                 "'Ok' om het infovakje op het puzzelveld te plaatsen."_s);
     Label6 = MaakLabel("Label6", QString());
-    HScroll1 = Maak<QScrollBar>("HScroll1", QStringLiteral("Soort Vakje"), nullptr, Qt::Horizontal);
-    Label7 = MaakLabel("Label7", QStringLiteral("Soort Vakje"));
+    HScroll1 = Maak<QScrollBar>("HScroll1", u"Soort Vakje"_s, nullptr, Qt::Horizontal);
+    Label7 = MaakLabel("Label7", u"Soort Vakje"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
     TextLabel = MaakLabel("TextLabel", QString());
@@ -59,22 +60,22 @@ void VakForm::Plaats()
 
 void VakForm::Vul()
 {
-    Image1 = Plaatjes::Beeld(QStringLiteral("vak"));
-    BackPijlen1 = BackPijlen2 = Plaatjes::Beeld(QStringLiteral("pijlen"));
-    Pic->FontName = QStringLiteral("Arial Narrow");
+    Image1 = Plaatjes::Beeld(u"vak"_s);
+    BackPijlen1 = BackPijlen2 = Plaatjes::Beeld(u"pijlen"_s);
+    Pic->FontName = u"Arial Narrow"_s;
     Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     Label3->setWordWrap(true);
-    Label3->SetFont(Lettertype(QStringLiteral("Arial"), 8.25, true));
+    Label3->SetFont(Lettertype(u"Arial"_s, 8.25, true));
     ImgR->BackColor = ImgO->BackColor = Achtergrond;
-    Text1->setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+    Text1->setFont(Lettertype(u"Arial"_s, 12, true));
     Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
-    Label2->SetFont(Lettertype(QStringLiteral("Arial"), 8.25, true));
+    Label2->SetFont(Lettertype(u"Arial"_s, 8.25, true));
     Label5->setWordWrap(true);
     Label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Label6->SetBackColor(RGB(150, 180, 180));
     HScroll1->setRange(1, 8);
     HScroll1->setPageStep(1);
-    TextLabel->SetFont(Lettertype(QStringLiteral("Arial"), 13, true));
+    TextLabel->SetFont(Lettertype(u"Arial"_s, 13, true));
     TextLabel->hide(); // its only use is to measure a line
     Text1->setFocus();
     PijlSoort = 1;
@@ -116,10 +117,10 @@ void VakForm::VakjeTonen(qint16 soort)
 
 void VakForm::Text1_Change()
 {
-    Label3->SetFont(Lettertype(QStringLiteral("Arial"), 12, true));
+    Label3->SetFont(Lettertype(u"Arial"_s, 12, true));
     Label3->SetCaption(Text1->toPlainText());
     QStringList regels;
-    Label1->SetCaption(QStringLiteral("Regel %1").arg(TekstRegels(*Text1, regels)));
+    Label1->SetCaption(u"Regel %1"_s.arg(TekstRegels(*Text1, regels)));
 }
 
 void VakForm::CancelKnop_Click()
@@ -132,12 +133,11 @@ void VakForm::CancelKnop_Click()
 void VakForm::PlakTegel()
 {
     constexpr int TileSize = 645;
-    static const std::array<QLatin1String, 3> Kleuren{QLatin1String("#e5f8c2"), QLatin1String("#c0e5e0"),
-                                                      QLatin1String("#f49a95")};
+    static const std::array<QLatin1String, 3> Kleuren{"#e5f8c2"_L1, "#c0e5e0"_L1, "#f49a95"_L1};
     const int tegel = (Label2->Caption().toInt() - 1) * TileSize;
     if (KleurVakjes < 1 || KleurVakjes > Kleuren.size())
         return;
-    const QImage vakjes = Plaatjes::Beeld(QStringLiteral("vakjes"), Kleuren[0], Kleuren[KleurVakjes - 1u]);
+    const QImage vakjes = Plaatjes::Beeld(u"vakjes"_s, Kleuren[0], Kleuren[KleurVakjes - 1u]);
     Main().Pic->PaintPicture(vakjes, CurCol * VakMaat, CurRow * VakMaat, TileSize, TileSize, tegel, 0, PlakWijze::En);
 }
 
@@ -166,7 +166,7 @@ void VakForm::OkKnop_Click()
     PlakPijlen(x0, y0);
     groot.FontSize = 13;
     groot.FontBold = true;
-    groot.FontName = QStringLiteral("Arial Narrow");
+    groot.FontName = u"Arial Narrow"_s;
     groot.ForeColor = RGB(0, 0, 0);
     TekstPlaatsen(groot, x0, y0);
     PuzzelGewijzigd = true;

@@ -5,6 +5,8 @@
 #include <QMessageBox>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 static Berichten *vervanger = nullptr;
 
 Berichten::~Berichten() = default;
@@ -23,7 +25,7 @@ void Berichten::Gebruik(Berichten *berichten)
 Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
     QMessageBox box(QApplication::activeWindow());
-    box.setObjectName(QStringLiteral("MsgBox"));
+    box.setObjectName(u"MsgBox"_s);
     box.setWindowTitle(titel);
     box.setTextFormat(Qt::PlainText);
     box.setText(tekst);
@@ -35,12 +37,12 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
     else if (knoppen == Knoppen::JaNee)
         box.setIcon(QMessageBox::Question);
     if (knoppen == Knoppen::Ok) {
-        box.setDefaultButton(box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole));
+        box.setDefaultButton(box.addButton(u"OK"_s, QMessageBox::AcceptRole));
         box.exec();
         return Antwoord::Ok;
     }
-    QPushButton *ja = box.addButton(QStringLiteral("&Ja"), QMessageBox::YesRole);
-    QPushButton *nee = box.addButton(QStringLiteral("&Nee"), QMessageBox::NoRole);
+    QPushButton *ja = box.addButton(u"&Ja"_s, QMessageBox::YesRole);
+    QPushButton *nee = box.addButton(u"&Nee"_s, QMessageBox::NoRole);
     box.setDefaultButton(ja);
     box.setEscapeButton(nee);
     box.exec();
@@ -50,5 +52,6 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
     constexpr int MostCharacters = 1024;
-    return Berichten::Huidig().Vraag(tekst.left(MostCharacters), knoppen, icoon, titel);
+    return Berichten::Huidig().Vraag(tekst.left(MostCharacters), knoppen, icoon,
+                                     titel.isEmpty() ? u"Rasteratelier"_s : titel);
 }

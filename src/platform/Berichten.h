@@ -20,5 +20,6 @@ public:
 
 /// Shows a message box and waits for its answer; closing a Yes/No box without an answer is a No. At most 1024
 /// characters of the text are shown.
+/// @param titel the program's own name when it is empty
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen = Knoppen::Ok, Icoon icoon = Icoon::Geen,
-                const QString &titel = QStringLiteral("Rasteratelier"));
+                const QString &titel = {});

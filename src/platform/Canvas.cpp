@@ -7,15 +7,17 @@
 #include <QImage>
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 QFont Lettertype(const QString &naam, double punten, bool vet)
 {
     static const struct
     {
         QLatin1String naam, familie;
     } Families[] = {
-        {QLatin1String("Arial"), QLatin1String("Liberation Sans")},
-        {QLatin1String("Arial Narrow"), QLatin1String("Liberation Sans Narrow")},
-        {QLatin1String("Courier New"), QLatin1String("Liberation Mono")},
+        {"Arial"_L1, "Liberation Sans"_L1},
+        {"Arial Narrow"_L1, "Liberation Sans Narrow"_L1},
+        {"Courier New"_L1, "Liberation Mono"_L1},
     };
     QFont font;
     font.setFamilies({naam});

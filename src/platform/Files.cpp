@@ -13,6 +13,8 @@
 #include <filesystem>
 #include <memory>
 
+using namespace Qt::StringLiterals;
+
 namespace Files {
 
 static constexpr char CodePage[] = "windows-1252";
@@ -46,9 +48,9 @@ QString NaarTekst(QByteArrayView bytes)
 static bool IsGoedeNaam(const QString &naam)
 {
     for (const QChar c : naam)
-        if (c.unicode() < 32 || c.unicode() == 127 || QStringLiteral("<>:\"/\\|?*").contains(c))
+        if (c.unicode() < 32 || c.unicode() == 127 || u"<>:\"/\\|?*"_s.contains(c))
             return false;
-    return !naam.isEmpty() && naam != QLatin1String(".") && naam != QLatin1String("..");
+    return !naam.isEmpty() && naam != "."_L1 && naam != ".."_L1;
 }
 
 static QString EigenSpelling(const QString &map, const QString &naam)
@@ -69,7 +71,7 @@ QString Pad(const QString &map, const QStringList &namen)
     for (const QString &naam : namen) {
         if (!IsGoedeNaam(naam))
             throw Fout(Fout::OngeldigeNaam, naam.left(60).simplified());
-        pad += QLatin1Char('/') + EigenSpelling(pad, naam);
+        pad += u'/' + EigenSpelling(pad, naam);
     }
     return pad;
 }
@@ -136,7 +138,7 @@ static bool Verplaats(const QString &van, const QString &naar)
 
 void Hernoem(const QString &pad, const QString &naam)
 {
-    if (!Verplaats(pad, QFileInfo(pad).path() + QLatin1Char('/') + naam))
+    if (!Verplaats(pad, QFileInfo(pad).path() + u'/' + naam))
         throw Fout(Fout::GeenToegang, pad);
 }
 
@@ -144,7 +146,7 @@ void Hernoem(const QString &pad, const QString &naam)
 /// spares the old one.
 static void SchrijfDelen(const QString &pad, std::initializer_list<QByteArrayView> delen)
 {
-    QFile nieuw(QFileInfo(pad).path() + QStringLiteral("/.rasteratelier~")); // no longer than any name
+    QFile nieuw(QFileInfo(pad).path() + u"/.rasteratelier~"_s); // no longer than any name
     if (!nieuw.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
         throw Fout(Fout::GeenToegang, pad);
     bool geschreven = true;

@@ -13,6 +13,8 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+using namespace Qt::StringLiterals;
+
 // What the classic frame takes of a window's outer size, in twips.
 static constexpr int FrameWidth = 90;
 static constexpr int FrameHeight = 450;
@@ -62,12 +64,10 @@ void Form::Voer(const QString &naam, const std::function<void()> &handler)
     } catch (const Afgebroken &) {
         // closed while it waited: nothing to say
     } catch (const Fout &fout) {
-        MsgBox(QStringLiteral("Fout %1 bij %2: %3.").arg(fout.nummer()).arg(naam, fout.tekst()), Knoppen::Ok,
-               Icoon::Kritiek);
+        MsgBox(u"Fout %1 bij %2: %3."_s.arg(fout.nummer()).arg(naam, fout.tekst()), Knoppen::Ok, Icoon::Kritiek);
     } catch (const std::bad_alloc &) {
         const Fout vol(Fout::GeheugenVol);
-        MsgBox(QStringLiteral("Fout %1 bij %2: %3.").arg(vol.nummer()).arg(naam, vol.tekst()), Knoppen::Ok,
-               Icoon::Kritiek);
+        MsgBox(u"Fout %1 bij %2: %3."_s.arg(vol.nummer()).arg(naam, vol.tekst()), Knoppen::Ok, Icoon::Kritiek);
     }
 }
 
@@ -78,7 +78,7 @@ QString Form::Wat(const QObject *zender)
         naam = control->accessibleName();
     else if (const auto *item = qobject_cast<const QAction *>(zender))
         naam = item->text();
-    return QLatin1Char('\'') + (naam.isEmpty() ? zender->objectName() : naam) + QLatin1Char('\'');
+    return u'\'' + (naam.isEmpty() ? zender->objectName() : naam) + u'\'';
 }
 
 void Form::Unload()
@@ -95,12 +95,12 @@ Label *Form::MaakLabel(const char *naam, const QString &caption, QWidget *ouder)
 
 ImageButton *Form::MaakOkKnop()
 {
-    return Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
+    return Maak<ImageButton>("OkKnop", u"Ok"_s, nullptr, u"knop-ok"_s);
 }
 
 ImageButton *Form::MaakCancelKnop()
 {
-    return Maak<ImageButton>("CancelKnop", QStringLiteral("Annuleren"), nullptr, QStringLiteral("knop-annuleren"));
+    return Maak<ImageButton>("CancelKnop", u"Annuleren"_s, nullptr, u"knop-annuleren"_s);
 }
 
 QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften)
@@ -108,7 +108,7 @@ QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften)
     QList<QRadioButton *> opties;
     for (const QString &opschrift : opschriften) {
         opties += Maak<QRadioButton>("", opschrift, nullptr, opschrift);
-        opties.last()->setObjectName(QStringLiteral("Option%1").arg(opties.size()));
+        opties.last()->setObjectName(u"Option%1"_s.arg(opties.size()));
     }
     opties.first()->setChecked(true);
     return opties;

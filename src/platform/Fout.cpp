@@ -1,34 +1,36 @@
 #include "platform/Fout.h"
 
+using namespace Qt::StringLiterals;
+
 static QString DutchText(Fout::Nummer nummer)
 {
     switch (nummer) {
     case Fout::OngeldigArgument:
-        return QStringLiteral("Ongeldig argument");
+        return u"Ongeldig argument"_s;
     case Fout::Overloop:
-        return QStringLiteral("Overloop: het getal is te groot of te klein");
+        return u"Overloop: het getal is te groot of te klein"_s;
     case Fout::GeheugenVol:
-        return QStringLiteral("Onvoldoende geheugen");
+        return u"Onvoldoende geheugen"_s;
     case Fout::IndexBuitenBereik:
-        return QStringLiteral("Index valt buiten het bereik");
+        return u"Index valt buiten het bereik"_s;
     case Fout::TypeOnjuist:
-        return QStringLiteral("Typen komen niet overeen: hier hoort een getal");
+        return u"Typen komen niet overeen: hier hoort een getal"_s;
     case Fout::OngeldigeNaam:
-        return QStringLiteral("Ongeldige bestandsnaam");
+        return u"Ongeldige bestandsnaam"_s;
     case Fout::BestandNietGevonden:
-        return QStringLiteral("Bestand niet gevonden");
+        return u"Bestand niet gevonden"_s;
     case Fout::SchijfFout:
-        return QStringLiteral("Fout bij lezen of schrijven");
+        return u"Fout bij lezen of schrijven"_s;
     case Fout::EindeBestand:
-        return QStringLiteral("Het bestand houdt te vroeg op");
+        return u"Het bestand houdt te vroeg op"_s;
     case Fout::GeenToegang:
-        return QStringLiteral("Geen toegang");
+        return u"Geen toegang"_s;
     case Fout::OngeldigeWaarde:
-        return QStringLiteral("Ongeldige waarde");
+        return u"Ongeldige waarde"_s;
     case Fout::OngeldigeAfbeelding:
-        return QStringLiteral("Ongeldige afbeelding");
+        return u"Ongeldige afbeelding"_s;
     }
-    return QStringLiteral("Onbekende fout");
+    return u"Onbekende fout"_s;
 }
 
 Fout::Fout(Nummer nummer, QString waarbij) : nummer_(nummer), waarbij_(std::move(waarbij)) {}
@@ -36,5 +38,5 @@ Fout::Fout(Nummer nummer, QString waarbij) : nummer_(nummer), waarbij_(std::move
 QString Fout::tekst() const
 {
     const QString tekst = DutchText(nummer_);
-    return waarbij_.isEmpty() ? tekst : tekst + QStringLiteral(" (") + waarbij_ + QStringLiteral(")");
+    return waarbij_.isEmpty() ? tekst : tekst + u" ("_s + waarbij_ + u")"_s;
 }

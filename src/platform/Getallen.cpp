@@ -7,6 +7,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace Getallen {
 
 double Val(QStringView tekst)
@@ -69,7 +71,7 @@ qint64 RondEven(double waarde)
 
 QString MetTeken(qint64 waarde)
 {
-    return waarde < 0 ? QString::number(waarde) : QLatin1Char(' ') + QString::number(waarde);
+    return waarde < 0 ? QString::number(waarde) : u' ' + QString::number(waarde);
 }
 
 } // namespace Getallen

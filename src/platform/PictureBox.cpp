@@ -10,6 +10,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 PictureBox::PictureBox(QWidget *ouder) : QWidget(ouder)
 {
     setMouseTracking(true);
@@ -19,10 +21,10 @@ PictureBox::PictureBox(QWidget *ouder) : QWidget(ouder)
 void PictureBox::ControleerMaat(double breedte, double hoogte)
 {
     if (breedte < 0 || hoogte < 0)
-        throw Fout(Fout::OngeldigeWaarde, QStringLiteral("een negatieve maat"));
+        throw Fout(Fout::OngeldigeWaarde, u"een negatieve maat"_s);
     const double pixels = breedte / Twips::PerPixel * (hoogte / Twips::PerPixel);
     if (pixels * 4 > static_cast<double>(Files::GrootsteInhoud))
-        throw Fout(Fout::GeheugenVol, QStringLiteral("een te grote afbeelding"));
+        throw Fout(Fout::GeheugenVol, u"een te grote afbeelding"_s);
 }
 
 void PictureBox::SetSize(double breedte, double hoogte)

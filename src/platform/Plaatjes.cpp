@@ -4,11 +4,13 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
+using namespace Qt::StringLiterals;
+
 namespace Plaatjes {
 
 static QByteArray Tekening(const QString &naam)
 {
-    QFile bestand(QStringLiteral(":/assets/") + naam + QStringLiteral(".svg"));
+    QFile bestand(u":/assets/"_s + naam + u".svg"_s);
     const bool open = bestand.open(QIODevice::ReadOnly);
     Q_ASSERT(open);
     return open ? bestand.readAll() : QByteArray();

@@ -5,6 +5,8 @@
 #include <QTextBlock>
 #include <QTextLayout>
 
+using namespace Qt::StringLiterals;
+
 TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder)
 {
     setAcceptRichText(false);
@@ -19,7 +21,7 @@ TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder)
 
 QString TextBox::Text() const
 {
-    return toPlainText().replace(QLatin1Char('\n'), QLatin1String("\r\n"));
+    return toPlainText().replace(u'\n', "\r\n"_L1);
 }
 
 void TextBox::SetText(const QString &tekst)

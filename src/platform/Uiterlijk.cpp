@@ -5,12 +5,14 @@
 #include <QApplication>
 #include <QStyle>
 
+using namespace Qt::StringLiterals;
+
 void StelUiterlijkIn()
 {
-    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setStyle(u"Fusion"_s);
     QPalette palet = QApplication::style()->standardPalette();
     for (const QPalette::ColorRole rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palet.setColor(QPalette::Disabled, rol, qRgb(120, 120, 120)); // still to be read on our pale colours
     QApplication::setPalette(palet);
-    QApplication::setFont(Lettertype(QStringLiteral("Arial"), 8.25, false));
+    QApplication::setFont(Lettertype(u"Arial"_s, 8.25, false));
 }

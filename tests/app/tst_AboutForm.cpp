@@ -3,6 +3,8 @@
 
 #include <QFileInfo>
 
+using namespace Qt::StringLiterals;
+
 class tst_AboutForm : public QObject
 {
     Q_OBJECT
@@ -12,12 +14,12 @@ private slots:
         Bord bord;
         AboutForm form;
         const QFileInfo programma(QCoreApplication::applicationFilePath());
-        const QRegularExpression einde(QStringLiteral("Version : (\\d+\\.\\d+\\.\\d+) / (\\d+)\nDate : (.+)$"));
+        const QRegularExpression einde(u"Version : (\\d+\\.\\d+\\.\\d+) / (\\d+)\nDate : (.+)$"_s);
         const QRegularExpressionMatch gevonden = einde.match(form.Label1->Caption());
         QVERIFY(gevonden.hasMatch());
         QCOMPARE(gevonden.captured(2).toLongLong(), programma.size());
         QCOMPARE(gevonden.captured(3), QLocale::system().toString(programma.lastModified(), QLocale::ShortFormat));
-        QCOMPARE(form.windowTitle(), QStringLiteral("About Rasteratelier..."));
+        QCOMPARE(form.windowTitle(), u"About Rasteratelier..."_s);
     }
 
     void controlsAndTheirPlaces()

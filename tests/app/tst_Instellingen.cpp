@@ -1,6 +1,8 @@
 #include "app/Instellingen.h"
 #include "support/Testbank.h"
 
+using namespace Qt::StringLiterals;
+
 static const QByteArray Kop = "\"Tessel Hoeksma Software 2017\"\r\n\"--------------------------\"\r\n";
 
 class tst_Instellingen : public QObject
@@ -9,10 +11,10 @@ class tst_Instellingen : public QObject
 private slots:
     void theFiveLines()
     {
-        QCOMPARE(SchrijfInstellingen({230, 250, 190, 1, QStringLiteral("https://een.example/")}),
+        QCOMPARE(SchrijfInstellingen({230, 250, 190, 1, u"https://een.example/"_s}),
                  Kop + "230,250,190\r\n1\r\n\"https://een.example/\"\r\n");
         QCOMPARE(SchrijfInstellingen({0, 0, 255, 3, QString()}), Kop + "0,0,255\r\n3\r\n\"\"\r\n");
-        QCOMPARE(SchrijfInstellingen({1, 2, 3, 2, QStringLiteral("één € ® , komma")}),
+        QCOMPARE(SchrijfInstellingen({1, 2, 3, 2, u"één € ® , komma"_s}),
                  Kop + "1,2,3\r\n2\r\n\"\xE9\xE9n \x80 \xAE , komma\"\r\n");
     }
 
@@ -23,7 +25,7 @@ private slots:
         QTest::newRow("empty") << "";
         QTest::newRow("comma") << "puzzels, op maat";
         QTest::newRow("outer blanks") << "  midden  ";
-        QTest::newRow("accents") << QStringLiteral("één € ®");
+        QTest::newRow("accents") << u"één € ®"_s;
     }
     void whatIsWrittenComesBack()
     {
@@ -43,7 +45,7 @@ private slots:
         QCOMPARE(gelezen.Groen, qint16(300));
         QCOMPARE(gelezen.Blauw, qint16(32767));
         QCOMPARE(gelezen.Kleur, quint8(255));
-        QCOMPARE(gelezen.PaginaTekst, QStringLiteral("zonder aanhalingstekens"));
+        QCOMPARE(gelezen.PaginaTekst, u"zonder aanhalingstekens"_s);
     }
 
     void damagedFilesFail_data()

@@ -12,6 +12,8 @@
 #include <QRegularExpression>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 /// Takes what would go to the system's shell.
 class Schil : public QObject
 {
@@ -33,7 +35,7 @@ public slots:
     void Open(const QUrl &url) { Geopend += url; }
 
 private:
-    const QStringList Schemas{QStringLiteral("https"), QStringLiteral("file"), QStringLiteral("mailto")};
+    const QStringList Schemas{u"https"_s, u"file"_s, u"mailto"_s};
 };
 
 /// The program as it runs.
@@ -49,7 +51,7 @@ struct Programma
         Scherm.Venster.show();
     }
     MainForm &Main() { return Scherm.Venster; }
-    QByteArray Instellingen() const { return Scherm.Bank.Inhoud(QStringLiteral("Rasteratelier.ini")); }
+    QByteArray Instellingen() const { return Scherm.Bank.Inhoud(u"Rasteratelier.ini"_s); }
 };
 
 class tst_Opdrachten : public QObject
@@ -65,10 +67,10 @@ private slots:
                 for (const QAction *item : menu->menu()->actions())
                     if (!item->isSeparator() && !item->isEnabled())
                         uit += item->objectName();
-        QCOMPARE(uit.join(u' '), QStringLiteral("FilePrint ShowOrgineel EditDeleteRaster EditDeleteLetters "
-                                                "BiebInternZoeken BiebWoordzoeker BiebOntbrekendeLetters "
-                                                "BiebSpreekwoorden BiebChemisch ToolsAdd ToolsConfig ToolsKladblok "
-                                                "ToolsAutoWoordzoeker Export(1)"));
+        QCOMPARE(uit.join(u' '), u"FilePrint ShowOrgineel EditDeleteRaster EditDeleteLetters "
+                                 "BiebInternZoeken BiebWoordzoeker BiebOntbrekendeLetters "
+                                 "BiebSpreekwoorden BiebChemisch ToolsAdd ToolsConfig ToolsKladblok "
+                                 "ToolsAutoWoordzoeker Export(1)"_s);
     }
 
     void menuItemsOpenTheirWindow_data()
@@ -120,18 +122,18 @@ private slots:
         const QString geopend = programma.Shell.Geopend[0].toString(QUrl::FullyDecoded);
         QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(doel)).match(geopend).hasMatch(),
                  qPrintable(geopend));
-        if (item == QLatin1String("HelpMail"))
-            QCOMPARE(GebruikersNaam, QStringLiteral("tessel"));
+        if (item == "HelpMail"_L1)
+            QCOMPARE(GebruikersNaam, u"tessel"_s);
     }
 
     void aSystemWithoutMailIsTold()
     {
         Programma programma;
-        QDesktopServices::unsetUrlHandler(QStringLiteral("mailto")); // this platform itself opens nothing
+        QDesktopServices::unsetUrlHandler(u"mailto"_s); // this platform itself opens nothing
         programma.Main().HelpMail->trigger();
         QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst, QStringLiteral("Cannot send Mail from this System."));
-        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Titel, QStringLiteral("Mail disabled/not installed"));
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst, u"Cannot send Mail from this System."_s);
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Titel, u"Mail disabled/not installed"_s);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
     }
 
@@ -140,14 +142,14 @@ private slots:
         Programma programma;
         programma.Main().HelpKnop->click();
         QCOMPARE(programma.Shell.Geopend.size(), 1);
-        QVERIFY(programma.Shell.Geopend[0].toLocalFile().endsWith(QStringLiteral("/Data/help.pdf")));
+        QVERIFY(programma.Shell.Geopend[0].toLocalFile().endsWith(u"/Data/help.pdf"_s));
         QVERIFY(qAbs(programma.Scherm.Bank.TestKlok.Gewacht() - 0.2) < 1e-6);
     }
 
     void theAboutButtonOpensItsWindow()
     {
         Programma programma;
-        Bestuurder bestuurder(QStringLiteral("AboutForm"), [](Form &) {});
+        Bestuurder bestuurder(u"AboutForm"_s, [](Form &) {});
         programma.Main().AboutKnop->click();
         QVERIFY(bestuurder.Gezien());
     }
@@ -156,7 +158,7 @@ private slots:
     {
         Programma programma;
         programma.Main().HelpSpecialeTekens->trigger();
-        QVERIFY(programma.Scherm.Bank.Script.Gezien[0].Tekst.startsWith(QStringLiteral("Bijzondere combinaties")));
+        QVERIFY(programma.Scherm.Bank.Script.Gezien[0].Tekst.startsWith(u"Bijzondere combinaties"_s));
     }
 
     void theVisibleBoardGoesToTheClipboard()
@@ -169,7 +171,7 @@ private slots:
         QCOMPARE(klembord.pixel(30, 15), qRgb(150, 150, 150));
         QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst,
-                 QStringLiteral("Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."));
+                 u"Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."_s);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
     }
 
@@ -205,7 +207,7 @@ private slots:
         bool kader = false;
         Bestuurder bestuurder(venster, [&](Form &form) {
             kader = programma.Main().Shape1->isVisible();
-            QVERIFY(form.windowTitle().endsWith(QStringLiteral("D-05 / 68")));
+            QVERIFY(form.windowTitle().endsWith(u"D-05 / 68"_s));
         });
         programma.Main().SoortVakTekst[static_cast<std::size_t>(index)]->trigger();
         QVERIFY(bestuurder.Gezien());
@@ -238,8 +240,8 @@ private slots:
             QVERIFY(programma.Main().Shape1->isHidden());
         }
         const Bericht &vraag = programma.Scherm.Bank.Script.Gezien[0];
-        QCOMPARE(vraag.Tekst, QStringLiteral("Wil je alle lege vakjes opvullen met willekeurige letters?"));
-        QCOMPARE(vraag.Titel, QStringLiteral("Fill"));
+        QCOMPARE(vraag.Tekst, u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s);
+        QCOMPARE(vraag.Titel, u"Fill"_s);
         QCOMPARE(vraag.Soort, Knoppen::JaNee);
     }
 
@@ -261,9 +263,9 @@ private slots:
             KleurVakjes = 2;
             PuzzelGewijzigd = true;
             programma.Scherm.Bank.Script.Antwoorden = {antwoord};
-            if (manier == QLatin1String("menu"))
+            if (manier == "menu"_L1)
                 programma.Main().FileExit->trigger();
-            else if (manier == QLatin1String("knop"))
+            else if (manier == "knop"_L1)
                 programma.Main().ExitKnop->click();
             else
                 programma.Main().close();
@@ -281,9 +283,9 @@ private slots:
         programma.Main().SoortPlaatsing->close();
         const QImage pic = programma.Scherm.Pic();
         bool bleef = false;
-        Bestuurder bestuurder(QStringLiteral("TekstForm"), [&](Form &form) {
+        Bestuurder bestuurder(u"TekstForm"_s, [&](Form &form) {
             auto &tekst = dynamic_cast<TekstForm &>(form);
-            tekst.Text1->setText(QStringLiteral("lang"));
+            tekst.Text1->setText(u"lang"_s);
             tekst.Text2->setText(QString(300, u'a'));
             tekst.OkKnop->click();
             bleef = form.isVisible();
@@ -292,7 +294,7 @@ private slots:
         QVERIFY(bleef);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
-        QVERIFY(programma.Scherm.Bank.Script.Gezien[0].Tekst.startsWith(QStringLiteral("Fout 6 bij 'Ok': Overloop")));
+        QVERIFY(programma.Scherm.Bank.Script.Gezien[0].Tekst.startsWith(u"Fout 6 bij 'Ok': Overloop"_s));
         QVERIFY(programma.Scherm.Pic() == pic);
         QVERIFY(programma.Main().isVisible());
     }

@@ -5,6 +5,8 @@
 
 #include <QDir>
 
+using namespace Qt::StringLiterals;
+
 static const QByteArray Begin = "\"Tessel Hoeksma Software 2017\"\r\n\"--------------------------\"\r\n";
 
 /// The window as the program makes it, on a folder of its own.
@@ -14,7 +16,7 @@ struct Start
     MainForm Venster;
 
     Start() { AppPath = Bank.Map(); }
-    QByteArray Instellingen() const { return Bank.Inhoud(QStringLiteral("Rasteratelier.ini")); }
+    QByteArray Instellingen() const { return Bank.Inhoud(u"Rasteratelier.ini"_s); }
 };
 
 class tst_Opstarten : public QObject
@@ -38,14 +40,14 @@ private slots:
     {
         Start start;
         const QByteArray bewaard = Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n";
-        start.Bank.Schrijf(QStringLiteral("RasterAtelier.INI"), bewaard); // found ignoring case
+        start.Bank.Schrijf(u"RasterAtelier.INI"_s, bewaard); // found ignoring case
         LaadMain();
         QCOMPARE(OrgineelRood, qint16(1));
         QCOMPARE(OrgineelGroen, qint16(2));
         QCOMPARE(OrgineelBlauw, qint16(3));
         QCOMPARE(KleurVakjes, quint8(2));
-        QCOMPARE(PaginaTekst, QStringLiteral("mijn pagina"));
-        QCOMPARE(start.Bank.Inhoud(QStringLiteral("RasterAtelier.INI")), bewaard);
+        QCOMPARE(PaginaTekst, u"mijn pagina"_s);
+        QCOMPARE(start.Bank.Inhoud(u"RasterAtelier.INI"_s), bewaard);
     }
 
     void aDamagedFileEndsTheStartAndStaysAsItIs_data()
@@ -60,14 +62,14 @@ private slots:
     {
         QFETCH(QByteArray, inhoud);
         Start start;
-        start.Bank.Schrijf(QStringLiteral("Rasteratelier.ini"), inhoud);
+        start.Bank.Schrijf(u"Rasteratelier.ini"_s, inhoud);
         QString tekst;
         try {
             LaadMain();
         } catch (const Fout &fout) {
             tekst = fout.tekst();
         }
-        QVERIFY(tekst.contains(QStringLiteral("Rasteratelier.ini")));
+        QVERIFY(tekst.contains(u"Rasteratelier.ini"_s));
         QCOMPARE(start.Instellingen(), inhoud);
         QCOMPARE(OrgineelRood, qint16(230)); // nothing half-read
     }
@@ -84,15 +86,15 @@ private slots:
     {
         Start start;
         LaadMain();
-        start.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        start.Venster.VoegRijToe(u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s);
         const QImage pic = start.Venster.Pic->Image();
         const QByteArray instellingen = start.Instellingen();
         PuzzelGewijzigd = true;
         KleurVakjes = 3;
         start.Bank.Script.Antwoorden = {Antwoord::Nee};
         QVERIFY(!SluitMain());
-        QCOMPARE(start.Bank.Script.Gezien[0].Tekst, QStringLiteral("Puzzel is gewijzigd, wil je toch afsluiten?"));
-        QCOMPARE(start.Bank.Script.Gezien[0].Titel, QStringLiteral("Afsluiten"));
+        QCOMPARE(start.Bank.Script.Gezien[0].Tekst, u"Puzzel is gewijzigd, wil je toch afsluiten?"_s);
+        QCOMPARE(start.Bank.Script.Gezien[0].Titel, u"Afsluiten"_s);
         QCOMPARE(start.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(start.Venster.Pic->Image() == pic);
@@ -120,7 +122,7 @@ private slots:
         QVERIFY(SluitMain());
         QCOMPARE(start.Bank.Script.Gezien.size(), 1);
         QCOMPARE(start.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
-        QVERIFY(start.Bank.Script.Gezien[0].Tekst.contains(QStringLiteral("instellingen")));
+        QVERIFY(start.Bank.Script.Gezien[0].Tekst.contains(u"instellingen"_s));
     }
 };
 

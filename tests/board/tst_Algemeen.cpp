@@ -3,6 +3,8 @@
 
 #include <QDesktopServices>
 
+using namespace Qt::StringLiterals;
+
 /// Takes what would go to the system's shell.
 class Schil : public QObject
 {
@@ -21,7 +23,7 @@ private slots:
     void startValues()
     {
         Testbank bank;
-        PuzzelNaam = QStringLiteral("oud");
+        PuzzelNaam = u"oud"_s;
         PuzzelGewijzigd = true;
         VakZwart[7] = true;
         BeginWaarden();
@@ -38,7 +40,7 @@ private slots:
         QCOMPARE(OrgineelRood, qint16(230));
         QCOMPARE(OrgineelGroen, qint16(250));
         QCOMPARE(OrgineelBlauw, qint16(190));
-        QVERIFY(PaginaTekst.startsWith(QLatin1String("https://")));
+        QVERIFY(PaginaTekst.startsWith("https://"_L1));
         QCOMPARE(VakZwart.size(), std::size_t(305));
         QVERIFY(std::none_of(VakZwart.begin(), VakZwart.end(), [](bool zwart) { return zwart; }));
     }
@@ -55,8 +57,8 @@ private slots:
                                      << " abc";
         QTest::newRow("empty") << ""
                                << "";
-        QTest::newRow("keeps its length") << QStringLiteral("ßTEST") << QStringLiteral("ßtest");
-        QTest::newRow("accent") << QStringLiteral("ÉÉN") << QStringLiteral("Één");
+        QTest::newRow("keeps its length") << u"ßTEST"_s << u"ßtest"_s;
+        QTest::newRow("accent") << u"ÉÉN"_s << u"Één"_s;
     }
     void firstLetterCapital()
     {
@@ -76,33 +78,33 @@ private slots:
     void theUserIsTheOneLoggedIn()
     {
         qputenv("USER", "tessel");
-        QCOMPARE(HaalGebruiker(), QStringLiteral("tessel"));
+        QCOMPARE(HaalGebruiker(), u"tessel"_s);
         qunsetenv("USER");
         qputenv("USERNAME", "jan");
-        QCOMPARE(HaalGebruiker(), QStringLiteral("jan"));
+        QCOMPARE(HaalGebruiker(), u"jan"_s);
     }
 
     void aFileExistsOrNot()
     {
         Testbank bank;
-        bank.Schrijf(QStringLiteral("Puzzels/a.lst"), "x");
-        QVERIFY(BestandBestaat(bank.Map() + QStringLiteral("/Puzzels/a.lst")));
-        QVERIFY(!BestandBestaat(bank.Map() + QStringLiteral("/Puzzels/b.lst")));
-        QVERIFY(!BestandBestaat(bank.Map() + QStringLiteral("/Puzzels")));
+        bank.Schrijf(u"Puzzels/a.lst"_s, "x");
+        QVERIFY(BestandBestaat(bank.Map() + u"/Puzzels/a.lst"_s));
+        QVERIFY(!BestandBestaat(bank.Map() + u"/Puzzels/b.lst"_s));
+        QVERIFY(!BestandBestaat(bank.Map() + u"/Puzzels"_s));
     }
 
     void documentsGoToTheShell()
     {
         Schil schil;
-        QDesktopServices::setUrlHandler(QStringLiteral("https"), &schil, "Open");
-        QDesktopServices::setUrlHandler(QStringLiteral("file"), &schil, "Open");
-        OpenDocument(QStringLiteral("https://woordenboek.example/puzzelwoordenboek/"));
-        OpenDocument(QStringLiteral("/een map/Data/Woordlijst Importeren.pdf"));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("https"));
-        QDesktopServices::unsetUrlHandler(QStringLiteral("file"));
+        QDesktopServices::setUrlHandler(u"https"_s, &schil, "Open");
+        QDesktopServices::setUrlHandler(u"file"_s, &schil, "Open");
+        OpenDocument(u"https://woordenboek.example/puzzelwoordenboek/"_s);
+        OpenDocument(u"/een map/Data/Woordlijst Importeren.pdf"_s);
+        QDesktopServices::unsetUrlHandler(u"https"_s);
+        QDesktopServices::unsetUrlHandler(u"file"_s);
         QCOMPARE(schil.Geopend.size(), 2);
-        QCOMPARE(schil.Geopend[0], QUrl(QStringLiteral("https://woordenboek.example/puzzelwoordenboek/")));
-        QCOMPARE(schil.Geopend[1].toLocalFile(), QStringLiteral("/een map/Data/Woordlijst Importeren.pdf"));
+        QCOMPARE(schil.Geopend[0], QUrl(u"https://woordenboek.example/puzzelwoordenboek/"_s));
+        QCOMPARE(schil.Geopend[1].toLocalFile(), u"/een map/Data/Woordlijst Importeren.pdf"_s);
     }
 
     void specialCharactersMessage()
@@ -112,33 +114,30 @@ private slots:
         QCOMPARE(bank.Script.Gezien.size(), 1);
         QCOMPARE(bank.Script.Gezien[0].Soort, Knoppen::Ok);
         QCOMPARE(bank.Script.Gezien[0].Plaatje, Icoon::Geen);
-        const QStringList regels = bank.Script.Gezien[0].Tekst.split(QStringLiteral("\r\n"));
+        const QStringList regels = bank.Script.Gezien[0].Tekst.split(u"\r\n"_s);
         const QStringList verwacht{
-            QStringLiteral("Bijzondere combinaties"),  QStringLiteral("-------------------------"),
-            QStringLiteral("á  = Ctrl-Alt - a / 160"), QStringLiteral("é  = Ctrl-Alt - e / 130"),
-            QStringLiteral("ó  = Ctrl-Alt - o / 162"), QStringLiteral("ä  = Ctrl-Alt - q / 132"),
-            QStringLiteral("ü  = Ctrl-Alt - y / 129"), QStringLiteral("ö  = Ctrl-Alt - p / 148"),
-            QStringLiteral("ú  = Ctrl-Alt - u / 163"), QStringLiteral("µ  = Ctrl-Alt - m / 230"),
-            QStringLiteral("© = Ctrl-Alt - c"),        QStringLiteral(" ²  = Ctrl-Alt - 2"),
-            QStringLiteral(" ³  = Ctrl-Alt - 3"),      QStringLiteral("€   = Ctrl-Alt - 5"),
-            QStringLiteral("¼ = Ctrl-Alt - 6 / 172"),  QStringLiteral("½ = Ctrl-Alt - 7 / 171"),
-            QStringLiteral("¾ = Ctrl-Alt - 8")};
+            u"Bijzondere combinaties"_s,  u"-------------------------"_s, u"á  = Ctrl-Alt - a / 160"_s,
+            u"é  = Ctrl-Alt - e / 130"_s, u"ó  = Ctrl-Alt - o / 162"_s,   u"ä  = Ctrl-Alt - q / 132"_s,
+            u"ü  = Ctrl-Alt - y / 129"_s, u"ö  = Ctrl-Alt - p / 148"_s,   u"ú  = Ctrl-Alt - u / 163"_s,
+            u"µ  = Ctrl-Alt - m / 230"_s, u"© = Ctrl-Alt - c"_s,          u" ²  = Ctrl-Alt - 2"_s,
+            u" ³  = Ctrl-Alt - 3"_s,      u"€   = Ctrl-Alt - 5"_s,        u"¼ = Ctrl-Alt - 6 / 172"_s,
+            u"½ = Ctrl-Alt - 7 / 171"_s,  u"¾ = Ctrl-Alt - 8"_s};
         QCOMPARE(regels, verwacht);
     }
 
     void theLongIjIsOneCharacterWhileAWordIsPlaced()
     {
-        QCOMPARE(MetCode(QStringLiteral("ijsbeerij")), QStringLiteral("?sbeer?"));
-        QCOMPARE(MetCode(QStringLiteral("IJs")), QStringLiteral("IJs"));
-        QCOMPARE(ZonderCode(QStringLiteral("?sbeer?")), QStringLiteral("ijsbeerij"));
+        QCOMPARE(MetCode(u"ijsbeerij"_s), u"?sbeer?"_s);
+        QCOMPARE(MetCode(u"IJs"_s), u"IJs"_s);
+        QCOMPARE(ZonderCode(u"?sbeer?"_s), u"ijsbeerij"_s);
     }
 
     void wideAndNarrowLettersMove()
     {
-        QCOMPARE(LetterVerschuiving(QStringLiteral("W")), -45);
-        QCOMPARE(LetterVerschuiving(QStringLiteral("I")), 60);
-        QCOMPARE(LetterVerschuiving(QStringLiteral("IJ")), 0);
-        QCOMPARE(LetterVerschuiving(QStringLiteral("Q")), 0);
+        QCOMPARE(LetterVerschuiving(u"W"_s), -45);
+        QCOMPARE(LetterVerschuiving(u"I"_s), 60);
+        QCOMPARE(LetterVerschuiving(u"IJ"_s), 0);
+        QCOMPARE(LetterVerschuiving(u"Q"_s), 0);
     }
 };
 

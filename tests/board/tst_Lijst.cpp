@@ -4,6 +4,8 @@
 #include <QSignalSpy>
 #include <QStyledItemDelegate>
 
+using namespace Qt::StringLiterals;
+
 class tst_Lijst : public QObject
 {
     Q_OBJECT
@@ -26,7 +28,7 @@ private slots:
         const QTreeWidgetItem &kop = *lijst.headerItem();
         QCOMPARE(lijst.columnCount(), 4);
         QCOMPARE((QStringList{kop.text(0), kop.text(1), kop.text(2), kop.text(3)}.join(u'|')),
-                 QStringLiteral("Vaknummer|Omschrijving|Oplossing|Nr."));
+                 u"Vaknummer|Omschrijving|Oplossing|Nr."_s);
         QCOMPARE(lijst.columnWidth(0), 88);
         QCOMPARE(lijst.columnWidth(1), 144);
         QCOMPARE(lijst.columnWidth(2), 90);
@@ -37,15 +39,13 @@ private slots:
     void rowsStayInTheOrderOfAddingAndAreCounted()
     {
         Bord bord;
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("0 Items"));
-        bord.Venster.VoegRijToe(QStringLiteral("C-07 / 99-H"), QStringLiteral("zz"), QStringLiteral("zebra"),
-                                QStringLiteral("-"));
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-V"), QStringLiteral("aa"), QStringLiteral("aap"),
-                                QStringLiteral("-"));
+        QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
+        bord.Venster.VoegRijToe(u"C-07 / 99-H"_s, u"zz"_s, u"zebra"_s, u"-"_s);
+        bord.Venster.VoegRijToe(u"A-01 / 1-V"_s, u"aa"_s, u"aap"_s, u"-"_s);
         bord.Venster.ToonAantal();
-        QCOMPARE(bord.Rij(0), QStringLiteral("C-07 / 99-H|zz|zebra|-"));
-        QCOMPARE(bord.Rij(1), QStringLiteral("A-01 / 1-V|aa|aap|-"));
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("2 Items"));
+        QCOMPARE(bord.Rij(0), u"C-07 / 99-H|zz|zebra|-"_s);
+        QCOMPARE(bord.Rij(1), u"A-01 / 1-V|aa|aap|-"_s);
+        QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
         QVERIFY(bord.Venster.Line1->isHidden()); // adding shows no line
     }
 
@@ -82,7 +82,7 @@ private slots:
         QFETCH(QRectF, lijn);
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
-        bord.Venster.VoegRijToe(plaats, {}, oplossing, QStringLiteral("-"));
+        bord.Venster.VoegRijToe(plaats, {}, oplossing, u"-"_s);
         bord.Venster.ListView1_ItemClick();
         QVERIFY(!bord.Venster.Line1->isHidden());
         QCOMPARE(Lijn(bord), lijn);
@@ -91,7 +91,7 @@ private slots:
     void theLineIsRedAndTwoPixelsWide()
     {
         Bord bord;
-        bord.Venster.VoegRijToe(QStringLiteral("B-03 / 34-H"), {}, QStringLiteral("ijsbeer"), QStringLiteral("-"));
+        bord.Venster.VoegRijToe(u"B-03 / 34-H"_s, {}, u"ijsbeer"_s, u"-"_s);
         bord.Venster.ListView1_ItemClick();
         const QImage beeld = bord.Venster.Pic->grab().toImage().convertToFormat(QImage::Format_RGB32);
         int hoog = 0;
@@ -120,7 +120,7 @@ private slots:
         QFETCH(QString, plaats);
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
-        bord.Venster.VoegRijToe(plaats, {}, QString(80, u'a'), QStringLiteral("-")); // no length is looked at either
+        bord.Venster.VoegRijToe(plaats, {}, QString(80, u'a'), u"-"_s); // no length is looked at either
         bord.Venster.ListView1_ItemClick();
         QVERIFY(bord.Venster.Line1->isHidden());
     }
@@ -128,8 +128,7 @@ private slots:
     void aForeignDirectionMovesTheStartOnly()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), {}},
-                                   {QStringLiteral("C-02 / 19-R"), {}, QStringLiteral("aap"), {}}});
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}, {u"C-02 / 19-R"_s, {}, u"aap"_s, {}}});
         bord.Venster.ListView1_ItemClick();
         Kies(bord, 1);
         QCOMPARE(Lijn(bord), QRectF(QPointF(1125, 675), QPointF(1125, 225)));
@@ -140,10 +139,9 @@ private slots:
     {
         Bord bord;
         for (const QString &plaats :
-             {QStringLiteral("x"), QStringLiteral("€€€€"), QStringLiteral("A"), QStringLiteral("-H"),
-              QString(100000, u'9'), QStringLiteral("A-99999999 / 9-V")}) {
+             {u"x"_s, u"€€€€"_s, u"A"_s, u"-H"_s, QString(100000, u'9'), u"A-99999999 / 9-V"_s}) {
             bord.Venster.WisRijen();
-            bord.Venster.VoegRijToe(plaats, {}, QStringLiteral("aap"), {});
+            bord.Venster.VoegRijToe(plaats, {}, u"aap"_s, {});
             bord.Venster.ListView1_ItemClick();
             bord.Venster.Pic->grab();
             QVERIFY(!bord.Venster.Line1->isHidden());
@@ -153,18 +151,18 @@ private slots:
     void aSolutionOf73CellsOverflows()
     {
         Bord bord;
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QString(73, u'a'), {});
+        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, {}, QString(73, u'a'), {});
         QCOMPARE(FoutVan([&] { bord.Venster.ListView1_ItemClick(); }), int(Fout::Overloop));
-        Form::Voer(QStringLiteral("lijst"), [&] { bord.Venster.ListView1_ItemClick(); });
+        Form::Voer(u"lijst"_s, [&] { bord.Venster.ListView1_ItemClick(); });
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
-        QVERIFY(bord.Bank.Script.Gezien[0].Tekst.contains(QStringLiteral("Overloop")));
+        QVERIFY(bord.Bank.Script.Gezien[0].Tekst.contains(u"Overloop"_s));
     }
 
     void aClickOfThePointerShowsTheLineAgain()
     {
         Bord bord;
         bord.Venster.show();
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s);
         QTreeWidget &lijst = *bord.Venster.ListView1;
         const QPoint midden = lijst.visualItemRect(lijst.topLevelItem(0)).center();
         QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, midden);
@@ -177,8 +175,7 @@ private slots:
     void deletingAsksAndLeavesTheBoardAlone()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-")},
-                                   {QStringLiteral("A-02 / 17-H"), {}, QStringLiteral("wijn"), QStringLiteral("-")}});
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}, {u"A-02 / 17-H"_s, {}, u"wijn"_s, u"-"_s}});
         Kies(bord, 1);
         const QImage pic = bord.Pic();
         bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
@@ -186,12 +183,12 @@ private slots:
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 2);
         QVERIFY(!bord.Venster.Line1->isHidden());
         bord.Venster.DelKnop_Click();
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Wil je (wijn) verwijderen uit de lijst?"));
-        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral(" Delete"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wil je (wijn) verwijderen uit de lijst?"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u" Delete"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
-        QCOMPARE(bord.Rij(0), QStringLiteral("A-01 / 1-H||aap|-"));
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("1 Items"));
+        QCOMPARE(bord.Rij(0), u"A-01 / 1-H||aap|-"_s);
+        QCOMPARE(bord.Venster.Label11->Caption(), u"1 Items"_s);
         QVERIFY(bord.Venster.Line1->isHidden());
         QVERIFY(bord.Pic() == pic);
         QVERIFY(!PuzzelGewijzigd);
@@ -200,11 +197,11 @@ private slots:
     void deletingTheOnlyRow()
     {
         Bord bord;
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s);
         bord.Venster.ListView1_ItemClick();
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
         bord.Venster.DelKnop_Click();
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("0 Items"));
+        QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
         QVERIFY(bord.Venster.Line1->isHidden());
     }
 
@@ -219,10 +216,9 @@ private slots:
     void rowsAlwaysHaveOneSelected()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe({{QStringLiteral("-"), {}, QStringLiteral("een"), {}},
-                                   {QStringLiteral("-"), {}, QStringLiteral("twee"), {}},
-                                   {QStringLiteral("-"), {}, QStringLiteral("drie"), {}}});
-        for (const QString &woord : {QStringLiteral("een"), QStringLiteral("twee"), QStringLiteral("drie")}) {
+        bord.Venster.VoegRijenToe(
+            {{u"-"_s, {}, u"een"_s, {}}, {u"-"_s, {}, u"twee"_s, {}}, {u"-"_s, {}, u"drie"_s, {}}});
+        for (const QString &woord : {u"een"_s, u"twee"_s, u"drie"_s}) {
             bord.Bank.Script.Antwoorden = {Antwoord::Ja};
             bord.Venster.DelKnop_Click();
             QVERIFY(bord.Bank.Script.Gezien.takeLast().Tekst.contains(woord));
@@ -233,7 +229,7 @@ private slots:
     {
         Bord bord;
         const QString lang(5000000, u'm');
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), lang, QStringLiteral("aap"), {});
+        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, lang, u"aap"_s, {});
         QCOMPARE(bord.Rij(0).size(), lang.size() + 16);
         auto *delegate = qobject_cast<QStyledItemDelegate *>(bord.Venster.ListView1->itemDelegate());
         QVERIFY(delegate);

@@ -6,6 +6,8 @@
 #include <QMenuBar>
 #include <QScrollArea>
 
+using namespace Qt::StringLiterals;
+
 class tst_MainForm : public QObject
 {
     Q_OBJECT
@@ -101,24 +103,23 @@ private slots:
         QTest::addColumn<QString>("naam");
         QTest::addColumn<QString>("tekst");
         const auto rij = [](const char *naam, const QString &tekst) { QTest::newRow(naam) << naam << tekst; };
-        rij("Label12", QStringLiteral("Soortpuzzel : Zweeds"));
-        rij("Label2", QStringLiteral(" Load Database "));
-        rij("Label6", QStringLiteral("Coordinaten"));
-        rij("KlokLabel", QStringLiteral("00:00"));
-        rij("Label10", QStringLiteral("Item verwijderen"));
-        rij("Label11", QStringLiteral("0 Items"));
+        rij("Label12", u"Soortpuzzel : Zweeds"_s);
+        rij("Label2", u" Load Database "_s);
+        rij("Label6", u"Coordinaten"_s);
+        rij("KlokLabel", u"00:00"_s);
+        rij("Label10", u"Item verwijderen"_s);
+        rij("Label11", u"0 Items"_s);
         rij("CopyLabel", QString());
-        rij("Label3", QStringLiteral("0 Woorden in lijst"));
-        rij("Label16", QStringLiteral("Woordlengte (2)"));
-        rij("Label17", QStringLiteral("Zoeken"));
+        rij("Label3", u"0 Woorden in lijst"_s);
+        rij("Label16", u"Woordlengte (2)"_s);
+        rij("Label17", u"Zoeken"_s);
         rij("Label9", QString());
-        rij("Label7", QStringLiteral("Lengte woorden"));
-        rij("Label8", QStringLiteral("0"));
-        rij("Label4", QStringLiteral("Woordlijsten"));
-        rij("Label5",
-            QStringLiteral("Klik op de button 'Load' om de woordlijsten te openen, selecteer vervolgens één van de "
-                           "woorden uit de lijst voor de bijbehorende omschrijvingen.\n\nOnder het menu-item 'Tools' "
-                           "kun je deze woordlijsten nog bewerken en / of uitbreiden."));
+        rij("Label7", u"Lengte woorden"_s);
+        rij("Label8", u"0"_s);
+        rij("Label4", u"Woordlijsten"_s);
+        rij("Label5", u"Klik op de button 'Load' om de woordlijsten te openen, selecteer vervolgens één van de "
+                      "woorden uit de lijst voor de bijbehorende omschrijvingen.\n\nOnder het menu-item 'Tools' "
+                      "kun je deze woordlijsten nog bewerken en / of uitbreiden."_s);
     }
     void texts()
     {
@@ -206,7 +207,7 @@ private slots:
     void theWindow()
     {
         Bord bord;
-        QCOMPARE(bord.Venster.windowTitle(), QStringLiteral("Raster Atelier (16x19)"));
+        QCOMPARE(bord.Venster.windowTitle(), u"Raster Atelier (16x19)"_s);
         QCOMPARE(bord.Venster.palette().color(QPalette::Window), QColor(230, 230, 190));
         QCOMPARE(bord.Venster.Pic->parentWidget()->size(), QSize((18600 - 90) / 15, (11340 - 450 - 300) / 15));
         QVERIFY(bord.Venster.Label2->fontMetrics().height() > 40); // size 30
@@ -239,12 +240,12 @@ private slots:
         Bord bord;
         const MainForm &main = bord.Venster;
         const auto font = [](const PictureBox &box) {
-            return QStringLiteral("%1 %2 %3").arg(box.FontName).arg(box.FontSize).arg(box.FontBold ? "vet" : "");
+            return u"%1 %2 %3"_s.arg(box.FontName).arg(box.FontSize).arg(box.FontBold ? "vet" : "");
         };
-        QCOMPARE(font(*main.Pic), QStringLiteral("Arial 8.25 vet"));
-        QCOMPARE(font(*main.PicGroot), QStringLiteral("Arial Narrow 8.25 vet"));
-        QCOMPARE(font(*main.PicR), QStringLiteral("Arial 9.75 vet"));
-        QCOMPARE(font(*main.PicO), QStringLiteral("Arial 9.75 vet"));
+        QCOMPARE(font(*main.Pic), u"Arial 8.25 vet"_s);
+        QCOMPARE(font(*main.PicGroot), u"Arial Narrow 8.25 vet"_s);
+        QCOMPARE(font(*main.PicR), u"Arial 9.75 vet"_s);
+        QCOMPARE(font(*main.PicO), u"Arial 9.75 vet"_s);
     }
 
     void theLengthsToChooseFrom()
@@ -253,7 +254,7 @@ private slots:
         QStringList lengtes;
         for (int i = 0; i < bord.Venster.Combo1->count(); ++i)
             lengtes += bord.Venster.Combo1->itemText(i);
-        QCOMPARE(lengtes.join(u' '), QStringLiteral("Alles 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 Alles"));
+        QCOMPARE(lengtes.join(u' '), u"Alles 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 Alles"_s);
         QCOMPARE(bord.Venster.Combo1->currentIndex(), 0);
         QCOMPARE(bord.Venster.ScrolLengte->minimum(), 2);
         QCOMPARE(bord.Venster.ScrolLengte->maximum(), 19);
@@ -275,24 +276,24 @@ private slots:
             balk += tekst;
         }
         const QStringList verwacht{
-            QStringLiteral("Bestand=Bestand[FileNew=Nieuwe puzzel ontwerpen,FileStreep1,FileOpen=Puzzel openen,"
-                           "FileSave=Puzzel opslaan,FilePrint=Puzzel afdrukken,FileStreep2,FileExit=Exit]"),
-            QStringLiteral("ShowGroot=Show[ShowOrgineel=Orgineel puzzelveld]"),
-            QStringLiteral("Edit=Bewerken[EditDeleteRaster=Verwijder raster Filippine,"
-                           "EditDeleteLetters=Verwijder letters Filippine]"),
-            QStringLiteral("Biebliotheek=Bibliotheek[BiebOnlineWoordenboek=Online woordenboek,BiebStreep1,"
-                           "BiebInternZoeken=Database doorzoeken,BiebWoordzoeker=Woorden wisseling,"
-                           "BiebOntbrekendeLetters=Ontbrekende letters,BiebStreep2,"
-                           "BiebSpreekwoorden=Spreekwoorden en gezegden,BiebChemisch=Scheikundige symbolen]"),
-            QStringLiteral("Tools=Tools[ToolsAdd=Woordlijsten bewerken,ToolsConfig=Instellingen,"
-                           "ToolsKlemboard=Copy puzzelveld naar Clipboard,ToolsKladblok=Kladblok,ToolsStreep1,"
-                           "ToolsAutoWoordzoeker=Automatische woordzoeker]"),
-            QStringLiteral("Exporteren=Website[Export(1)=Html webpagina maken]"),
-            QStringLiteral("Help=Help[HelpHelp=Uitleg en hulp,HelpSpecialeTekens=Speciale tekens,"
-                           "HelpMeerSoftware=Meer software,helpStreep1,HelpMail=Mail sturen,helpStreep2,"
-                           "HelpWoordlijstAanmaken=Woordlijsten aanmaken]"),
-            QStringLiteral("Spatie=|"),
-            QStringLiteral("Bestandsnaam=Puzzelnaam"),
+            u"Bestand=Bestand[FileNew=Nieuwe puzzel ontwerpen,FileStreep1,FileOpen=Puzzel openen,"
+            "FileSave=Puzzel opslaan,FilePrint=Puzzel afdrukken,FileStreep2,FileExit=Exit]"_s,
+            u"ShowGroot=Show[ShowOrgineel=Orgineel puzzelveld]"_s,
+            u"Edit=Bewerken[EditDeleteRaster=Verwijder raster Filippine,"
+            "EditDeleteLetters=Verwijder letters Filippine]"_s,
+            u"Biebliotheek=Bibliotheek[BiebOnlineWoordenboek=Online woordenboek,BiebStreep1,"
+            "BiebInternZoeken=Database doorzoeken,BiebWoordzoeker=Woorden wisseling,"
+            "BiebOntbrekendeLetters=Ontbrekende letters,BiebStreep2,"
+            "BiebSpreekwoorden=Spreekwoorden en gezegden,BiebChemisch=Scheikundige symbolen]"_s,
+            u"Tools=Tools[ToolsAdd=Woordlijsten bewerken,ToolsConfig=Instellingen,"
+            "ToolsKlemboard=Copy puzzelveld naar Clipboard,ToolsKladblok=Kladblok,ToolsStreep1,"
+            "ToolsAutoWoordzoeker=Automatische woordzoeker]"_s,
+            u"Exporteren=Website[Export(1)=Html webpagina maken]"_s,
+            u"Help=Help[HelpHelp=Uitleg en hulp,HelpSpecialeTekens=Speciale tekens,"
+            "HelpMeerSoftware=Meer software,helpStreep1,HelpMail=Mail sturen,helpStreep2,"
+            "HelpWoordlijstAanmaken=Woordlijsten aanmaken]"_s,
+            u"Spatie=|"_s,
+            u"Bestandsnaam=Puzzelnaam"_s,
         };
         QCOMPARE(balk, verwacht);
         QVERIFY(!bord.Venster.Spatie->isEnabled());
@@ -304,17 +305,17 @@ private slots:
     void theClockTicksEverySecond()
     {
         Bord bord;
-        QCOMPARE(bord.Venster.KlokLabel->Caption(), QStringLiteral("00:00"));
+        QCOMPARE(bord.Venster.KlokLabel->Caption(), u"00:00"_s);
         QCOMPARE(bord.Venster.Timer1->interval(), 1000);
         QVERIFY(bord.Venster.Timer1->isActive());
         bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2026, 3, 7), QTime(9, 5, 3)));
         const int rechts = bord.Venster.KlokLabel->geometry().right();
         bord.Venster.Timer1_Timer();
         QCOMPARE(bord.Venster.KlokLabel->Caption(),
-                 QLocale::system().toString(QDate(2026, 3, 7), QLocale::ShortFormat) + QStringLiteral(" / 9:05:03"));
+                 QLocale::system().toString(QDate(2026, 3, 7), QLocale::ShortFormat) + u" / 9:05:03"_s);
         bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2026, 3, 7), QTime(17, 0, 0)));
         bord.Venster.Timer1_Timer();
-        QVERIFY(bord.Venster.KlokLabel->Caption().endsWith(QStringLiteral(" / 17:00:00")));
+        QVERIFY(bord.Venster.KlokLabel->Caption().endsWith(u" / 17:00:00"_s));
         QCOMPARE(bord.Venster.KlokLabel->geometry().right(), rechts); // it grows to the left, inside its frame
     }
 

@@ -4,6 +4,8 @@
 
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 class tst_NieuwForm : public QObject
 {
     Q_OBJECT
@@ -46,28 +48,27 @@ private slots:
         Bord bord;
         bord.Begin(Kruiswoord, 12, 14);
         NieuwForm form;
-        QCOMPARE(form.windowTitle(), QStringLiteral("Nieuwe puzzel ontwerpen"));
+        QCOMPARE(form.windowTitle(), u"Nieuwe puzzel ontwerpen"_s);
         QCOMPARE(form.size(), QSize((6300 - 90) / 15, (3720 - 450) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(190, 230, 230));
-        QCOMPARE(form.Combo1->currentText(), QStringLiteral("12"));
-        QCOMPARE(form.Combo2->currentText(), QStringLiteral("14"));
-        QCOMPARE(form.Label1->Caption(), QStringLiteral("Vakjes Horizontaal (12)"));
-        QCOMPARE(form.Label2->Caption(), QStringLiteral("Vakjes Vertikaal (14)"));
+        QCOMPARE(form.Combo1->currentText(), u"12"_s);
+        QCOMPARE(form.Combo2->currentText(), u"14"_s);
+        QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (12)"_s);
+        QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (14)"_s);
         QVERIFY(form.Option[0]->isChecked()); // always Zweeds, whatever the current puzzle
         QVERIFY(form.Text1->text().isEmpty());
-        QCOMPARE(form.Label3->Caption(), QStringLiteral("Naam Puzzel"));
+        QCOMPARE(form.Label3->Caption(), u"Naam Puzzel"_s);
         QStringList breedtes, hoogtes;
         for (int i = 0; i < form.Combo1->count(); ++i)
             breedtes += form.Combo1->itemText(i);
         for (int i = 0; i < form.Combo2->count(); ++i)
             hoogtes += form.Combo2->itemText(i);
-        QCOMPARE(breedtes.join(u' '), QStringLiteral("9 10 11 12 13 14 15 16"));
-        QCOMPARE(hoogtes.join(u' '), QStringLiteral("9 10 11 12 13 14 15 16 17 18 19"));
+        QCOMPARE(breedtes.join(u' '), u"9 10 11 12 13 14 15 16"_s);
+        QCOMPARE(hoogtes.join(u' '), u"9 10 11 12 13 14 15 16 17 18 19"_s);
         QStringList opties;
         for (const QRadioButton *optie : form.Option)
             opties += optie->text();
-        QCOMPARE(opties.join(u'|'),
-                 QStringLiteral("Zweedse Puzzel|Woordzoeker|Kruiswoord Puzzel|Sudoku Puzzel|Filippine Puzzel"));
+        QCOMPARE(opties.join(u'|'), u"Zweedse Puzzel|Woordzoeker|Kruiswoord Puzzel|Sudoku Puzzel|Filippine Puzzel"_s);
         QCOMPARE(form.Combo1->palette().color(QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.Combo2->palette().color(QPalette::Text), QColor(230, 230, 230));
         QCOMPARE(form.Text1->palette().color(QPalette::Base), QColor(0, 30, 0));
@@ -78,10 +79,10 @@ private slots:
     {
         Bord bord;
         NieuwForm form;
-        form.Combo1->setEditText(QStringLiteral("11"));
+        form.Combo1->setEditText(u"11"_s);
         form.Combo2->setCurrentIndex(1);
-        QCOMPARE(form.Label1->Caption(), QStringLiteral("Vakjes Horizontaal (11)"));
-        QCOMPARE(form.Label2->Caption(), QStringLiteral("Vakjes Vertikaal (10)"));
+        QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (11)"_s);
+        QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (10)"_s);
     }
 
     void theKindShowsItsPreviewAndFixesTheSize()
@@ -101,15 +102,15 @@ private slots:
     void aNameOfBlanksOnlyGivesTheMessage()
     {
         Bord bord;
-        PuzzelNaam = QStringLiteral("oud");
+        PuzzelNaam = u"oud"_s;
         NieuwForm form;
-        form.Text1->setText(QStringLiteral("   "));
+        form.Text1->setText(u"   "_s);
         form.Option[3]->click();
         form.OkKnop_Click();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Naam Puzzel invullen a.u.b. (Alleen letters a..z)"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
         QVERIFY(!form.Unloaded());
-        QCOMPARE(PuzzelNaam, QStringLiteral("oud"));
+        QCOMPARE(PuzzelNaam, u"oud"_s);
         QCOMPARE(PuzzelType, Zweeds);
         QCOMPARE(BoardWidth, 16);
     }
@@ -130,37 +131,37 @@ private slots:
         QFETCH(QSize, maat);
         Bord bord;
         MainForm &main = bord.Venster;
-        main.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        main.VoegRijToe(u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s);
         main.ToonAantal();
         main.ListView1_ItemClick();
         bord.Klik(Qt::LeftButton, 1, 1);
         main.SoortPlaatsing->close();
         main.Pic->BoxFull(0, 0, 4000, 4000, qRgb(1, 2, 3));
         VakZwart[5] = true;
-        main.CopyLabel->SetCaption(QStringLiteral("kopie"));
+        main.CopyLabel->SetCaption(u"kopie"_s);
         NieuwForm form;
-        form.Combo1->setEditText(QStringLiteral("12"));
-        form.Combo2->setEditText(QStringLiteral("14"));
-        form.Text1->setText(QStringLiteral("  mijn nieuwe puzzel "));
+        form.Combo1->setEditText(u"12"_s);
+        form.Combo2->setEditText(u"14"_s);
+        form.Text1->setText(u"  mijn nieuwe puzzel "_s);
         form.Option[static_cast<std::size_t>(optie)]->click();
         form.OkKnop_Click();
 
         QVERIFY(form.Unloaded());
         QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.4) < 1e-6);
-        QCOMPARE(PuzzelNaam, QStringLiteral("mijnnieuwepuzzel"));
+        QCOMPARE(PuzzelNaam, u"mijnnieuwepuzzel"_s);
         QCOMPARE(main.Bestandsnaam->text(), PuzzelNaam);
         QCOMPARE(PuzzelType, quint8(optie + 1));
         QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
         QCOMPARE(bord.Pic().size(), maat * 30 + QSize(1, 1));
         QCOMPARE(bord.Groot().size(), maat * 120 + QSize(3, 3));
         QVERIFY(!HeeftInkt(bord.Pic(), Binnen(1, 1)));
-        QCOMPARE(main.windowTitle(), QStringLiteral("Raster Atelier (%1x%2)").arg(maat.width()).arg(maat.height()));
+        QCOMPARE(main.windowTitle(), u"Raster Atelier (%1x%2)"_s.arg(maat.width()).arg(maat.height()));
         QCOMPARE(main.ListView1->topLevelItemCount(), 0);
-        QCOMPARE(main.Label11->Caption(), QStringLiteral("0 Items"));
+        QCOMPARE(main.Label11->Caption(), u"0 Items"_s);
         QVERIFY(main.Shape1->isHidden());
         QVERIFY(main.Line1->isHidden());
         QVERIFY(VakZwart[5]);
-        QCOMPARE(main.CopyLabel->Caption(), QStringLiteral("kopie"));
+        QCOMPARE(main.CopyLabel->Caption(), u"kopie"_s);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
@@ -185,7 +186,7 @@ private slots:
         Bord bord;
         for (const int keuze : {3, 4, optie}) { // coming from the two kinds that show more
             NieuwForm form;
-            form.Text1->setText(QStringLiteral("naam"));
+            form.Text1->setText(u"naam"_s);
             form.Option[static_cast<std::size_t>(keuze)]->click();
             form.OkKnop_Click();
         }
@@ -201,7 +202,7 @@ private slots:
             Bord bord;
             PuzzelGewijzigd = gewijzigd;
             NieuwForm form;
-            form.Text1->setText(QStringLiteral("naam"));
+            form.Text1->setText(u"naam"_s);
             form.OkKnop_Click();
             QCOMPARE(PuzzelGewijzigd, gewijzigd);
         }
@@ -222,20 +223,20 @@ private slots:
         QFETCH(QString, breedte);
         QFETCH(int, fout);
         Bord bord;
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-"));
+        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s);
         bord.Klik(Qt::RightButton, 2, 2);
         const QImage pic = bord.Pic(), groot = bord.Groot();
         NieuwForm form;
-        form.Text1->setText(QStringLiteral("nieuw"));
+        form.Text1->setText(u"nieuw"_s);
         form.Combo1->setEditText(breedte);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), fout);
-        QCOMPARE(PuzzelNaam, QStringLiteral("nieuw"));
+        QCOMPARE(PuzzelNaam, u"nieuw"_s);
         QVERIFY(!form.Unloaded());
         QVERIFY(bord.Pic() == pic);
         QVERIFY(bord.Groot() == groot);
         QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(16, 19));
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
-        QCOMPARE(bord.Venster.windowTitle(), QStringLiteral("Raster Atelier (16x19)"));
+        QCOMPARE(bord.Venster.windowTitle(), u"Raster Atelier (16x19)"_s);
     }
 
     void sizesOutsideTheListsAreTaken_data()
@@ -253,7 +254,7 @@ private slots:
         QFETCH(int, maat);
         Bord bord;
         NieuwForm form;
-        form.Text1->setText(QStringLiteral("naam"));
+        form.Text1->setText(u"naam"_s);
         form.Combo1->setEditText(tekst);
         form.Combo2->setEditText(tekst);
         form.OkKnop_Click();
@@ -266,7 +267,7 @@ private slots:
         Bord bord;
         NieuwForm form;
         form.show();
-        form.Text1->setText(QStringLiteral("naam"));
+        form.Text1->setText(u"naam"_s);
         QTimer::singleShot(0, &form, [&form] { // the first wait; the next turn of events is in the second one
             QTimer::singleShot(0, &form, [&form] { form.Unload(); });
         });
@@ -280,14 +281,14 @@ private slots:
     {
         Bord bord;
         NieuwForm form;
-        form.Text1->setText(QStringLiteral("naam"));
+        form.Text1->setText(u"naam"_s);
         form.Option[3]->click();
         form.CancelKnop_Click();
         QVERIFY(form.Unloaded());
         QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.4) < 1e-6);
         QVERIFY(PuzzelNaam.isEmpty());
         QCOMPARE(PuzzelType, Zweeds);
-        QCOMPARE(bord.Venster.Bestandsnaam->text(), QStringLiteral("Puzzelnaam"));
+        QCOMPARE(bord.Venster.Bestandsnaam->text(), u"Puzzelnaam"_s);
     }
 };
 

@@ -5,6 +5,8 @@
 #include <QGuiApplication>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 /// Sees the pointer while the fill waits.
 class ZandloperKlok : public DirecteKlok
 {
@@ -108,13 +110,13 @@ private slots:
         for (int kolom = 0; kolom < 16; ++kolom)
             for (int rij = 0; rij < 19; ++rij) {
                 const QString letter(QChar(65 + static_cast<int>(Toeval::Rnd() * 26)));
-                const int verschuiving = letter == QLatin1String("W") ? -3 : letter == QLatin1String("I") ? 4 : 0;
-                const QImage los = Gedrukt({31, 31}, letter, 11 + verschuiving, 7, QStringLiteral("Arial"), 12, true,
-                                           qRgb(80, 80, 80));
+                const int verschuiving = letter == "W"_L1 ? -3 : letter == "I"_L1 ? 4 : 0;
+                const QImage los =
+                    Gedrukt({31, 31}, letter, 11 + verschuiving, 7, u"Arial"_s, 12, true, qRgb(80, 80, 80));
                 QVERIFY(pic.copy(Binnen(kolom, rij)) == los.copy(QRect(1, 1, 29, 29)));
                 gezien += letter;
             }
-        QVERIFY(gezien.contains(QStringLiteral("W")) && gezien.contains(QStringLiteral("I")));
+        QVERIFY(gezien.contains(u"W"_s) && gezien.contains(u"I"_s));
     }
 
     void theFillCanBeSeenAsItRuns()

@@ -1,6 +1,8 @@
 #include "board/Raster.h"
 #include "support/Bord.h"
 
+using namespace Qt::StringLiterals;
+
 static const QRgb Lijn = qRgb(150, 150, 150);
 static const QRgb Wit = qRgb(255, 255, 255);
 static const QRgb Zwart = qRgb(0, 0, 0);
@@ -47,7 +49,7 @@ private slots:
         for (int y = 0; y < pic.height(); ++y)
             for (int x = 0; x < pic.width(); ++x)
                 if (pic.pixel(x, y) != (x % 30 == 0 || y % 30 == 0 ? Lijn : Wit))
-                    QFAIL(qPrintable(QStringLiteral("pixel %1, %2").arg(x).arg(y)));
+                    QFAIL(qPrintable(u"pixel %1, %2"_s.arg(x).arg(y)));
     }
 
     void aSudokuHasBandsRoundItsBoxes()
@@ -120,22 +122,22 @@ private slots:
 
     void theRulersShowLettersAndTwoDigits()
     {
-        QCOMPARE(RijTekst(0), QStringLiteral("01"));
-        QCOMPARE(RijTekst(8), QStringLiteral("09"));
-        QCOMPARE(RijTekst(9), QStringLiteral("10"));
-        QCOMPARE(RijTekst(18), QStringLiteral("19"));
+        QCOMPARE(RijTekst(0), u"01"_s);
+        QCOMPARE(RijTekst(8), u"09"_s);
+        QCOMPARE(RijTekst(9), u"10"_s);
+        QCOMPARE(RijTekst(18), u"19"_s);
 
         Bord bord;
         const QRgb achter = qRgb(230, 230, 190);
         const auto letter = [&](const QString &tekst, int x, int y, QSize maat) {
-            QImage beeld = Gedrukt(maat, tekst, x, y, QStringLiteral("Arial"), 9.75, true, Zwart);
+            QImage beeld = Gedrukt(maat, tekst, x, y, u"Arial"_s, 9.75, true, Zwart);
             return InktVlak(beeld, beeld.rect());
         };
         const QImage rijen = bord.Venster.PicR->Image(), kolommen = bord.Venster.PicO->Image();
-        QCOMPARE(InktVlak(rijen, QRect(0, 10, 30, 24), achter), letter(QStringLiteral("01"), 6, 14, {30, 40}));
-        QCOMPARE(InktVlak(kolommen, QRect(10, 0, 24, 20), achter), letter(QStringLiteral("A"), 17, 2, {40, 20}));
+        QCOMPARE(InktVlak(rijen, QRect(0, 10, 30, 24), achter), letter(u"01"_s, 6, 14, {30, 40}));
+        QCOMPARE(InktVlak(kolommen, QRect(10, 0, 24, 20), achter), letter(u"A"_s, 17, 2, {40, 20}));
         QCOMPARE(InktVlak(kolommen, QRect(460, 0, 24, 20), achter).left(),
-                 letter(QStringLiteral("P"), 17 + 450, 2, {500, 20}).left());
+                 letter(u"P"_s, 17 + 450, 2, {500, 20}).left());
     }
 
     void theRulersKeepWhatALargerBoardLeft()

@@ -5,6 +5,8 @@
 #include <QMouseEvent>
 #include <QSignalSpy>
 
+using namespace Qt::StringLiterals;
+
 static const QRgb Wit = qRgb(255, 255, 255);
 static const QRgb Donker = qRgb(60, 60, 60);
 
@@ -60,11 +62,11 @@ private slots:
         Bord bord;
         bord.Begin(Filippine, 16, 19);
         bord.Wijs(4, 6);
-        QCOMPARE(bord.Venster.Label6->Caption(), QStringLiteral("07"));
+        QCOMPARE(bord.Venster.Label6->Caption(), u"07"_s);
         bord.Wijs(4, 8);
-        QCOMPARE(bord.Venster.Label6->Caption(), QStringLiteral("09"));
+        QCOMPARE(bord.Venster.Label6->Caption(), u"09"_s);
         bord.Wijs(4, 9);
-        QCOMPARE(bord.Venster.Label6->Caption(), QStringLiteral("10"));
+        QCOMPARE(bord.Venster.Label6->Caption(), u"10"_s);
     }
 
     void theRealPointerDoesTheSame()
@@ -72,7 +74,7 @@ private slots:
         Bord bord;
         bord.Venster.show();
         QTest::mouseMove(bord.Venster.Pic, QPoint(3 * 30 + 10, 4 * 30 + 10));
-        QCOMPARE(bord.Venster.Label6->Caption(), QStringLiteral("D-05 / 68"));
+        QCOMPARE(bord.Venster.Label6->Caption(), u"D-05 / 68"_s);
         QTest::mouseClick(bord.Venster.Pic, Qt::LeftButton, {}, QPoint(3 * 30 + 10, 4 * 30 + 10));
         QVERIFY(bord.Venster.SoortPlaatsing->isVisible());
         bord.Venster.SoortPlaatsing->close();
@@ -92,7 +94,7 @@ private slots:
         QVERIFY(VakZwart[1]);
         QTest::mouseMove(bord.Venster.Pic, QPoint(45, 45));
         druk(QPoint(7 * 30 + 15, 9 * 30 + 15)); // the moves to here went to a menu
-        QCOMPARE(bord.Venster.Label6->Caption(), QStringLiteral("H-10 / 152"));
+        QCOMPARE(bord.Venster.Label6->Caption(), u"H-10 / 152"_s);
         QVERIFY(VakZwart[152]);
     }
 
@@ -142,13 +144,13 @@ private slots:
         Bord bord;
         QStringList items, sudoku;
         for (const QAction *item : bord.Venster.SoortPlaatsing->actions())
-            items += item->isSeparator() ? QStringLiteral("-") : item->text();
+            items += item->isSeparator() ? u"-"_s : item->text();
         for (const QAction *item : bord.Venster.SudokuMenu->actions())
-            sudoku += item->isSeparator() ? QStringLiteral("-") : item->text();
-        QCOMPARE(items.join(u'|'), QStringLiteral("Informatievakje plaatsen|Omschrijving en/of oplossing plaatsen|"
-                                                  "Letter plaatsen|-|Lege vakjes opvullen|-|Vaknummer plaatsen|-|"
-                                                  "Annuleren"));
-        QCOMPARE(sudoku.join(u'|'), QStringLiteral("1|2|3|4|5|6|7|8|9|-|Hint"));
+            sudoku += item->isSeparator() ? u"-"_s : item->text();
+        QCOMPARE(items.join(u'|'), u"Informatievakje plaatsen|Omschrijving en/of oplossing plaatsen|"
+                                   "Letter plaatsen|-|Lege vakjes opvullen|-|Vaknummer plaatsen|-|"
+                                   "Annuleren"_s);
+        QCOMPARE(sudoku.join(u'|'), u"1|2|3|4|5|6|7|8|9|-|Hint"_s);
     }
 
     void thePopUpOfTheKindIsShown_data()

@@ -3,6 +3,8 @@
 #include "platform/TextBox.h"
 #include "support/Testbank.h"
 
+using namespace Qt::StringLiterals;
+
 class tst_TekstRegels : public QObject
 {
     Q_OBJECT
@@ -27,7 +29,7 @@ private slots:
         QFETCH(QStringList, regels);
         QWidget venster;
         TextBox box(&venster);
-        box.setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+        box.setFont(Lettertype(u"Arial"_s, 12, true));
         box.resize(123, 123);
         box.SetText(tekst);
         QStringList gevonden;
@@ -40,7 +42,7 @@ private slots:
     {
         QWidget venster;
         TextBox box(&venster);
-        box.setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+        box.setFont(Lettertype(u"Arial"_s, 12, true));
         box.resize(123, 123);
         box.SetText(QString(40, u'm'));
         QStringList regels;
@@ -53,9 +55,9 @@ private slots:
     {
         QWidget venster;
         TextBox box(&venster);
-        box.setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+        box.setFont(Lettertype(u"Arial"_s, 12, true));
         box.resize(123, 123);
-        const QString tekst = QStringLiteral("raadsel ").repeated(1250);
+        const QString tekst = u"raadsel "_s.repeated(1250);
         box.SetText(tekst);
         QStringList regels;
         const int n = TekstRegels(box, regels);

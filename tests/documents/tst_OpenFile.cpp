@@ -7,9 +7,10 @@
 
 #include <QDir>
 
-static const QList<QStringList> TweeRijen{
-    {QStringLiteral("A-01 / 1-H"), QStringLiteral("dier"), QStringLiteral("aap"), QStringLiteral("-")},
-    {QStringLiteral("B-02 / 11-V"), QString(), QStringLiteral("wijn"), QStringLiteral("7")}};
+using namespace Qt::StringLiterals;
+
+static const QList<QStringList> TweeRijen{{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s},
+                                          {u"B-02 / 11-V"_s, QString(), u"wijn"_s, u"7"_s}};
 
 class tst_OpenFile : public QObject
 {
@@ -18,14 +19,13 @@ class tst_OpenFile : public QObject
     static void SchrijfPuzzel(const Bord &bord, const QString &naam, quint8 soort, int breedte, int hoogte,
                               const QList<QStringList> &rijen = TweeRijen)
     {
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/") + naam + QStringLiteral(".lst"),
-                          SchrijfPuzzelLijst(soort, breedte, hoogte, rijen));
+        bord.Bank.Schrijf(u"Puzzels/"_s + naam + u".lst"_s, SchrijfPuzzelLijst(soort, breedte, hoogte, rijen));
     }
     static void SchrijfBeeld(const Bord &bord, const QString &naam, QSize maat, QRgb kleur)
     {
         QImage beeld(maat, QImage::Format_RGB32);
         beeld.fill(kleur);
-        Files::SavePicture(beeld, bord.Bank.Map() + QStringLiteral("/Puzzels/") + naam);
+        Files::SavePicture(beeld, bord.Bank.Map() + u"/Puzzels/"_s + naam);
     }
     static void Open(const QString &naam)
     {
@@ -69,17 +69,16 @@ private slots:
     {
         Bord bord;
         for (const char *naam : {"Zee.lst", "appel.LST", "Boom.lst", "los.bmp", "Boom1.bmp", "lijst.txt"})
-            bord.Bank.Schrijf(QStringLiteral("Puzzels/") + QLatin1String(naam), "x");
+            bord.Bank.Schrijf(u"Puzzels/"_s + QLatin1String(naam), "x");
         OpenFile form;
-        QCOMPARE(form.windowTitle(), QStringLiteral("Puzzel openen"));
+        QCOMPARE(form.windowTitle(), u"Puzzel openen"_s);
         QCOMPARE(form.size(), QSize((5160 - 90) / 15, (4395 - 450) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(190, 240, 240));
-        QCOMPARE(Namen(form).join(u' '), QStringLiteral("appel Boom Zee")); // bitmaps without a list are not shown
+        QCOMPARE(Namen(form).join(u' '), u"appel Boom Zee"_s); // bitmaps without a list are not shown
         QCOMPARE(form.List1->palette().color(QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.List1->palette().color(QPalette::Text), QColor(250, 250, 250));
-        QCOMPARE(form.Label2->Caption(),
-                 QStringLiteral("Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."));
-        QCOMPARE(form.DelKnop->toolTip(), QStringLiteral(" Puzzel verwijderen "));
+        QCOMPARE(form.Label2->Caption(), u"Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."_s);
+        QCOMPARE(form.DelKnop->toolTip(), u" Puzzel verwijderen "_s);
         QVERIFY(!form.DelKnop->isEnabled());
         QCOMPARE(form.List1->ListIndex(), -1);
     }
@@ -87,18 +86,18 @@ private slots:
     void choosingANameTakesItAtOnce()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
-        PuzzelNaam = QStringLiteral("oud");
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        PuzzelNaam = u"oud"_s;
         const QImage pic = bord.Pic();
         OpenFile form;
         form.List1->SetListIndex(0);
-        QCOMPARE(PuzzelNaam, QStringLiteral("Reis"));
+        QCOMPARE(PuzzelNaam, u"Reis"_s);
         QVERIFY(form.DelKnop->isEnabled());
         form.CancelKnop_Click();
         QVERIFY(form.Unloaded());
-        QCOMPARE(PuzzelNaam, QStringLiteral("Reis")); // it stays so
+        QCOMPARE(PuzzelNaam, u"Reis"_s); // it stays so
         QVERIFY(bord.Pic() == pic);
-        QCOMPARE(bord.Venster.Bestandsnaam->text(), QStringLiteral("Puzzelnaam"));
+        QCOMPARE(bord.Venster.Bestandsnaam->text(), u"Puzzelnaam"_s);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
     }
 
@@ -109,7 +108,7 @@ private slots:
         bord.Venster.VoegRijenToe(TweeRijen);
         bord.Klik(Qt::RightButton, 3, 4);
         SaveForm bewaar;
-        bewaar.Text1->setText(QStringLiteral("mijn PUZZEL"));
+        bewaar.Text1->setText(u"mijn PUZZEL"_s);
         bewaar.SaveKnop_Click();
         const QImage pic = bord.Pic(), groot = bord.Groot();
         bord.Begin(Zweeds, 16, 19);
@@ -119,18 +118,18 @@ private slots:
         bord.Venster.SoortPlaatsing->close();
         bord.Venster.Line1->Toon();
 
-        Open(QStringLiteral("Mijn puzzel")); // the bitmaps are spelled as they were typed
+        Open(u"Mijn puzzel"_s); // the bitmaps are spelled as they were typed
         QVERIFY(bord.Pic() == pic);
         QVERIFY(bord.Groot() == groot);
         QCOMPARE(PuzzelType, Kruiswoord);
         QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(9, 12));
         QCOMPARE(bord.Rij(0), TweeRijen[0].join(u'|'));
         QCOMPARE(bord.Rij(1), TweeRijen[1].join(u'|'));
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("2 Items"));
-        QCOMPARE(bord.Venster.Label12->Caption(), QStringLiteral("Soortpuzzel : Kruiswoord"));
-        QCOMPARE(bord.Venster.windowTitle(), QStringLiteral("Zweedse Raster Atelier (9x12)"));
-        QCOMPARE(PuzzelNaam, QStringLiteral("Mijn puzzel"));
-        QCOMPARE(bord.Venster.Bestandsnaam->text(), QStringLiteral("Mijn puzzel"));
+        QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
+        QCOMPARE(bord.Venster.Label12->Caption(), u"Soortpuzzel : Kruiswoord"_s);
+        QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (9x12)"_s);
+        QCOMPARE(PuzzelNaam, u"Mijn puzzel"_s);
+        QCOMPARE(bord.Venster.Bestandsnaam->text(), u"Mijn puzzel"_s);
         QVERIFY(bord.Venster.Shape1->isHidden());
         QVERIFY(bord.Venster.Line1->isHidden());
         QVERIFY(PuzzelGewijzigd); // opening leaves it alone
@@ -152,12 +151,12 @@ private slots:
         QFETCH(int, soort);
         QFETCH(QString, opschrift);
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Eerst"), Filippine, 16, 19);
-        SchrijfPuzzel(bord, QStringLiteral("Sudoku"), Sudoku, 9, 9);
-        SchrijfPuzzel(bord, QStringLiteral("Dan"), static_cast<quint8>(soort), 9, 9);
-        Open(QStringLiteral("Sudoku"));
-        Open(QStringLiteral("Eerst"));
-        Open(QStringLiteral("Dan"));
+        SchrijfPuzzel(bord, u"Eerst"_s, Filippine, 16, 19);
+        SchrijfPuzzel(bord, u"Sudoku"_s, Sudoku, 9, 9);
+        SchrijfPuzzel(bord, u"Dan"_s, static_cast<quint8>(soort), 9, 9);
+        Open(u"Sudoku"_s);
+        Open(u"Eerst"_s);
+        Open(u"Dan"_s);
         QCOMPARE(PuzzelType, quint8(soort));
         QCOMPARE(bord.Venster.Label12->Caption(), opschrift);
         QCOMPARE(!bord.Venster.Frame9->isHidden(), soort == 4);
@@ -170,10 +169,10 @@ private slots:
     {
         Bord bord;
         bord.Venster.VoegRijenToe(TweeRijen);
-        SchrijfPuzzel(bord, QStringLiteral("Leeg"), Zweeds, 10, 11, {});
-        Open(QStringLiteral("Leeg"));
+        SchrijfPuzzel(bord, u"Leeg"_s, Zweeds, 10, 11, {});
+        Open(u"Leeg"_s);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("0 Items"));
+        QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
         QCOMPARE(bord.Pic().size(), QSize(301, 331)); // without bitmaps: the empty board
         QVERIFY(!HeeftInkt(bord.Pic(), Binnen(4, 4)));
     }
@@ -181,13 +180,13 @@ private slots:
     void anEmptyFolderDoesNothing()
     {
         Bord bord;
-        PuzzelNaam = QStringLiteral("oud");
+        PuzzelNaam = u"oud"_s;
         OpenFile form;
         QCOMPARE(form.List1->ListCount(), 0);
         form.OkKnop_Click();
         QVERIFY(!form.Unloaded());
-        QCOMPARE(PuzzelNaam, QStringLiteral("oud"));
-        QDir(bord.Bank.Map() + QStringLiteral("/Puzzels")).removeRecursively();
+        QCOMPARE(PuzzelNaam, u"oud"_s);
+        QDir(bord.Bank.Map() + u"/Puzzels"_s).removeRecursively();
         OpenFile zonderMap;
         QCOMPARE(zonderMap.List1->ListCount(), 0);
     }
@@ -195,8 +194,8 @@ private slots:
     void okWithoutAChoiceEmptiesTheName()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
-        PuzzelNaam = QStringLiteral("oud");
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        PuzzelNaam = u"oud"_s;
         OpenFile form;
         form.OkKnop_Click();
         QVERIFY(!form.Unloaded());
@@ -207,7 +206,7 @@ private slots:
     void aDoubleClickOpens()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
         OpenFile form;
         form.show();
         const QPoint midden = form.List1->visualRect(form.List1->model()->index(0, 0)).center();
@@ -229,13 +228,13 @@ private slots:
     {
         QFETCH(QByteArray, bitmap);
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
         if (!bitmap.isNull()) {
-            bord.Bank.Schrijf(QStringLiteral("Puzzels/Reis1.bmp"), bitmap);
-            bord.Bank.Schrijf(QStringLiteral("Puzzels/Reis2.bmp"), bitmap);
+            bord.Bank.Schrijf(u"Puzzels/Reis1.bmp"_s, bitmap);
+            bord.Bank.Schrijf(u"Puzzels/Reis2.bmp"_s, bitmap);
         }
         bord.Klik(Qt::RightButton, 1, 1);
-        Open(QStringLiteral("Reis"));
+        Open(u"Reis"_s);
         Bord leeg;
         leeg.Begin(Zweeds, 9, 9);
         QVERIFY(bord.Pic() == leeg.Pic()); // the canvas keeps what the set-up drew
@@ -246,12 +245,12 @@ private slots:
     void truncatedBitmapsAreNoPictures()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Reis"), Zweeds, 9, 9);
-        SchrijfBeeld(bord, QStringLiteral("Reis1.bmp"), QSize(271, 271), qRgb(9, 9, 9));
-        const QByteArray heel = bord.Bank.Inhoud(QStringLiteral("Puzzels/Reis1.bmp"));
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        SchrijfBeeld(bord, u"Reis1.bmp"_s, QSize(271, 271), qRgb(9, 9, 9));
+        const QByteArray heel = bord.Bank.Inhoud(u"Puzzels/Reis1.bmp"_s);
         for (const qsizetype lengte : {heel.size() - 1, heel.size() / 2, qsizetype(60), qsizetype(20)}) {
-            bord.Bank.Schrijf(QStringLiteral("Puzzels/Reis1.bmp"), heel.first(lengte));
-            Open(QStringLiteral("Reis"));
+            bord.Bank.Schrijf(u"Puzzels/Reis1.bmp"_s, heel.first(lengte));
+            Open(u"Reis"_s);
             QVERIFY(!HeeftInkt(bord.Pic(), Binnen(4, 4)));
         }
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
@@ -260,10 +259,10 @@ private slots:
     void aBitmapOfAnotherSize()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Klein"), Zweeds, 9, 9);
-        SchrijfBeeld(bord, QStringLiteral("Klein1.bmp"), QSize(40, 50), qRgb(1, 2, 3));
-        SchrijfBeeld(bord, QStringLiteral("Klein2.bmp"), QSize(3000, 3000), qRgb(4, 5, 6));
-        Open(QStringLiteral("Klein"));
+        SchrijfPuzzel(bord, u"Klein"_s, Zweeds, 9, 9);
+        SchrijfBeeld(bord, u"Klein1.bmp"_s, QSize(40, 50), qRgb(1, 2, 3));
+        SchrijfBeeld(bord, u"Klein2.bmp"_s, QSize(3000, 3000), qRgb(4, 5, 6));
+        Open(u"Klein"_s);
         QCOMPARE(bord.Pic().size(), QSize(271, 271));
         QCOMPARE(InktVlak(bord.Pic(), QRect(0, 0, 271, 271)), QRect(0, 0, 40, 50));
         QCOMPARE(bord.Groot().size(), QSize(1083, 1083));
@@ -293,13 +292,12 @@ private slots:
         PuzzelType = Kruiswoord;
         bord.Venster.ToonSoort();
         bord.Venster.VoegRijenToe(TweeRijen);
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/Stuk.lst"), inhoud);
-        Open(QStringLiteral("Stuk"));
+        bord.Bank.Schrijf(u"Puzzels/Stuk.lst"_s, inhoud);
+        Open(u"Stuk"_s);
         QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
         QCOMPARE(PuzzelType, quint8(soort));
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), rijen);
-        QCOMPARE(bord.Venster.windowTitle(),
-                 QStringLiteral("Zweedse Raster Atelier (%1x%2)").arg(maat.width()).arg(maat.height()));
+        QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (%1x%2)"_s.arg(maat.width()).arg(maat.height()));
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
         // A header that was damaged leaves the caption as it stood.
         const bool kopHeel = inhoud.contains('-');
@@ -310,10 +308,10 @@ private slots:
     void aFileThatVanishedOpensQuietly()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Weg"), Zweeds, 9, 9);
+        SchrijfPuzzel(bord, u"Weg"_s, Zweeds, 9, 9);
         OpenFile form;
         form.List1->SetListIndex(0);
-        QFile::remove(bord.Bank.Map() + QStringLiteral("/Puzzels/Weg.lst"));
+        QFile::remove(bord.Bank.Map() + u"/Puzzels/Weg.lst"_s);
         form.OkKnop_Click();
         QVERIFY(form.Unloaded());
         QCOMPARE(BoardWidth, 16);
@@ -336,8 +334,7 @@ private slots:
         bord.Venster.VoegRijenToe(TweeRijen);
         bord.Klik(Qt::RightButton, 1, 1);
         const QImage pic = bord.Pic(), groot = bord.Groot();
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/Groot.lst"),
-                          "b\r\n2\r\n" + breedte + "\r\n19\r\n-\r\nx\r\ny\r\nz\r\n-\r\n-\r\n");
+        bord.Bank.Schrijf(u"Puzzels/Groot.lst"_s, "b\r\n2\r\n" + breedte + "\r\n19\r\n-\r\nx\r\ny\r\nz\r\n-\r\n-\r\n");
         OpenFile form;
         form.List1->SetListIndex(0);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), fout);
@@ -352,33 +349,32 @@ private slots:
     void aHugeListOpens()
     {
         Bord bord;
-        SchrijfPuzzel(bord, QStringLiteral("Reus"), Zweeds, 9, 9, QList<QStringList>(100000, TweeRijen[0]));
-        Open(QStringLiteral("Reus"));
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("100000 Items"));
+        SchrijfPuzzel(bord, u"Reus"_s, Zweeds, 9, 9, QList<QStringList>(100000, TweeRijen[0]));
+        Open(u"Reus"_s);
+        QCOMPARE(bord.Venster.Label11->Caption(), u"100000 Items"_s);
     }
 
     void deletingAPuzzle()
     {
         Bord bord;
         for (const char *naam : {"Boom.lst", "boom1.BMP", "BOOM2.bmp", "Boom3.bmp", "Zee.lst", "Zee1.bmp"})
-            bord.Bank.Schrijf(QStringLiteral("Puzzels/") + QLatin1String(naam), "x");
-        QFile foto(bord.Bank.Thuis() + QStringLiteral("/Pictures/Boom.jpg"));
+            bord.Bank.Schrijf(u"Puzzels/"_s + QLatin1String(naam), "x");
+        QFile foto(bord.Bank.Thuis() + u"/Pictures/Boom.jpg"_s);
         QVERIFY(foto.open(QIODevice::WriteOnly));
         OpenFile form;
         form.List1->SetListIndex(0);
         bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
         form.DelKnop_Click();
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 6);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 6);
         QCOMPARE(form.List1->ListCount(), 2);
         form.DelKnop_Click();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 2);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Wilt je deze puzzel 'Boom' verwijderen?"));
-        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral("Delete"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wilt je deze puzzel 'Boom' verwijderen?"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Delete"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).join(u' '),
-                 QStringLiteral("Boom3.bmp Zee.lst Zee1.bmp"));
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).join(u' '), u"Boom3.bmp Zee.lst Zee1.bmp"_s);
         QVERIFY(foto.exists());
-        QCOMPARE(Namen(form), QStringList{QStringLiteral("Zee")});
+        QCOMPARE(Namen(form), QStringList{u"Zee"_s});
         QVERIFY(!form.Unloaded());
         QCOMPARE(form.List1->ListIndex(), -1); // nothing is selected then
         form.DelKnop_Click();

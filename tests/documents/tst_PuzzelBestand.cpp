@@ -2,6 +2,8 @@
 #include "platform/Files.h"
 #include "support/Testbank.h"
 
+using namespace Qt::StringLiterals;
+
 static const QByteArray Streep(28, '-');
 static const QByteArray Kop = "Tessel Hoeksma Software \xAE 2018\r\n1\r\n16\r\n19\r\n" + Streep + "\r\n";
 
@@ -21,10 +23,8 @@ private slots:
 
     void everyRowIsFiveLines()
     {
-        const QList<QStringList> rijen{
-            {QStringLiteral("  A-01 / 1-H "), QStringLiteral("dier, groot \"grijs\""), QStringLiteral("olifant"),
-             QStringLiteral("-")},
-            {QStringLiteral("B-02 / 18-V"), QString(), QStringLiteral("één€"), QStringLiteral("12")}};
+        const QList<QStringList> rijen{{u"  A-01 / 1-H "_s, u"dier, groot \"grijs\""_s, u"olifant"_s, u"-"_s},
+                                       {u"B-02 / 18-V"_s, QString(), u"één€"_s, u"12"_s}};
         QCOMPARE(SchrijfPuzzelLijst(3, 9, 10, rijen),
                  QByteArray("Tessel Hoeksma Software \xAE 2018\r\n3\r\n9\r\n10\r\n" + Streep +
                             "\r\nA-01 / 1-H\r\ndier, groot \"grijs\"\r\nolifant\r\n-\r\n" + Streep +
@@ -33,11 +33,9 @@ private slots:
 
     void whatIsWrittenComesBack()
     {
-        const QList<QStringList> rijen{
-            {QStringLiteral("A-01 / 1-H"), QStringLiteral("dier: ä ç µ"), QStringLiteral("olifant"),
-             QStringLiteral("-")},
-            {QStringLiteral("B-02 / 18-V"), QString(), QStringLiteral("wijn"), QStringLiteral("-")},
-            {QStringLiteral("-"), QStringLiteral("-"), QStringLiteral("zee"), QStringLiteral("-")}};
+        const QList<QStringList> rijen{{u"A-01 / 1-H"_s, u"dier: ä ç µ"_s, u"olifant"_s, u"-"_s},
+                                       {u"B-02 / 18-V"_s, QString(), u"wijn"_s, u"-"_s},
+                                       {u"-"_s, u"-"_s, u"zee"_s, u"-"_s}};
         const PuzzelLijst lijst = LeesPuzzelLijst(SchrijfPuzzelLijst(2, 12, 13, rijen));
         QVERIFY(lijst.KopHeel);
         QCOMPARE(*lijst.Soort, quint8(2));
@@ -113,9 +111,7 @@ private slots:
     void whereverAFileIsCutItReadsQuietly()
     {
         const QByteArray heel =
-            SchrijfPuzzelLijst(1, 16, 19,
-                               QList<QStringList>(3, {QStringLiteral("A-01 / 1-H"), QStringLiteral("x"),
-                                                      QStringLiteral("y"), QStringLiteral("-")}));
+            SchrijfPuzzelLijst(1, 16, 19, QList<QStringList>(3, {u"A-01 / 1-H"_s, u"x"_s, u"y"_s, u"-"_s}));
         for (qsizetype lengte = 0; lengte < heel.size(); ++lengte)
             QVERIFY(LeesPuzzelLijst(heel.first(lengte)).Rijen.size() <= 3);
     }

@@ -9,6 +9,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 /// Keeps what the progress show looks like at each of its waits.
 class VoortgangKlok : public DirecteKlok
 {
@@ -46,14 +48,13 @@ class tst_SaveForm : public QObject
     }
     static QStringList Fotos(const Bord &bord)
     {
-        return QDir(bord.Bank.Thuis() + QStringLiteral("/Pictures")).entryList(QDir::Files | QDir::Hidden);
+        return QDir(bord.Bank.Thuis() + u"/Pictures"_s).entryList(QDir::Files | QDir::Hidden);
     }
     static void Vul(Bord &bord)
     {
         bord.Begin(Zweeds, 9, 10);
         bord.Klik(Qt::RightButton, 2, 2);
-        bord.Venster.VoegRijToe(QStringLiteral("A-01 / 1-H"), QStringLiteral("dier"), QStringLiteral("aap"),
-                                QStringLiteral("-"));
+        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s);
         PuzzelGewijzigd = true;
     }
 
@@ -81,42 +82,41 @@ private slots:
     {
         Bord bord;
         SaveForm leeg;
-        QCOMPARE(leeg.windowTitle(), QStringLiteral("Puzzel opslaan"));
+        QCOMPARE(leeg.windowTitle(), u"Puzzel opslaan"_s);
         QCOMPARE(leeg.size(), QSize((4800 - 90) / 15, (1560 - 450) / 15));
         QCOMPARE(leeg.palette().color(QPalette::Window), QColor(170, 240, 240));
         QVERIFY(leeg.Text1->text().isEmpty()); // the placeholder is no name
         QVERIFY(leeg.Bar->isHidden());
-        QCOMPARE(leeg.Label1->Caption(), QStringLiteral("0%"));
+        QCOMPARE(leeg.Label1->Caption(), u"0%"_s);
         QCOMPARE(leeg.Text1->palette().color(QPalette::Base), QColor(40, 0, 0));
         QCOMPARE(leeg.Text1->palette().color(QPalette::Text), QColor(220, 220, 220));
-        bord.Venster.Bestandsnaam->setText(QStringLiteral("vakantie"));
+        bord.Venster.Bestandsnaam->setText(u"vakantie"_s);
         SaveForm form;
-        QCOMPARE(form.Text1->text(), QStringLiteral("vakantie"));
+        QCOMPARE(form.Text1->text(), u"vakantie"_s);
     }
 
     void theFourFiles()
     {
         Bord bord;
         Vul(bord);
-        PuzzelNaam = QStringLiteral("oud");
-        Bewaar(QStringLiteral("vakantie PUZZEL"));
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")),
-                 (QStringList{QStringLiteral("Vakantie puzzel.lst"), QStringLiteral("vakantie PUZZEL1.bmp"),
-                              QStringLiteral("vakantie PUZZEL2.bmp")}));
-        QCOMPARE(Fotos(bord), QStringList{QStringLiteral("Vakantie puzzel.jpg")});
+        PuzzelNaam = u"oud"_s;
+        Bewaar(u"vakantie PUZZEL"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s),
+                 (QStringList{u"Vakantie puzzel.lst"_s, u"vakantie PUZZEL1.bmp"_s, u"vakantie PUZZEL2.bmp"_s}));
+        QCOMPARE(Fotos(bord), QStringList{u"Vakantie puzzel.jpg"_s});
         QVERIFY(bord.Bank.Bestanden(QString()).isEmpty()); // the bitmap in between is gone
-        const QString puzzels = bord.Bank.Map() + QStringLiteral("/Puzzels/");
-        QVERIFY(Files::LoadPicture(puzzels + QStringLiteral("vakantie PUZZEL1.bmp")) == bord.Pic());
-        QVERIFY(Files::LoadPicture(puzzels + QStringLiteral("vakantie PUZZEL2.bmp")) == bord.Groot());
-        const QImage jpeg(bord.Bank.Thuis() + QStringLiteral("/Pictures/Vakantie puzzel.jpg"));
+        const QString puzzels = bord.Bank.Map() + u"/Puzzels/"_s;
+        QVERIFY(Files::LoadPicture(puzzels + u"vakantie PUZZEL1.bmp"_s) == bord.Pic());
+        QVERIFY(Files::LoadPicture(puzzels + u"vakantie PUZZEL2.bmp"_s) == bord.Groot());
+        const QImage jpeg(bord.Bank.Thuis() + u"/Pictures/Vakantie puzzel.jpg"_s);
         QCOMPARE(jpeg.size(), bord.Groot().size());
         QVERIFY(qAbs(qGray(jpeg.pixel(2 * 120 + 60, 2 * 120 + 60)) - 60) <= 2);
-        QCOMPARE(bord.Bank.Inhoud(QStringLiteral("Puzzels/Vakantie puzzel.lst")),
+        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie puzzel.lst"_s),
                  QByteArray("Tessel Hoeksma Software \xAE 2018\r\n1\r\n9\r\n10\r\n----------------------------\r\n"
                             "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n----------------------------\r\n"));
         QVERIFY(!PuzzelGewijzigd);
-        QCOMPARE(PuzzelNaam, QStringLiteral("oud"));
-        QCOMPARE(bord.Venster.Bestandsnaam->text(), QStringLiteral("Puzzelnaam"));
+        QCOMPARE(PuzzelNaam, u"oud"_s);
+        QCOMPARE(bord.Venster.Bestandsnaam->text(), u"Puzzelnaam"_s);
         QCOMPARE(GebruikersNaam, HaalGebruiker());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
@@ -138,37 +138,35 @@ private slots:
         form.SaveKnop_Click();
         QCOMPARE(form.focusWidget(), form.Text1);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Naam Puzzel ontbreekt!"));
-        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral("Error"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel ontbreekt!"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
         QVERIFY(!form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
-        QVERIFY(bord.Bank.Bestanden(QStringLiteral("Puzzels")).isEmpty());
+        QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
     }
 
     void outerBlanksBelongToTheName()
     {
         Bord bord;
-        Bewaar(QStringLiteral(" Reis "));
-        QCOMPARE(
-            bord.Bank.Bestanden(QStringLiteral("Puzzels")),
-            (QStringList{QStringLiteral(" Reis 1.bmp"), QStringLiteral(" Reis 2.bmp"), QStringLiteral(" reis .lst")}));
-        QCOMPARE(Fotos(bord), QStringList{QStringLiteral(" reis .jpg")});
+        Bewaar(u" Reis "_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u" Reis 1.bmp"_s, u" Reis 2.bmp"_s, u" reis .lst"_s}));
+        QCOMPARE(Fotos(bord), QStringList{u" reis .jpg"_s});
     }
 
     void refusingToOverwriteCountsAsSaved()
     {
         Bord bord;
         Vul(bord);
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/Vakantie.lst"), "oud");
+        bord.Bank.Schrijf(u"Puzzels/Vakantie.lst"_s, "oud");
         bord.Bank.Script.Antwoorden = {Antwoord::Nee};
-        Bewaar(QStringLiteral("vakantie")); // the look-up ignores case
+        Bewaar(u"vakantie"_s); // the look-up ignores case
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Naam puzzel bestaat al, overschrijven?"));
-        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral(" Exist"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam puzzel bestaat al, overschrijven?"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u" Exist"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")), QStringList{QStringLiteral("Vakantie.lst")});
-        QCOMPARE(bord.Bank.Inhoud(QStringLiteral("Puzzels/Vakantie.lst")), QByteArray("oud"));
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), QStringList{u"Vakantie.lst"_s});
+        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie.lst"_s), QByteArray("oud"));
         QVERIFY(!PuzzelGewijzigd);
         QVERIFY(!QGuiApplication::overrideCursor());
     }
@@ -177,17 +175,16 @@ private slots:
     {
         Bord bord;
         Vul(bord);
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/VAKANTIE.LST"), QByteArray(10000, 'x'));
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/Vakantie1.BMP"), "oud");
-        bord.Bank.Schrijf(QStringLiteral("Puzzels/vakantie2.bmp"), QByteArray(9000000, 'x'));
+        bord.Bank.Schrijf(u"Puzzels/VAKANTIE.LST"_s, QByteArray(10000, 'x'));
+        bord.Bank.Schrijf(u"Puzzels/Vakantie1.BMP"_s, "oud");
+        bord.Bank.Schrijf(u"Puzzels/vakantie2.bmp"_s, QByteArray(9000000, 'x'));
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
-        Bewaar(QStringLiteral("vaKANtie"));
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")),
-                 (QStringList{QStringLiteral("Vakantie.lst"), QStringLiteral("Vakantie1.BMP"),
-                              QStringLiteral("vakantie2.bmp")}));
-        QCOMPARE(bord.Bank.Inhoud(QStringLiteral("Puzzels/Vakantie.lst")).count("\r\n"), 10);
-        QVERIFY(Files::LoadPicture(bord.Bank.Map() + QStringLiteral("/Puzzels/Vakantie1.BMP")) == bord.Pic());
-        QVERIFY(bord.Bank.Inhoud(QStringLiteral("Puzzels/vakantie2.bmp")).size() < 9000000);
+        Bewaar(u"vaKANtie"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s),
+                 (QStringList{u"Vakantie.lst"_s, u"Vakantie1.BMP"_s, u"vakantie2.bmp"_s}));
+        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie.lst"_s).count("\r\n"), 10);
+        QVERIFY(Files::LoadPicture(bord.Bank.Map() + u"/Puzzels/Vakantie1.BMP"_s) == bord.Pic());
+        QVERIFY(bord.Bank.Inhoud(u"Puzzels/vakantie2.bmp"_s).size() < 9000000);
     }
 
     void theProgressShow()
@@ -197,18 +194,18 @@ private slots:
         Klok::Gebruik(&klok);
         SaveForm form;
         klok.Form = &form;
-        form.Text1->setText(QStringLiteral("reis"));
+        form.Text1->setText(u"reis"_s);
         form.SaveKnop_Click();
         QCOMPARE(klok.Percentages.size(), 152);
-        QCOMPARE(klok.Percentages.first(7).join(u' '), QStringLiteral("0% 1% 1% 2% 3% 3% 4%"));
+        QCOMPARE(klok.Percentages.first(7).join(u' '), u"0% 1% 1% 2% 3% 3% 4%"_s);
         for (int i = 0; i <= 150; ++i) {
-            QCOMPARE(klok.Percentages[i], QStringLiteral("%1%").arg(static_cast<int>(std::nearbyint(2 * i / 3.0))));
+            QCOMPARE(klok.Percentages[i], u"%1%"_s.arg(static_cast<int>(std::nearbyint(2 * i / 3.0))));
             QCOMPARE(klok.Breedtes[i], std::min(2 * i + 1, 300)); // the bar is 300 wide
             QVERIFY(qAbs(klok.Wachttijden[i] - 0.02) < 1e-6);
             QVERIFY(klok.Zandlopers[i]);
             QCOMPARE(klok.Welke[i], QEventLoop::ExcludeUserInputEvents); // clicks and keys wait for its end
         }
-        QCOMPARE(klok.Percentages.last(), QStringLiteral("100%"));
+        QCOMPARE(klok.Percentages.last(), u"100%"_s);
         QVERIFY(qAbs(klok.Wachttijden.last() - 1) < 1e-6);
         QVERIFY(!klok.Zandlopers.last());
         QCOMPARE(klok.Welke.last(), QEventLoop::ExcludeUserInputEvents);
@@ -219,12 +216,12 @@ private slots:
     void aMissingDummyBitmapIsSaid()
     {
         Bord bord;
-        QDir().mkpath(bord.Bank.Map() + QStringLiteral("/mydummy.bmp/bezet")); // a folder stands in its way
+        QDir().mkpath(bord.Bank.Map() + u"/mydummy.bmp/bezet"_s); // a folder stands in its way
         PuzzelGewijzigd = true;
-        Bewaar(QStringLiteral("reis"));
+        Bewaar(u"reis"_s);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, QStringLiteral("Fout bij opslaan als JPG!"));
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 3);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Fout bij opslaan als JPG!"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 3);
         QVERIFY(Fotos(bord).isEmpty());
         QVERIFY(!PuzzelGewijzigd);
         QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.2) < 1e-6); // no progress
@@ -234,9 +231,9 @@ private slots:
     void aMissingPictureFolderPassesInSilence()
     {
         Bord bord;
-        QDir(bord.Bank.Thuis() + QStringLiteral("/Pictures")).removeRecursively();
-        Bewaar(QStringLiteral("reis"));
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 3);
+        QDir(bord.Bank.Thuis() + u"/Pictures"_s).removeRecursively();
+        Bewaar(u"reis"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 3);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
         QVERIFY(bord.Bank.Bestanden(QString()).isEmpty());
     }
@@ -261,9 +258,9 @@ private slots:
         Vul(bord);
         const QImage pic = bord.Pic();
         Bewaar(naam);
-        QVERIFY(bord.Bank.Bestanden(QStringLiteral("Puzzels")).isEmpty());
+        QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
         QVERIFY(bord.Bank.Bestanden(QString()).isEmpty());
-        QVERIFY(bord.Bank.Bestanden(QStringLiteral("..")).isEmpty());
+        QVERIFY(bord.Bank.Bestanden(u".."_s).isEmpty());
         QVERIFY(Fotos(bord).isEmpty());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
         QVERIFY(!PuzzelGewijzigd); // the puzzle counts as saved
@@ -275,36 +272,32 @@ private slots:
     {
         Bord bord;
         Bewaar(QString(250, u'x'));
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 3);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 3);
     }
 
     void theSavedNameMeetsItsBitmaps()
     {
         Bord bord;
-        Bewaar(QStringLiteral("ßTEST"));
-        QCOMPARE(
-            bord.Bank.Bestanden(QStringLiteral("Puzzels")),
-            (QStringList{QStringLiteral("ßTEST1.bmp"), QStringLiteral("ßTEST2.bmp"), QStringLiteral("ßtest.lst")}));
-        QVERIFY(
-            Files::FileExists(Files::Pad(bord.Bank.Map(), {QStringLiteral("Puzzels"), QStringLiteral("ßtest1.bmp")})));
+        Bewaar(u"ßTEST"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u"ßTEST1.bmp"_s, u"ßTEST2.bmp"_s, u"ßtest.lst"_s}));
+        QVERIFY(Files::FileExists(Files::Pad(bord.Bank.Map(), {u"Puzzels"_s, u"ßtest1.bmp"_s})));
     }
 
     void twoDotsAreANameLikeAnother()
     {
         Bord bord;
-        Bewaar(QStringLiteral(".."));
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")),
-                 (QStringList{QStringLiteral("...lst"), QStringLiteral("..1.bmp"), QStringLiteral("..2.bmp")}));
+        Bewaar(u".."_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u"...lst"_s, u"..1.bmp"_s, u"..2.bmp"_s}));
     }
 
     void aMissingFolderPassesInSilence()
     {
         Bord bord;
         Vul(bord);
-        QDir(bord.Bank.Map() + QStringLiteral("/Puzzels")).removeRecursively();
-        Bewaar(QStringLiteral("reis"));
-        QVERIFY(!QDir(bord.Bank.Map() + QStringLiteral("/Puzzels")).exists());
-        QCOMPARE(Fotos(bord), QStringList{QStringLiteral("Reis.jpg")}); // the remaining steps run
+        QDir(bord.Bank.Map() + u"/Puzzels"_s).removeRecursively();
+        Bewaar(u"reis"_s);
+        QVERIFY(!QDir(bord.Bank.Map() + u"/Puzzels"_s).exists());
+        QCOMPARE(Fotos(bord), QStringList{u"Reis.jpg"_s}); // the remaining steps run
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
         QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
@@ -314,21 +307,20 @@ private slots:
     {
         Bord bord;
         Vul(bord);
-        const QString puzzels = bord.Bank.Map() + QStringLiteral("/Puzzels");
+        const QString puzzels = bord.Bank.Map() + u"/Puzzels"_s;
         QFile::setPermissions(puzzels, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
         // The superuser writes everywhere: as such the test goes on as somebody else.
         const bool isRoot = geteuid() == 0;
         if (isRoot) {
-            QFile::setPermissions(bord.Bank.Map() + QStringLiteral("/.."), QFile::ReadOwner | QFile::WriteOwner |
-                                                                               QFile::ExeOwner | QFile::ReadOther |
-                                                                               QFile::ExeOther);
+            QFile::setPermissions(bord.Bank.Map() + u"/.."_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                                                  QFile::ReadOther | QFile::ExeOther);
             QCOMPARE(seteuid(65534), 0);
         }
-        Bewaar(QStringLiteral("reis"));
+        Bewaar(u"reis"_s);
         if (isRoot)
             QCOMPARE(seteuid(0), 0);
         QFile::setPermissions(puzzels, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        QVERIFY(bord.Bank.Bestanden(QStringLiteral("Puzzels")).isEmpty());
+        QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
         QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
     }
@@ -347,14 +339,14 @@ private slots:
         rlimit vol{100, vrij.rlim_max};
         QCOMPARE(setrlimit(RLIMIT_FSIZE, &vol), 0);
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
-        Bewaar(QStringLiteral("Reis"));
+        Bewaar(u"Reis"_s);
         setrlimit(RLIMIT_FSIZE, &vrij);
         for (const char *naam : {"Puzzels/Reis.lst", "Puzzels/Reis1.bmp", "Puzzels/Reis2.bmp"})
             QCOMPARE(bord.Bank.Inhoud(QLatin1String(naam)), oud);
-        QCOMPARE(bord.Bank.Bestanden(QStringLiteral("Puzzels")).size(), 3); // nothing half-written beside them
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 3); // nothing half-written beside them
         QVERIFY(Fotos(bord).isEmpty());
         QCOMPARE(bord.Bank.Script.Gezien.size(), 2); // the question, and that no bitmap was there for the JPEG
-        QCOMPARE(bord.Bank.Script.Gezien[1].Tekst, QStringLiteral("Fout bij opslaan als JPG!"));
+        QCOMPARE(bord.Bank.Script.Gezien[1].Tekst, u"Fout bij opslaan als JPG!"_s);
         QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
     }
@@ -364,11 +356,11 @@ private slots:
         Bord bord;
         PuzzelGewijzigd = true;
         SaveForm form;
-        form.Text1->setText(QStringLiteral("reis"));
+        form.Text1->setText(u"reis"_s);
         form.CancelKnop_Click();
         QVERIFY(form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
-        QVERIFY(bord.Bank.Bestanden(QStringLiteral("Puzzels")).isEmpty());
+        QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
     }
 };
 

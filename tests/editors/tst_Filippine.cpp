@@ -3,6 +3,8 @@
 
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 static const QRgb Wit = qRgb(255, 255, 255);
 
 class tst_Filippine : public QObject
@@ -15,7 +17,7 @@ class tst_Filippine : public QObject
         bord.Venster.Pic->FontSize = 12;
         bord.Venster.Pic->CurrentX = kolom * 450 + 150;
         bord.Venster.Pic->CurrentY = rij * 450 + 105;
-        bord.Venster.Pic->Print(QStringLiteral("A"));
+        bord.Venster.Pic->Print(u"A"_s);
     }
 
 private slots:

@@ -2,6 +2,8 @@
 #include "editors/VakForm.h"
 #include "support/Bord.h"
 
+using namespace Qt::StringLiterals;
+
 static const QRgb Grijs = qRgb(80, 80, 80);
 
 class tst_TekstForm : public QObject
@@ -10,7 +12,7 @@ class tst_TekstForm : public QObject
 
     /// Opens the editor on a cell, fills it in and presses Ok.
     static void Plaats(Bord &bord, int kolom, int rij, int richting, const QString &woord,
-                       const QString &omschrijving = QStringLiteral("omschrijving"), bool omgekeerd = false)
+                       const QString &omschrijving = u"omschrijving"_s, bool omgekeerd = false)
     {
         bord.Wijs(kolom, rij);
         TekstForm form;
@@ -26,14 +28,14 @@ class tst_TekstForm : public QObject
     static bool IsLetter(const Bord &bord, int kolom, int rij, const QString &letter, int verschuiving = 0)
     {
         QImage los = Gedrukt(bord.Pic().size(), letter, Twips::NaarPixels(kolom * 450 + 165 + verschuiving),
-                             Twips::NaarPixels(rij * 450 + 105), QStringLiteral("Arial"), 12, true, Grijs);
+                             Twips::NaarPixels(rij * 450 + 105), u"Arial"_s, 12, true, Grijs);
         const QRect cel = Binnen(kolom, rij);
         return HeeftInkt(los, cel) && bord.Pic().copy(cel) == los.copy(cel);
     }
     static bool IsGroteLetter(const Bord &bord, int kolom, int rij, const QString &letter)
     {
-        QImage los = Gedrukt(bord.Groot().size(), letter, kolom * 120 + 40, rij * 120 + 24,
-                             QStringLiteral("Arial Narrow"), 48, true, Grijs);
+        QImage los =
+            Gedrukt(bord.Groot().size(), letter, kolom * 120 + 40, rij * 120 + 24, u"Arial Narrow"_s, 48, true, Grijs);
         const QRect cel = BinnenGroot(kolom, rij);
         return HeeftInkt(los, cel) && bord.Groot().copy(cel) == los.copy(cel);
     }
@@ -73,26 +75,26 @@ private slots:
         Bord bord;
         bord.Wijs(2, 6);
         TekstForm form;
-        QCOMPARE(form.windowTitle(), QStringLiteral("Oplossing Plaatsen op C-07 / 99"));
+        QCOMPARE(form.windowTitle(), u"Oplossing Plaatsen op C-07 / 99"_s);
         QCOMPARE(form.size(), QSize((6600 - 90) / 15, (3690 - 450) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 250, 190));
         QVERIFY(form.Text1->text().isEmpty() && form.Text2->text().isEmpty());
-        QCOMPARE(form.Label1->Caption(), QStringLiteral("Omschrijving"));
-        QCOMPARE(form.Label2->Caption(), QStringLiteral("Oplossing (0)"));
-        QCOMPARE(form.Label3->Caption(), QStringLiteral("Vaknummer Kruiswoordpuzzel"));
+        QCOMPARE(form.Label1->Caption(), u"Omschrijving"_s);
+        QCOMPARE(form.Label2->Caption(), u"Oplossing (0)"_s);
+        QCOMPARE(form.Label3->Caption(), u"Vaknummer Kruiswoordpuzzel"_s);
         QStringList opties;
         for (const QRadioButton *optie : form.Option)
             opties += optie->text();
-        QCOMPARE(opties.join(u'|'), QStringLiteral("Oplossing Horizontaal Plaatsen|Oplossing Vertikaal Plaatsen|"
-                                                   "Diagonaal naar rechtsonder Plaatsen|"
-                                                   "Diagonaal naar linksonder plaatsen"));
+        QCOMPARE(opties.join(u'|'), u"Oplossing Horizontaal Plaatsen|Oplossing Vertikaal Plaatsen|"
+                                    "Diagonaal naar rechtsonder Plaatsen|"
+                                    "Diagonaal naar linksonder plaatsen"_s);
         QVERIFY(form.Option[0]->isChecked());
-        QCOMPARE(form.Check1->text(), QStringLiteral("Oplossing omgekeerd"));
+        QCOMPARE(form.Check1->text(), u"Oplossing omgekeerd"_s);
         QVERIFY(!form.Check1->isChecked());
         QCOMPARE(form.Combo1->count(), 99);
-        QCOMPARE(form.Combo1->itemText(98), QStringLiteral("99"));
-        QCOMPARE(form.Combo1->currentText(), QStringLiteral("1"));
-        QCOMPARE(form.CopyKnop->toolTip(), QStringLiteral(" Copy tekst vanaf hoofdscherm "));
+        QCOMPARE(form.Combo1->itemText(98), u"99"_s);
+        QCOMPARE(form.Combo1->currentText(), u"1"_s);
+        QCOMPARE(form.CopyKnop->toolTip(), u" Copy tekst vanaf hoofdscherm "_s);
         for (const QWidget *box : std::initializer_list<QWidget *>{form.Text1, form.Text2, form.Combo1}) {
             QCOMPARE(box->palette().color(QPalette::Active, QPalette::Base), QColor(30, 0, 0));
             QCOMPARE(box->palette().color(QPalette::Active, QPalette::Text), QColor(230, 230, 230));
@@ -160,7 +162,7 @@ private slots:
         QFETCH(QString, teller);
         Bord bord;
         TekstForm form;
-        form.Text2->setText(QStringLiteral("iets"));
+        form.Text2->setText(u"iets"_s);
         form.Text2->setText(woord);
         QCOMPARE(form.Label2->Caption(), teller);
     }
@@ -168,10 +170,10 @@ private slots:
     void theCopyButtonTakesTheWordOfTheMainWindow()
     {
         Bord bord;
-        bord.Venster.CopyLabel->SetCaption(QStringLiteral("doetinchem"));
+        bord.Venster.CopyLabel->SetCaption(u"doetinchem"_s);
         TekstForm form;
         form.CopyKnop_Click();
-        QCOMPARE(form.Text2->text(), QStringLiteral("doetinchem"));
+        QCOMPARE(form.Text2->text(), u"doetinchem"_s);
         QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.2) < 1e-6);
         QVERIFY(!form.Unloaded());
     }
@@ -183,7 +185,7 @@ private slots:
         QTest::addColumn<QString>("oplossing");
         QTest::addColumn<QString>("nummer");
         QTest::addColumn<QString>("melding");
-        const QString beide = QStringLiteral("Omschrijving en/of Oplossing intypen...");
+        const QString beide = u"Omschrijving en/of Oplossing intypen..."_s;
         QTest::newRow("Zweeds, no clue") << 1 << ""
                                          << "aap"
                                          << "1" << beide;
@@ -224,7 +226,7 @@ private slots:
         QCOMPARE(form.focusWidget() == form.Text2, soort == Woordzoeker);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, QStringLiteral("Error"));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
         QVERIFY(!form.Unloaded());
         QVERIFY(bord.Pic() == pic);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
@@ -237,9 +239,9 @@ private slots:
         PuzzelType = Kruiswoord;
         const QImage pic = bord.Pic(), groot = bord.Groot();
         TekstForm form;
-        form.Text1->setText(QStringLiteral("dier"));
-        form.Text2->setText(QStringLiteral("aap"));
-        form.Combo1->setEditText(QStringLiteral("een"));
+        form.Text1->setText(u"dier"_s);
+        form.Text2->setText(u"aap"_s);
+        form.Combo1->setEditText(u"een"_s);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::TypeOnjuist));
         QVERIFY(bord.Pic() == pic);
         QVERIFY(bord.Groot() == groot);
@@ -250,33 +252,33 @@ private slots:
     {
         Bord bord;
         const QImage groot = bord.Groot();
-        Plaats(bord, 2, 3, 0, QStringLiteral("Wijn"), QStringLiteral("drank van druiven"));
-        QVERIFY(IsLetter(bord, 2, 3, QStringLiteral("W"), -45));
-        QVERIFY(IsLetter(bord, 3, 3, QStringLiteral("IJ"), 0)); // no offset: it is still one sign at that moment
-        QVERIFY(IsLetter(bord, 4, 3, QStringLiteral("N"), 0));
+        Plaats(bord, 2, 3, 0, u"Wijn"_s, u"drank van druiven"_s);
+        QVERIFY(IsLetter(bord, 2, 3, u"W"_s, -45));
+        QVERIFY(IsLetter(bord, 3, 3, u"IJ"_s, 0)); // no offset: it is still one sign at that moment
+        QVERIFY(IsLetter(bord, 4, 3, u"N"_s, 0));
         QVERIFY(!HeeftInkt(bord.Pic(), Binnen(5, 3)));
         QVERIFY(bord.Groot() == groot);
-        QCOMPARE(bord.Rij(0), QStringLiteral("C-04 / 51-H|drank van druiven|wijn|-"));
-        QCOMPARE(bord.Venster.Label11->Caption(), QStringLiteral("1 Items"));
-        QCOMPARE(LaatsteOplossing, QStringLiteral("wijn"));
+        QCOMPARE(bord.Rij(0), u"C-04 / 51-H|drank van druiven|wijn|-"_s);
+        QCOMPARE(bord.Venster.Label11->Caption(), u"1 Items"_s);
+        QCOMPARE(LaatsteOplossing, u"wijn"_s);
         QVERIFY(PuzzelGewijzigd);
     }
 
     void theLetterIIsMovedToTheMiddle()
     {
         Bord bord;
-        Plaats(bord, 0, 0, 0, QStringLiteral("wit"));
-        QVERIFY(IsLetter(bord, 1, 0, QStringLiteral("I"), 60));
-        QVERIFY(IsLetter(bord, 2, 0, QStringLiteral("T"), 0));
+        Plaats(bord, 0, 0, 0, u"wit"_s);
+        QVERIFY(IsLetter(bord, 1, 0, u"I"_s, 60));
+        QVERIFY(IsLetter(bord, 2, 0, u"T"_s, 0));
     }
 
     void capitalsAndBlanksAreNormalised()
     {
         Bord bord;
-        Plaats(bord, 0, 0, 0, QStringLiteral("IJs Beer"));
-        QVERIFY(IsLetter(bord, 0, 0, QStringLiteral("IJ")));
-        QVERIFY(IsLetter(bord, 5, 0, QStringLiteral("R")));
-        QCOMPARE(bord.Rij(0), QStringLiteral("A-01 / 1-H|omschrijving|ijsbeer|-"));
+        Plaats(bord, 0, 0, 0, u"IJs Beer"_s);
+        QVERIFY(IsLetter(bord, 0, 0, u"IJ"_s));
+        QVERIFY(IsLetter(bord, 5, 0, u"R"_s));
+        QCOMPARE(bord.Rij(0), u"A-01 / 1-H|omschrijving|ijsbeer|-"_s);
     }
 
     void theFourDirections_data()
@@ -296,25 +298,25 @@ private slots:
         QFETCH(QPoint, stap);
         Bord bord;
         PuzzelType = Woordzoeker;
-        Plaats(bord, 5, 6, richting, QStringLiteral("kwijt"), QString());
-        const QStringList letters{QStringLiteral("K"), QStringLiteral("W"), QStringLiteral("IJ"), QStringLiteral("T")};
+        Plaats(bord, 5, 6, richting, u"kwijt"_s, QString());
+        const QStringList letters{u"K"_s, u"W"_s, u"IJ"_s, u"T"_s};
         for (int i = 0; i < letters.size(); ++i) {
             const QPoint cel = QPoint(5, 6) + i * stap;
-            QVERIFY2(IsLetter(bord, cel.x(), cel.y(), letters[i], letters[i] == QLatin1String("W") ? -45 : 0),
+            QVERIFY2(IsLetter(bord, cel.x(), cel.y(), letters[i], letters[i] == "W"_L1 ? -45 : 0),
                      qPrintable(letters[i]));
             QVERIFY2(IsGroteLetter(bord, cel.x(), cel.y(), letters[i]), qPrintable(letters[i]));
         }
-        QCOMPARE(bord.Rij(0), QStringLiteral("F-07 / 102-%1||kwijt|-").arg(letter)); // a word search has no clue
+        QCOMPARE(bord.Rij(0), u"F-07 / 102-%1||kwijt|-"_s.arg(letter)); // a word search has no clue
     }
 
     void aReversedWordKeepsItsIj()
     {
         Bord bord;
         PuzzelType = Woordzoeker;
-        Plaats(bord, 2, 3, 0, QStringLiteral("zij"), QString(), true);
-        QVERIFY(IsLetter(bord, 2, 3, QStringLiteral("IJ")));
-        QVERIFY(IsLetter(bord, 3, 3, QStringLiteral("Z")));
-        QCOMPARE(bord.Rij(0), QStringLiteral("C-04 / 51-H||zij|-"));
+        Plaats(bord, 2, 3, 0, u"zij"_s, QString(), true);
+        QVERIFY(IsLetter(bord, 2, 3, u"IJ"_s));
+        QVERIFY(IsLetter(bord, 3, 3, u"Z"_s));
+        QCOMPARE(bord.Rij(0), u"C-04 / 51-H||zij|-"_s);
     }
 
     void aKruiswoordGetsItsNumber()
@@ -323,21 +325,21 @@ private slots:
         PuzzelType = Kruiswoord;
         bord.Wijs(2, 3);
         TekstForm form;
-        form.Text1->setText(QStringLiteral("dier"));
-        form.Text2->setText(QStringLiteral("aap"));
+        form.Text1->setText(u"dier"_s);
+        form.Text2->setText(u"aap"_s);
         form.Option[1]->setChecked(true);
-        form.Combo1->setEditText(QStringLiteral("12"));
+        form.Combo1->setEditText(u"12"_s);
         form.OkKnop_Click();
-        const QImage klein = Gedrukt(bord.Pic().size(), QStringLiteral("12"), 2 * 30 + 3, 3 * 30 + 1,
-                                     QStringLiteral("Arial"), 6, true, qRgb(0, 0, 0));
-        const QImage groot = Gedrukt(bord.Groot().size(), QStringLiteral("12"), 2 * 120 + 10, 3 * 120 + 4,
-                                     QStringLiteral("Arial Narrow"), 20, true, qRgb(0, 0, 0));
+        const QImage klein =
+            Gedrukt(bord.Pic().size(), u"12"_s, 2 * 30 + 3, 3 * 30 + 1, u"Arial"_s, 6, true, qRgb(0, 0, 0));
+        const QImage groot = Gedrukt(bord.Groot().size(), u"12"_s, 2 * 120 + 10, 3 * 120 + 4, u"Arial Narrow"_s, 20,
+                                     true, qRgb(0, 0, 0));
         const QRect hoek = InktVlak(klein, Binnen(2, 3)).adjusted(0, 0, 0, -1);
         QVERIFY(bord.Pic().copy(hoek) == klein.copy(hoek));
         QVERIFY(bord.Groot().copy(BinnenGroot(2, 3)) == groot.copy(BinnenGroot(2, 3)));
-        QVERIFY(IsLetter(bord, 2, 4, QStringLiteral("A")));
+        QVERIFY(IsLetter(bord, 2, 4, u"A"_s));
         QVERIFY(!HeeftInkt(bord.Groot(), BinnenGroot(2, 4)));
-        QCOMPARE(bord.Rij(0), QStringLiteral("C-04 / 51-V|dier|aap|12"));
+        QCOMPARE(bord.Rij(0), u"C-04 / 51-V|dier|aap|12"_s);
         // After the number the pictures stand as for the other kinds.
         QCOMPARE(bord.Venster.Pic->FontSize, 12.0);
         QCOMPARE(bord.Venster.PicGroot->FontSize, 48.0);
@@ -349,11 +351,11 @@ private slots:
     void fontNamesStayWhatTheyAre()
     {
         Bord bord;
-        bord.Venster.Pic->FontName = QStringLiteral("Courier New");
-        bord.Venster.PicGroot->FontName = QStringLiteral("Arial");
-        Plaats(bord, 0, 0, 0, QStringLiteral("aap"));
-        QCOMPARE(bord.Venster.Pic->FontName, QStringLiteral("Courier New"));
-        QCOMPARE(bord.Venster.PicGroot->FontName, QStringLiteral("Arial"));
+        bord.Venster.Pic->FontName = u"Courier New"_s;
+        bord.Venster.PicGroot->FontName = u"Arial"_s;
+        Plaats(bord, 0, 0, 0, u"aap"_s);
+        QCOMPARE(bord.Venster.Pic->FontName, u"Courier New"_s);
+        QCOMPARE(bord.Venster.PicGroot->FontName, u"Arial"_s);
     }
 
     void lettersBeyondTheEdgeAreLost_data()
@@ -374,7 +376,7 @@ private slots:
         Bord bord;
         PuzzelType = Woordzoeker;
         Plaats(bord, kolom, rij, richting, QString(254, u'o'), QString());
-        QVERIFY(IsLetter(bord, kolom, rij, QStringLiteral("O")));
+        QVERIFY(IsLetter(bord, kolom, rij, u"O"_s));
         QCOMPARE(InktVlak(bord.Pic(), Binnen(7, 8)), QRect());
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
@@ -394,8 +396,8 @@ private slots:
         PuzzelType = Kruiswoord;
         const QImage pic = bord.Pic(), groot = bord.Groot();
         TekstForm form;
-        const QString woord = QStringLiteral("ij") + QString(lengte - 1, u'a');
-        form.Text1->setText(QStringLiteral("lang"));
+        const QString woord = u"ij"_s + QString(lengte - 1, u'a');
+        form.Text1->setText(u"lang"_s);
         form.Text2->setText(woord);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::Overloop));
         QVERIFY(bord.Pic() == pic);
@@ -408,9 +410,9 @@ private slots:
     void aLetterLandsOnTopOfWhatIsThere()
     {
         Bord bord;
-        Plaats(bord, 2, 3, 0, QStringLiteral("o"));
+        Plaats(bord, 2, 3, 0, u"o"_s);
         const QImage eerst = bord.Pic();
-        Plaats(bord, 2, 3, 0, QStringLiteral("x"));
+        Plaats(bord, 2, 3, 0, u"x"_s);
         const QRect cel = Binnen(2, 3);
         int gebleven = 0;
         for (int y = cel.top(); y <= cel.bottom(); ++y)
@@ -418,7 +420,7 @@ private slots:
                 if (eerst.pixel(x, y) == Grijs)
                     gebleven += bord.Pic().pixel(x, y) == Grijs;
         QVERIFY(gebleven > 0);
-        QVERIFY(!IsLetter(bord, 2, 3, QStringLiteral("X")));
+        QVERIFY(!IsLetter(bord, 2, 3, u"X"_s));
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 2);
     }
 
@@ -427,8 +429,8 @@ private slots:
         Bord bord;
         bord.Wijs(2, 3);
         TekstForm form;
-        form.Text1->setText(QStringLiteral("dier"));
-        form.Text2->setText(QStringLiteral("aap"));
+        form.Text1->setText(u"dier"_s);
+        form.Text2->setText(u"aap"_s);
         form.show();
         QMetaObject::invokeMethod(form.OkKnop, &QAbstractButton::click, Qt::QueuedConnection);
         form.OkKnop->click(); // the queued press comes while this one waits
@@ -442,8 +444,8 @@ private slots:
         Bord bord;
         const QImage pic = bord.Pic();
         TekstForm form;
-        form.Text1->setText(QStringLiteral("dier"));
-        form.Text2->setText(QStringLiteral("aap"));
+        form.Text1->setText(u"dier"_s);
+        form.Text2->setText(u"aap"_s);
         form.CancelKnop_Click();
         QVERIFY(form.Unloaded());
         QVERIFY(bord.Pic() == pic);

@@ -3,6 +3,8 @@
 #include "platform/Plaatjes.h"
 #include "support/Bord.h"
 
+using namespace Qt::StringLiterals;
+
 static const QRgb Wit = qRgb(255, 255, 255);
 static const QRgb Zwart = qRgb(0, 0, 0);
 
@@ -19,7 +21,7 @@ static void Plaats(Bord &bord, int kolom, int rij, int soort, const QString &tek
 
 static QImage Glyph(Pijl pijl)
 {
-    return Plaatjes::Beeld(QStringLiteral("pijlen")).copy(static_cast<int>(pijl) / 15, 0, 23, 23);
+    return Plaatjes::Beeld(u"pijlen"_s).copy(static_cast<int>(pijl) / 15, 0, 23, 23);
 }
 
 class tst_VakForm : public QObject
@@ -59,18 +61,18 @@ private slots:
         bord.Wijs(2, 6);
         PijlSoort = 6;
         VakForm form;
-        QCOMPARE(form.windowTitle(), QStringLiteral("Informatievakje Plaatsen op C-07 / 99"));
+        QCOMPARE(form.windowTitle(), u"Informatievakje Plaatsen op C-07 / 99"_s);
         QCOMPARE(form.size(), QSize((6900 - 90) / 15, (3480 - 450) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 250, 190));
         QCOMPARE(PijlSoort, quint8(1));
-        QCOMPARE(form.Label2->Caption(), QStringLiteral("1"));
+        QCOMPARE(form.Label2->Caption(), u"1"_s);
         QVERIFY(form.Label2->font().bold());
-        QCOMPARE(form.Label1->Caption(), QStringLiteral("Omschrijving"));
-        QCOMPARE(form.Label7->Caption(), QStringLiteral("Soort Vakje"));
+        QCOMPARE(form.Label1->Caption(), u"Omschrijving"_s);
+        QCOMPARE(form.Label7->Caption(), u"Soort Vakje"_s);
         QCOMPARE(form.Label5->Caption(),
-                 QStringLiteral("Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, typ dan de "
-                                "omschrijving in de tekstvelden en klik daarna op de button 'Ok' om het infovakje op "
-                                "het puzzelveld te plaatsen."));
+                 u"Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, typ dan de "
+                 "omschrijving in de tekstvelden en klik daarna op de button 'Ok' om het infovakje op "
+                 "het puzzelveld te plaatsen."_s);
         QCOMPARE(form.HScroll1->minimum(), 1);
         QCOMPARE(form.HScroll1->maximum(), 8);
         QCOMPARE(form.HScroll1->value(), 1);
@@ -81,7 +83,7 @@ private slots:
         QCOMPARE(form.Text1->palette().color(QPalette::Text), QColor(230, 230, 230));
         QCOMPARE(form.TextLabel->font().pixelSize(), 17);
         QVERIFY(form.TextLabel->isHidden());
-        QCOMPARE(form.Pic->FontName, QStringLiteral("Arial Narrow"));
+        QCOMPARE(form.Pic->FontName, u"Arial Narrow"_s);
         QVERIFY(form.Pic->Image() == form.Image1);
         QCOMPARE(form.Image1.size(), QSize(123, 123));
     }
@@ -137,7 +139,7 @@ private slots:
         VakForm form;
         form.VakjeTonen(9);
         QVERIFY(form.ImgR->isHidden() && form.ImgO->isHidden());
-        QCOMPARE(form.Label2->Caption(), QStringLiteral("9"));
+        QCOMPARE(form.Label2->Caption(), u"9"_s);
         QCOMPARE(PijlSoort, quint8(9));
         form.OkKnop_Click();
         QVERIFY(form.Unloaded());
@@ -148,8 +150,8 @@ private slots:
         Bord bord;
         VakForm form;
         form.HScroll1->setValue(5);
-        form.Text1->SetText(QStringLiteral("getypt"));
-        QCOMPARE(form.Label3->Caption(), QStringLiteral("getypt"));
+        form.Text1->SetText(u"getypt"_s);
+        QCOMPARE(form.Label3->Caption(), u"getypt"_s);
         form.HScroll1->setValue(1);
         QVERIFY(form.Text1->Text().isEmpty());
         QVERIFY(form.Label3->Caption().isEmpty());
@@ -161,7 +163,7 @@ private slots:
         Bord bord;
         VakForm form;
         form.HScroll1->setValue(5);
-        QCOMPARE(form.Label1->Caption(), QStringLiteral("Omschrijving"));
+        QCOMPARE(form.Label1->Caption(), u"Omschrijving"_s);
     }
 
     void typingShowsTextAndLineCount_data()
@@ -189,7 +191,7 @@ private slots:
         QCOMPARE(form.Label3->font().pixelSize(), 16);
         QVERIFY(form.Label3->font().bold());
         form.Text1->SetText(QString());
-        QCOMPARE(form.Label1->Caption(), QStringLiteral("Regel 1"));
+        QCOMPARE(form.Label1->Caption(), u"Regel 1"_s);
     }
 
     void theEightKindsOnTheLargeBoard_data()
@@ -222,7 +224,7 @@ private slots:
         Plaats(bord, 2, 3, soort, QString());
         const QPoint oorsprong(2 * 120 + 3, 3 * 120 + 3);
         const QImage groot = bord.Groot();
-        const QImage strook = Plaatjes::Beeld(QStringLiteral("pijlen"));
+        const QImage strook = Plaatjes::Beeld(u"pijlen"_s);
 
         // The box: 0..116 from the inside of the cell, whole but for the divider.
         for (int y = 0; y <= 116; ++y)
@@ -268,7 +270,7 @@ private slots:
         QFETCH(QRect, rechts);
         QFETCH(QRect, omlaag);
         Bord bord;
-        Plaats(bord, 2, 3, soort, QStringLiteral("tekst"));
+        Plaats(bord, 2, 3, soort, u"tekst"_s);
         const QImage pic = bord.Pic();
         QCOMPARE(InktVlak(pic, Binnen(2, 3), qRgb(229, 248, 194)), QRect());
         const auto controleer = [&](QRect verwacht, QRect cel) {
@@ -276,11 +278,8 @@ private slots:
             if (verwacht.isNull())
                 QVERIFY(inkt.isEmpty());
             else
-                QVERIFY2(!inkt.isEmpty() && verwacht.contains(inkt), qPrintable(QStringLiteral("%1 %2 %3 %4")
-                                                                                    .arg(inkt.x())
-                                                                                    .arg(inkt.y())
-                                                                                    .arg(inkt.right())
-                                                                                    .arg(inkt.bottom())));
+                QVERIFY2(!inkt.isEmpty() && verwacht.contains(inkt),
+                         qPrintable(u"%1 %2 %3 %4"_s.arg(inkt.x()).arg(inkt.y()).arg(inkt.right()).arg(inkt.bottom())));
         };
         controleer(rechts, Binnen(3, 3));
         controleer(omlaag, Binnen(2, 4));
@@ -303,7 +302,7 @@ private slots:
         QFETCH(QRgb, kleur);
         Bord bord;
         KleurVakjes = static_cast<quint8>(keuze);
-        Plaats(bord, 2, 3, 1, QStringLiteral("tekst"));
+        Plaats(bord, 2, 3, 1, u"tekst"_s);
         QCOMPARE(bord.Pic().pixel(2 * 30 + 15, 3 * 30 + 15), kleur);
         QVERIFY(HeeftInkt(bord.Groot(), BinnenGroot(2, 3)));
     }
@@ -339,15 +338,13 @@ private slots:
         QFETCH(int, eerste);
         Bord bord;
         OrgineelRood = OrgineelGroen = OrgineelBlauw = 255;
-        Plaats(bord, 2, 3, soort, QStringList(QStringList(regels, QStringLiteral("e"))).join(QStringLiteral("\r\n")));
+        Plaats(bord, 2, 3, soort, QStringList(QStringList(regels, u"e"_s)).join(u"\r\n"_s));
         const QImage groot = bord.Groot();
-        const double w =
-            15.0 * std::ceil(QFontMetricsF(Lettertype(QStringLiteral("Arial"), 13, true)).horizontalAdvance(u'E'));
+        const double w = 15.0 * std::ceil(QFontMetricsF(Lettertype(u"Arial"_s, 13, true)).horizontalAdvance(u'E'));
         const int x = Twips::NaarPixels(2 * 1800 + 45 + std::nearbyint((1800 - w) / 2) + 75);
         for (int i = 0; i < regels; ++i) {
             const int y = Twips::NaarPixels(3 * 1800 + 45 + eerste + i * 300);
-            const QImage los =
-                Gedrukt(groot.size(), QStringLiteral("E"), x, y, QStringLiteral("Arial Narrow"), 13, true, Zwart);
+            const QImage los = Gedrukt(groot.size(), u"E"_s, x, y, u"Arial Narrow"_s, 13, true, Zwart);
             const QRect cel = BinnenGroot(2, y < 4 * 120 ? 3 : 4); // a line that starts higher reaches into the frame
             const QRect letter = InktVlak(los, QRect(x, y, 20, 20) & cel);
             const bool opDeling = soort > 4 && letter.bottom() >= 3 * 120 + 61 && letter.top() <= 3 * 120 + 63;
@@ -359,10 +356,10 @@ private slots:
     void aBreakAtTheEndPrintsNoInk()
     {
         Bord bord;
-        Plaats(bord, 2, 3, 1, QStringLiteral("spin"));
+        Plaats(bord, 2, 3, 1, u"spin"_s);
         const QImage zonder = bord.Groot();
         bord.Begin(Zweeds, 16, 19);
-        Plaats(bord, 2, 3, 1, QStringLiteral("spin\r\n"));
+        Plaats(bord, 2, 3, 1, u"spin\r\n"_s);
         QVERIFY(bord.Groot() == zonder);
     }
 
@@ -370,7 +367,7 @@ private slots:
     {
         Bord bord;
         VakForm form;
-        form.Text1->SetText(QStringLiteral("een\r\ntwee\r\n"));
+        form.Text1->SetText(u"een\r\ntwee\r\n"_s);
         qint32 y = 45;
         form.TekstPlaatsen(*bord.Venster.PicGroot, 45, y);
         QCOMPARE(y, 45 + 4 * 300); // three lines, and the one that stays empty
@@ -380,13 +377,13 @@ private slots:
     {
         Bord bord;
         OrgineelRood = OrgineelGroen = OrgineelBlauw = 255;
-        const QString woord = QStringLiteral("huisdier");
+        const QString woord = u"huisdier"_s;
         Plaats(bord, 2, 3, 1, woord);
-        const QFontMetricsF arial(Lettertype(QStringLiteral("Arial"), 13, true));
+        const QFontMetricsF arial(Lettertype(u"Arial"_s, 13, true));
         const double w = 15.0 * std::ceil(arial.horizontalAdvance(woord.toUpper()));
         const int x = Twips::NaarPixels(2 * 1800 + 45 + std::nearbyint((1800 - w) / 2) + 75);
-        const QImage los = Gedrukt(bord.Groot().size(), woord.toUpper(), x, 3 * 120 + 3, QStringLiteral("Arial Narrow"),
-                                   13, true, Zwart);
+        const QImage los =
+            Gedrukt(bord.Groot().size(), woord.toUpper(), x, 3 * 120 + 3, u"Arial Narrow"_s, 13, true, Zwart);
         QCOMPARE(InktVlak(bord.Groot(), BinnenGroot(2, 3)), InktVlak(los, BinnenGroot(2, 3)));
         QVERIFY(bord.Groot().copy(BinnenGroot(2, 3)) == los.copy(BinnenGroot(2, 3)));
     }
@@ -398,7 +395,7 @@ private slots:
         QVERIFY(PuzzelGewijzigd);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
         const PictureBox &groot = *bord.Venster.PicGroot;
-        QCOMPARE(groot.FontName, QStringLiteral("Arial Narrow"));
+        QCOMPARE(groot.FontName, u"Arial Narrow"_s);
         QCOMPARE(groot.FontSize, 13.0);
         QVERIFY(groot.FontBold);
         QCOMPARE(groot.ForeColor, Zwart);
@@ -410,7 +407,7 @@ private slots:
     void anArrowBeyondTheEdgeIsClipped()
     {
         Bord bord;
-        Plaats(bord, 15, 18, 8, QStringLiteral("rand"));
+        Plaats(bord, 15, 18, 8, u"rand"_s);
         QCOMPARE(bord.Groot().size(), QSize(1923, 2283));
         QVERIFY(HeeftInkt(bord.Groot(), BinnenGroot(15, 18)));
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
@@ -419,7 +416,7 @@ private slots:
     void aClueOfTenThousandCharacters()
     {
         Bord bord;
-        Plaats(bord, 2, 3, 1, QStringLiteral("raadsel ").repeated(1250));
+        Plaats(bord, 2, 3, 1, u"raadsel "_s.repeated(1250));
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(HeeftInkt(bord.Groot(), BinnenGroot(2, 18)));
     }
@@ -443,7 +440,7 @@ private slots:
         Bord bord;
         const QImage pic = bord.Pic(), groot = bord.Groot();
         VakForm form;
-        form.Text1->SetText(QStringLiteral("tekst"));
+        form.Text1->SetText(u"tekst"_s);
         form.CancelKnop_Click();
         QVERIFY(form.Unloaded());
         QVERIFY(bord.Pic() == pic);
@@ -473,7 +470,7 @@ private slots:
         QFETCH(QPoint, punt);
         QFETCH(QPoint, leeg);
         const QImage beeld = Glyph(static_cast<Pijl>(pijl));
-        QCOMPARE(Plaatjes::Beeld(QStringLiteral("pijlen")).size(), QSize(92, 23));
+        QCOMPARE(Plaatjes::Beeld(u"pijlen"_s).size(), QSize(92, 23));
         QCOMPARE(beeld.pixel(begin), Zwart);
         QVERIFY(qGray(beeld.pixel(punt)) < 128);
         QCOMPARE(beeld.pixel(leeg), Wit);
@@ -483,7 +480,7 @@ private slots:
 
     void theTileStripIsWhiteOutsideCellsAndArrows()
     {
-        const QImage strook = Plaatjes::Beeld(QStringLiteral("vakjes"));
+        const QImage strook = Plaatjes::Beeld(u"vakjes"_s);
         QCOMPARE(strook.size(), QSize(344, 43));
         for (int soort = 0; soort < 8; ++soort) {
             const int x = soort * 43;

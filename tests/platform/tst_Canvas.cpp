@@ -8,6 +8,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 static constexpr QRgb Wit = qRgb(255, 255, 255);
 static constexpr QRgb Rood = qRgb(255, 0, 0);
 
@@ -29,7 +31,7 @@ class TestCanvas : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void theFontIsTheOneMeant_data();
     void theFontIsTheOneMeant();
@@ -56,10 +58,10 @@ void TestCanvas::theFontIsTheOneMeant_data()
 {
     QTest::addColumn<QString>("naam");
     QTest::addColumn<QString>("familie");
-    QTest::newRow("Arial") << QStringLiteral("Arial") << QStringLiteral("Liberation Sans");
-    QTest::newRow("Arial Narrow") << QStringLiteral("Arial Narrow") << QStringLiteral("Liberation Sans Narrow");
-    QTest::newRow("Courier New") << QStringLiteral("Courier New") << QStringLiteral("Liberation Mono");
-    QTest::newRow("its own name") << QStringLiteral("Liberation Mono") << QStringLiteral("Liberation Mono");
+    QTest::newRow("Arial") << u"Arial"_s << u"Liberation Sans"_s;
+    QTest::newRow("Arial Narrow") << u"Arial Narrow"_s << u"Liberation Sans Narrow"_s;
+    QTest::newRow("Courier New") << u"Courier New"_s << u"Liberation Mono"_s;
+    QTest::newRow("its own name") << u"Liberation Mono"_s << u"Liberation Mono"_s;
 }
 
 void TestCanvas::theFontIsTheOneMeant()
@@ -92,14 +94,14 @@ void TestCanvas::aSizeInPointsIsRoundedToPixels_data()
 void TestCanvas::aSizeInPointsIsRoundedToPixels()
 {
     QFETCH(double, punten);
-    QTEST(Lettertype(QStringLiteral("Arial"), punten, false).pixelSize(), "pixels");
-    QTEST(QFontInfo(Lettertype(QStringLiteral("Arial"), punten, true)).pixelSize(), "pixels");
+    QTEST(Lettertype(u"Arial"_s, punten, false).pixelSize(), "pixels");
+    QTEST(QFontInfo(Lettertype(u"Arial"_s, punten, true)).pixelSize(), "pixels");
 }
 
 void TestCanvas::aNewCanvasWritesSmallBlackArial()
 {
     const Doek doek;
-    QCOMPARE(doek.FontName, QStringLiteral("Arial"));
+    QCOMPARE(doek.FontName, u"Arial"_s);
     QCOMPARE(doek.FontSize, 8.25);
     QVERIFY(!doek.FontBold);
     QCOMPARE(doek.ForeColor, qRgb(0, 0, 0));
@@ -124,7 +126,7 @@ void TestCanvas::theInkStaysInsideItsCell()
     QFETCH(QString, naam);
     QFETCH(double, punten);
     QFETCH(bool, vet);
-    for (const QString &tekst : {QStringLiteral("Hg"), QStringLiteral("\u00CBjW"), QStringLiteral("i")}) {
+    for (const QString &tekst : {u"Hg"_s, u"\u00CBjW"_s, u"i"_s}) {
         Doek doek;
         doek.FontName = naam;
         doek.FontSize = punten;
@@ -147,18 +149,18 @@ void TestCanvas::theCellIsThatOfTheFont()
     Doek doek;
     doek.FontSize = 12;
     doek.FontBold = true;
-    const QFontMetricsF maten(Lettertype(QStringLiteral("Arial"), 12, true));
-    QCOMPARE(doek.TextWidth(QStringLiteral("Raster")), maten.horizontalAdvance(QStringLiteral("Raster")) * 15);
+    const QFontMetricsF maten(Lettertype(u"Arial"_s, 12, true));
+    QCOMPARE(doek.TextWidth(u"Raster"_s), maten.horizontalAdvance(u"Raster"_s) * 15);
     QCOMPARE(doek.TextWidth(QString()), 0.0);
-    QCOMPARE(doek.TextHeight(QStringLiteral("Raster")), std::round(maten.ascent() + maten.descent()) * 15);
-    QCOMPARE(doek.TextHeight(QString()), doek.TextHeight(QStringLiteral("Raster")));
+    QCOMPARE(doek.TextHeight(u"Raster"_s), std::round(maten.ascent() + maten.descent()) * 15);
+    QCOMPARE(doek.TextHeight(QString()), doek.TextHeight(u"Raster"_s));
     QVERIFY(doek.TextHeight(QString()) >= 16 * 15);
     QVERIFY(doek.TextHeight(QString()) <= 20 * 15);
 }
 
 void TestCanvas::anotherFontCountsAtOnce()
 {
-    const QString tekst = QStringLiteral("Raster");
+    const QString tekst = u"Raster"_s;
     Doek doek;
     const auto breedte = [&](const QString &naam, double punten, bool vet) {
         doek.FontName = naam;
@@ -169,7 +171,7 @@ void TestCanvas::anotherFontCountsAtOnce()
     const auto gemeten = [&](const QString &naam, double punten, bool vet) {
         return QFontMetricsF(Lettertype(naam, punten, vet)).horizontalAdvance(tekst);
     };
-    const QString arial = QStringLiteral("Arial"), smal = QStringLiteral("Arial Narrow");
+    const QString arial = u"Arial"_s, smal = u"Arial Narrow"_s;
     QCOMPARE(breedte(arial, 12, false), gemeten(arial, 12, false));
     QCOMPARE(breedte(arial, 24, false), gemeten(arial, 24, false));
     QCOMPARE(breedte(arial, 24, true), gemeten(arial, 24, true));
@@ -180,7 +182,7 @@ void TestCanvas::anotherFontCountsAtOnce()
 
 void TestCanvas::theCellIsInTheUnitsOfTheSurface()
 {
-    const QString tekst = QStringLiteral("Raster");
+    const QString tekst = u"Raster"_s;
     Doek twips, pixels(ScaleModes::Pixels);
     QCOMPARE(pixels.TextWidth(tekst) * 15, twips.TextWidth(tekst));
     QCOMPARE(pixels.TextHeight(tekst) * 15, twips.TextHeight(tekst));
@@ -199,7 +201,7 @@ void TestCanvas::textHasTheForeColor()
     Doek doek;
     doek.FontSize = 48;
     doek.ForeColor = Rood;
-    doek.Print(QStringLiteral("I"));
+    doek.Print(u"I"_s);
     bool vol = false;
     const QImage beeld = doek.Image();
     for (int y = 0; y < beeld.height(); ++y)
@@ -214,7 +216,7 @@ void TestCanvas::textIsSmoothedInGrey()
 {
     Doek doek;
     doek.FontSize = 24;
-    doek.Print(QStringLiteral("Sudoku WOZ"));
+    doek.Print(u"Sudoku WOZ"_s);
     bool grijs = false;
     const QImage beeld = doek.Image();
     for (int y = 0; y < beeld.height(); ++y)
@@ -232,8 +234,8 @@ void TestCanvas::printingGoesToTheNextLine()
     Doek doek;
     doek.CurrentX = 1500;
     doek.CurrentY = 300;
-    const double regel = doek.TextHeight(QStringLiteral("a"));
-    doek.Print(QStringLiteral("a"));
+    const double regel = doek.TextHeight(u"a"_s);
+    doek.Print(u"a"_s);
     QCOMPARE(doek.CurrentX, 0.0);
     QCOMPARE(doek.CurrentY, 300 + regel);
     doek.CurrentX = 1500;
@@ -247,10 +249,10 @@ void TestCanvas::printingGoesToTheNextLine()
 void TestCanvas::linesBelowEachOtherDoNotTouch()
 {
     Doek doek;
-    const int hoog = static_cast<int>(doek.TextHeight(QStringLiteral("H")) / 15);
-    doek.Print(QStringLiteral("H"));
+    const int hoog = static_cast<int>(doek.TextHeight(u"H"_s) / 15);
+    doek.Print(u"H"_s);
     const QRect eerste = doek.Inkt();
-    doek.Print(QStringLiteral("H"));
+    doek.Print(u"H"_s);
     QCOMPARE(doek.Inkt(), eerste.united(eerste.translated(0, hoog)));
     QVERIFY(!HeeftInkt(doek.Image(), QRect(0, eerste.bottom() + 1, 400, hoog - eerste.height())));
 }
@@ -261,11 +263,11 @@ void TestCanvas::aNumberLeavesRoomForItsSign()
     for (Doek *doek : {&getal, &tekst, &metBlanco})
         doek->FontSize = 24;
     getal.Print(5);
-    tekst.Print(QStringLiteral("5"));
-    metBlanco.Print(QStringLiteral(" 5"));
+    tekst.Print(u"5"_s);
+    metBlanco.Print(u" 5"_s);
     QCOMPARE(getal.Image(), metBlanco.Image());
     const double verschil = getal.Inkt().left() - tekst.Inkt().left();
-    QVERIFY(std::abs(verschil - getal.TextWidth(QStringLiteral(" ")) / 15) <= 1);
+    QVERIFY(std::abs(verschil - getal.TextWidth(u" "_s) / 15) <= 1);
     QVERIFY(verschil >= 5);
 }
 
@@ -273,7 +275,7 @@ void TestCanvas::aNegativeNumberHasItsSign()
 {
     Doek getal, tekst;
     getal.Print(-12);
-    tekst.Print(QStringLiteral("-12"));
+    tekst.Print(u"-12"_s);
     QVERIFY(HeeftInkt(tekst.Image(), tekst.rect()));
     QCOMPARE(getal.Image(), tekst.Image());
 }
@@ -285,12 +287,12 @@ void TestCanvas::textOutsideTheSurfaceIsLeftOut()
         for (const double y : {-1e6, 0.0, 1e6}) {
             doek.CurrentX = x;
             doek.CurrentY = y;
-            doek.Print(QStringLiteral("Raster"));
+            doek.Print(u"Raster"_s);
         }
     QCOMPARE(doek.Inkt(), QRect());
     doek.CurrentX = -30;
     doek.CurrentY = -30;
-    doek.Print(QStringLiteral("W"));
+    doek.Print(u"W"_s);
     QVERIFY(!doek.Inkt().isEmpty());
 }
 

@@ -12,6 +12,8 @@
 #include <optional>
 #include <sys/resource.h>
 
+using namespace Qt::StringLiterals;
+
 /// As long as it lives no file of this process can grow beyond so many bytes, as if the disk were full.
 class VolleSchijf
 {
@@ -103,7 +105,7 @@ private slots:
 
 private:
     QString Map() const { return bank_->Map(); }
-    QString Volledig(const char *naam) const { return Map() + QLatin1Char('/') + QLatin1String(naam); }
+    QString Volledig(const char *naam) const { return Map() + u'/' + QLatin1String(naam); }
 
     std::optional<Testbank> bank_;
 };
@@ -115,14 +117,14 @@ void TestFiles::textIsCodePage1252_data()
     QTest::addColumn<QString>("tekst");
     QTest::addColumn<QByteArray>("bytes");
     QTest::newRow("empty") << QString() << QByteArray();
-    QTest::newRow("plain") << QStringLiteral("Zweeds 12!") << QByteArray("Zweeds 12!");
-    QTest::newRow("registered") << QStringLiteral("a\u00AEb")
+    QTest::newRow("plain") << u"Zweeds 12!"_s << QByteArray("Zweeds 12!");
+    QTest::newRow("registered") << u"a\u00AEb"_s
                                 << QByteArray("a\xAE"
                                               "b");
-    QTest::newRow("euro") << QStringLiteral("\u20AC") << QByteArray("\x80");
-    QTest::newRow("e with dots") << QStringLiteral("geti\u00EBnd") << QByteArray("geti\xEBnd");
-    QTest::newRow("curly quotes") << QStringLiteral("\u201Eja\u201D") << QByteArray("\x84ja\x94");
-    QTest::newRow("line end and tab") << QStringLiteral("a\r\n\tb") << QByteArray("a\r\n\tb");
+    QTest::newRow("euro") << u"\u20AC"_s << QByteArray("\x80");
+    QTest::newRow("e with dots") << u"geti\u00EBnd"_s << QByteArray("geti\xEBnd");
+    QTest::newRow("curly quotes") << u"\u201Eja\u201D"_s << QByteArray("\x84ja\x94");
+    QTest::newRow("line end and tab") << u"a\r\n\tb"_s << QByteArray("a\r\n\tb");
 }
 
 void TestFiles::textIsCodePage1252()
@@ -135,8 +137,8 @@ void TestFiles::textIsCodePage1252()
 
 void TestFiles::aCharacterOutsideTheCodePageBecomesAQuestionMark()
 {
-    QCOMPARE(Files::NaarBytes(QStringLiteral("a\u0142b")), QByteArray("a?b"));
-    QCOMPARE(Files::NaarBytes(QStringLiteral("\u03A9\u4E2D")), QByteArray("??"));
+    QCOMPARE(Files::NaarBytes(u"a\u0142b"_s), QByteArray("a?b"));
+    QCOMPARE(Files::NaarBytes(u"\u03A9\u4E2D"_s), QByteArray("??"));
 }
 
 void TestFiles::everyByteGivesOneCharacter()
@@ -157,32 +159,28 @@ void TestFiles::everyByteGivesOneCharacter()
 
 void TestFiles::aPathIgnoresCaseAndKeepsTheStoredSpelling()
 {
-    QVERIFY(QDir(Map()).mkdir(QStringLiteral("Woordlijsten")));
-    bank_->Schrijf(QStringLiteral("Woordlijsten/Steden.LST"), "x");
-    QCOMPARE(Files::Pad(Map(), {QStringLiteral("WOORDlijsten"), QStringLiteral("sTEDEN.lst")}),
-             Map() + QStringLiteral("/Woordlijsten/Steden.LST"));
-    QCOMPARE(Files::Dir(Files::Pad(Map(), {QStringLiteral("woordlijsten"), QStringLiteral("steden.lst")})),
-             QStringLiteral("Steden.LST"));
-    QCOMPARE(Files::Pad(Map(), {QStringLiteral("woordlijsten"), QStringLiteral("Nieuw.lst")}),
-             Map() + QStringLiteral("/Woordlijsten/Nieuw.lst"));
+    QVERIFY(QDir(Map()).mkdir(u"Woordlijsten"_s));
+    bank_->Schrijf(u"Woordlijsten/Steden.LST"_s, "x");
+    QCOMPARE(Files::Pad(Map(), {u"WOORDlijsten"_s, u"sTEDEN.lst"_s}), Map() + u"/Woordlijsten/Steden.LST"_s);
+    QCOMPARE(Files::Dir(Files::Pad(Map(), {u"woordlijsten"_s, u"steden.lst"_s})), u"Steden.LST"_s);
+    QCOMPARE(Files::Pad(Map(), {u"woordlijsten"_s, u"Nieuw.lst"_s}), Map() + u"/Woordlijsten/Nieuw.lst"_s);
 }
 
 void TestFiles::aNameWithItsOwnSpellingIsPreferred()
 {
-    bank_->Schrijf(QStringLiteral("AAP.txt"), "groot");
-    bank_->Schrijf(QStringLiteral("aap.txt"), "klein");
-    QCOMPARE(Files::Lees(Files::Pad(Map(), {QStringLiteral("aap.txt")})), QByteArray("klein"));
-    QCOMPARE(Files::Lees(Files::Pad(Map(), {QStringLiteral("AAP.txt")})), QByteArray("groot"));
+    bank_->Schrijf(u"AAP.txt"_s, "groot");
+    bank_->Schrijf(u"aap.txt"_s, "klein");
+    QCOMPARE(Files::Lees(Files::Pad(Map(), {u"aap.txt"_s})), QByteArray("klein"));
+    QCOMPARE(Files::Lees(Files::Pad(Map(), {u"AAP.txt"_s})), QByteArray("groot"));
 }
 
 void TestFiles::aNewFileTakesTheNameGiven()
 {
-    const QString pad = Files::Pad(Map(), {QStringLiteral("Mijn Puzzel.frt")});
-    QCOMPARE(pad, Map() + QStringLiteral("/Mijn Puzzel.frt"));
+    const QString pad = Files::Pad(Map(), {u"Mijn Puzzel.frt"_s});
+    QCOMPARE(pad, Map() + u"/Mijn Puzzel.frt"_s);
     QVERIFY(!Files::FileExists(pad));
     QCOMPARE(Files::Pad(Map(), {}), Map());
-    QCOMPARE(Files::Pad(Map() + QStringLiteral("/er niet"), {QStringLiteral("A"), QStringLiteral("b")}),
-             Map() + QStringLiteral("/er niet/A/b"));
+    QCOMPARE(Files::Pad(Map() + u"/er niet"_s, {u"A"_s, u"b"_s}), Map() + u"/er niet/A/b"_s);
 }
 
 void TestFiles::aNameThatCouldLeaveTheFolderIsRefused_data()
@@ -192,16 +190,16 @@ void TestFiles::aNameThatCouldLeaveTheFolderIsRefused_data()
     for (const char *naam : {".", "..", "a/b", "../b", "/", "a\\b", "a<", "a>", "c:a", "\"a", "a|b", "a?", "*.lst"})
         QTest::newRow(naam) << QString::fromLatin1(naam);
     for (int code = 0; code < 32; ++code)
-        QTest::addRow("control character %d", code) << QStringLiteral("a") + QChar(code) + QStringLiteral("b");
-    QTest::newRow("control character 127") << QStringLiteral("a") + QChar(127);
+        QTest::addRow("control character %d", code) << u"a"_s + QChar(code) + u"b"_s;
+    QTest::newRow("control character 127") << u"a"_s + QChar(127);
 }
 
 void TestFiles::aNameThatCouldLeaveTheFolderIsRefused()
 {
     QFETCH(QString, naam);
     QCOMPARE(FoutVan([&] { Files::Pad(Map(), {naam}); }), int{Fout::OngeldigeNaam});
-    QCOMPARE(FoutVan([&] { Files::Pad(Map(), {naam, QStringLiteral("a")}); }), int{Fout::OngeldigeNaam});
-    QCOMPARE(FoutVan([&] { Files::Pad(Map(), {QStringLiteral("Puzzels"), naam}); }), int{Fout::OngeldigeNaam});
+    QCOMPARE(FoutVan([&] { Files::Pad(Map(), {naam, u"a"_s}); }), int{Fout::OngeldigeNaam});
+    QCOMPARE(FoutVan([&] { Files::Pad(Map(), {u"Puzzels"_s, naam}); }), int{Fout::OngeldigeNaam});
 }
 
 void TestFiles::anOrdinaryNameIsTaken_data()
@@ -209,7 +207,7 @@ void TestFiles::anOrdinaryNameIsTaken_data()
     QTest::addColumn<QString>("naam");
     for (const char *naam : {"a", "a b", "a.b.c", "...", ".a", "a'b", "a & b, (c) [d] {e} #1 100% ~$!@^+=;"})
         QTest::newRow(naam) << QString::fromLatin1(naam);
-    QTest::newRow("accents") << QStringLiteral("caf\u00E9 \u20AC");
+    QTest::newRow("accents") << u"caf\u00E9 \u20AC"_s;
 }
 
 void TestFiles::anOrdinaryNameIsTaken()
@@ -223,9 +221,9 @@ void TestFiles::anOrdinaryNameIsTaken()
 
 void TestFiles::aFolderIsNoFile()
 {
-    bank_->Schrijf(QStringLiteral("Aap.txt"), "");
+    bank_->Schrijf(u"Aap.txt"_s, "");
     QVERIFY(Files::FileExists(Volledig("Aap.txt")));
-    QCOMPARE(Files::Dir(Volledig("Aap.txt")), QStringLiteral("Aap.txt"));
+    QCOMPARE(Files::Dir(Volledig("Aap.txt")), u"Aap.txt"_s);
     QVERIFY(!Files::FileExists(Volledig("Noot.txt")));
     QCOMPARE(Files::Dir(Volledig("Noot.txt")), QString());
     QVERIFY(!Files::FileExists(Volledig("Puzzels")));
@@ -236,17 +234,17 @@ void TestFiles::theListMatchesAndSortsIgnoringCase()
 {
     for (const char *naam : {"b.lst", "A.LST", "C.Lst", "d.txt", "lst", "a.lst.bak"})
         bank_->Schrijf(QLatin1String(naam), "");
-    QVERIFY(QDir(Map()).mkdir(QStringLiteral("map.lst")));
-    QCOMPARE(Files::Lijst(Map(), QStringLiteral("*.lst")), (QStringList{"A.LST", "b.lst", "C.Lst"}));
-    QCOMPARE(Files::Lijst(Map(), QStringLiteral("*.LST")), (QStringList{"A.LST", "b.lst", "C.Lst"}));
-    QCOMPARE(Files::Lijst(Map(), QStringLiteral("*.frt")), QStringList());
-    QCOMPARE(Files::Lijst(Map() + QStringLiteral("/er niet"), QStringLiteral("*")), QStringList());
+    QVERIFY(QDir(Map()).mkdir(u"map.lst"_s));
+    QCOMPARE(Files::Lijst(Map(), u"*.lst"_s), (QStringList{"A.LST", "b.lst", "C.Lst"}));
+    QCOMPARE(Files::Lijst(Map(), u"*.LST"_s), (QStringList{"A.LST", "b.lst", "C.Lst"}));
+    QCOMPARE(Files::Lijst(Map(), u"*.frt"_s), QStringList());
+    QCOMPARE(Files::Lijst(Map() + u"/er niet"_s, u"*"_s), QStringList());
 }
 
 void TestFiles::killRemovesAFile()
 {
-    bank_->Schrijf(QStringLiteral("a.txt"), "x");
-    bank_->Schrijf(QStringLiteral("b.txt"), "x");
+    bank_->Schrijf(u"a.txt"_s, "x");
+    bank_->Schrijf(u"b.txt"_s, "x");
     Files::Kill(Volledig("a.txt"));
     QCOMPARE(bank_->Bestanden({}), QStringList{"b.txt"});
     QCOMPARE(FoutVan([&] { Files::Kill(Volledig("a.txt")); }), int{Fout::BestandNietGevonden});
@@ -268,9 +266,9 @@ void TestFiles::aFileIsReadWhole()
 {
     QByteArray inhoud("a\0b\r\n\x1A\xFF", 7);
     inhoud += QByteArray(100000, 'z');
-    bank_->Schrijf(QStringLiteral("a.bin"), inhoud);
+    bank_->Schrijf(u"a.bin"_s, inhoud);
     QCOMPARE(Files::Lees(Volledig("a.bin")), inhoud);
-    bank_->Schrijf(QStringLiteral("leeg"), "");
+    bank_->Schrijf(u"leeg"_s, "");
     QCOMPARE(Files::Lees(Volledig("leeg")), QByteArray());
 }
 
@@ -293,7 +291,7 @@ void TestFiles::aFileIsWrittenByteForByte()
 {
     const QByteArray inhoud("a\0b\n\r\n\xFF", 7);
     Files::Schrijf(Volledig("a.bin"), inhoud);
-    QCOMPARE(bank_->Inhoud(QStringLiteral("a.bin")), inhoud);
+    QCOMPARE(bank_->Inhoud(u"a.bin"_s), inhoud);
     Files::Schrijf(Volledig("leeg"), {});
     QCOMPARE(QFileInfo(Volledig("leeg")).size(), 0);
     QCOMPARE(bank_->Bestanden({}), (QStringList{"a.bin", "leeg"}));
@@ -301,9 +299,9 @@ void TestFiles::aFileIsWrittenByteForByte()
 
 void TestFiles::aWrittenFileReplacesTheOldOne()
 {
-    bank_->Schrijf(QStringLiteral("a.txt"), "een veel langere oude inhoud");
+    bank_->Schrijf(u"a.txt"_s, "een veel langere oude inhoud");
     Files::Schrijf(Volledig("a.txt"), "nieuw");
-    QCOMPARE(bank_->Inhoud(QStringLiteral("a.txt")), QByteArray("nieuw"));
+    QCOMPARE(bank_->Inhoud(u"a.txt"_s), QByteArray("nieuw"));
     QCOMPARE(bank_->Bestanden({}), QStringList{"a.txt"});
 }
 
@@ -316,14 +314,14 @@ void TestFiles::aFileInAMissingFolderCannotBeWritten()
 
 void TestFiles::aWriteThatFailsHalfwayKeepsTheOldFile()
 {
-    bank_->Schrijf(QStringLiteral("a.txt"), "oud");
+    bank_->Schrijf(u"a.txt"_s, "oud");
     int nummer = 0;
     {
         const VolleSchijf vol(5000);
         nummer = FoutVan([&] { Files::Schrijf(Volledig("a.txt"), QByteArray(100000, 'x')); });
     }
     QCOMPARE(nummer, int{Fout::SchijfFout});
-    QCOMPARE(bank_->Inhoud(QStringLiteral("a.txt")), QByteArray("oud"));
+    QCOMPARE(bank_->Inhoud(u"a.txt"_s), QByteArray("oud"));
     QCOMPARE(bank_->Bestanden({}), QStringList{"a.txt"});
 }
 
@@ -340,22 +338,22 @@ void TestFiles::aWriteThatFailsHalfwayLeavesNoNewFile()
 
 void TestFiles::renamingChangesOnlyTheName()
 {
-    bank_->Schrijf(QStringLiteral("Puzzels/a.txt"), "x");
-    Files::Hernoem(Volledig("Puzzels/a.txt"), QStringLiteral("b.txt"));
-    QCOMPARE(bank_->Bestanden(QStringLiteral("Puzzels")), QStringList{"b.txt"});
-    QCOMPARE(bank_->Inhoud(QStringLiteral("Puzzels/b.txt")), QByteArray("x"));
+    bank_->Schrijf(u"Puzzels/a.txt"_s, "x");
+    Files::Hernoem(Volledig("Puzzels/a.txt"), u"b.txt"_s);
+    QCOMPARE(bank_->Bestanden(u"Puzzels"_s), QStringList{"b.txt"});
+    QCOMPARE(bank_->Inhoud(u"Puzzels/b.txt"_s), QByteArray("x"));
 }
 
 void TestFiles::renamingCanChangeTheCaseAlone()
 {
-    bank_->Schrijf(QStringLiteral("puzzel.frt"), "x");
-    Files::Hernoem(Volledig("puzzel.frt"), QStringLiteral("Puzzel.FRT"));
+    bank_->Schrijf(u"puzzel.frt"_s, "x");
+    Files::Hernoem(Volledig("puzzel.frt"), u"Puzzel.FRT"_s);
     QCOMPARE(bank_->Bestanden({}), QStringList{"Puzzel.FRT"});
 }
 
 void TestFiles::renamingAMissingFileFails()
 {
-    QCOMPARE(FoutVan([&] { Files::Hernoem(Volledig("er niet"), QStringLiteral("b")); }), int{Fout::GeenToegang});
+    QCOMPARE(FoutVan([&] { Files::Hernoem(Volledig("er niet"), u"b"_s); }), int{Fout::GeenToegang});
     QCOMPARE(bank_->Bestanden({}), QStringList());
 }
 
@@ -452,7 +450,7 @@ void TestFiles::aBitmapFileHasThirtyTwoBits()
 {
     QFETCH(int, vorm);
     Files::SavePicture(BontBeeld().convertToFormat(static_cast<QImage::Format>(vorm)), Volledig("a.bmp"));
-    const QByteArray bytes = bank_->Inhoud(QStringLiteral("a.bmp"));
+    const QByteArray bytes = bank_->Inhoud(u"a.bmp"_s);
     QVERIFY(bytes.startsWith("BM"));
     QCOMPARE(int(qFromLittleEndian<quint16>(bytes.constData() + 28)), 32);
     const qsizetype begin = qFromLittleEndian<qint32>(bytes.constData() + 10);
@@ -490,7 +488,7 @@ void TestFiles::whatIsNoBitmapGivesNoPicture_data()
 void TestFiles::whatIsNoBitmapGivesNoPicture()
 {
     QFETCH(QByteArray, bytes);
-    bank_->Schrijf(QStringLiteral("a.bmp"), bytes);
+    bank_->Schrijf(u"a.bmp"_s, bytes);
     QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::OngeldigeAfbeelding});
 }
 
@@ -508,13 +506,13 @@ void TestFiles::aBitmapCutOffAnywhereGivesNoPicture_data()
 void TestFiles::aBitmapCutOffAnywhereGivesNoPicture()
 {
     QFETCH(QByteArray, heel);
-    bank_->Schrijf(QStringLiteral("a.bmp"), heel);
+    bank_->Schrijf(u"a.bmp"_s, heel);
     QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), 0);
     for (int lengte = 0; lengte < heel.size(); ++lengte) {
-        bank_->Schrijf(QStringLiteral("a.bmp"), heel.left(lengte));
+        bank_->Schrijf(u"a.bmp"_s, heel.left(lengte));
         const int nummer = FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); });
         QVERIFY2(nummer == Fout::OngeldigeAfbeelding,
-                 qPrintable(QStringLiteral("%1 of %2 bytes: %3").arg(lengte).arg(heel.size()).arg(nummer)));
+                 qPrintable(u"%1 of %2 bytes: %3"_s.arg(lengte).arg(heel.size()).arg(nummer)));
     }
 }
 
@@ -544,7 +542,7 @@ void TestFiles::aHeadThatLiesAboutItsSizeGivesNoPicture()
     QFETCH(int, hoogte);
     QFETCH(int, bits);
     for (const int compressie : {0, 1, 3}) {
-        bank_->Schrijf(QStringLiteral("a.bmp"), Bitmap(breedte, hoogte, bits, compressie, {}, QByteArray(280, 'x')));
+        bank_->Schrijf(u"a.bmp"_s, Bitmap(breedte, hoogte, bits, compressie, {}, QByteArray(280, 'x')));
         QVERIFY(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }) != 0);
     }
 }
@@ -557,7 +555,7 @@ void TestFiles::damagedHeadsNeverDoHarm()
         for (const char byte : {'\0', '\x01', '\x7F', '\x80', '\xFF'}) {
             QByteArray bytes = heel;
             bytes[plaats] = byte;
-            bank_->Schrijf(QStringLiteral("a.bmp"), bytes);
+            bank_->Schrijf(u"a.bmp"_s, bytes);
             try {
                 QVERIFY(!Files::LoadPicture(Volledig("a.bmp")).isNull());
             } catch (const Fout &) {
@@ -572,7 +570,7 @@ void TestFiles::aPictureAboveTheLimitIsOutOfMemory()
     // One bit a pixel: the file stays small, the picture in memory doesn't.
     constexpr int Zijde = 8200;
     static_assert(qint64{Zijde} * Zijde * 4 > Files::GrootsteInhoud);
-    bank_->Schrijf(QStringLiteral("a.bmp"),
+    bank_->Schrijf(u"a.bmp"_s,
                    Bitmap(Zijde, Zijde, 1, 0, QByteArray(8, 0), QByteArray((Zijde + 31) / 32 * 4 * Zijde, 0)));
     QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::GeheugenVol});
 }
@@ -583,7 +581,7 @@ void TestFiles::aJpegHasTheSizeOfItsBitmap()
     beeld.fill(qRgb(200, 100, 50));
     Files::SavePicture(beeld, Volledig("a.bmp"));
     Files::BmpToJpeg(Volledig("a.bmp"), Volledig("a.jpg"), 90);
-    QVERIFY(bank_->Inhoud(QStringLiteral("a.jpg")).startsWith("\xFF\xD8"));
+    QVERIFY(bank_->Inhoud(u"a.jpg"_s).startsWith("\xFF\xD8"));
     const QImage terug(Volledig("a.jpg"), "jpg");
     QCOMPARE(terug.size(), beeld.size());
     QVERIFY(std::abs(qRed(terug.pixel(25, 15)) - 200) < 10);
@@ -597,7 +595,7 @@ void TestFiles::aJpegHasTheSizeOfItsBitmap()
 
 void TestFiles::aJpegOfNoBitmapIsNotMade()
 {
-    bank_->Schrijf(QStringLiteral("a.bmp"), "BM");
+    bank_->Schrijf(u"a.bmp"_s, "BM");
     QCOMPARE(FoutVan([&] { Files::BmpToJpeg(Volledig("a.bmp"), Volledig("a.jpg"), 90); }),
              int{Fout::OngeldigeAfbeelding});
     QCOMPARE(FoutVan([&] { Files::BmpToJpeg(Volledig("b.bmp"), Volledig("a.jpg"), 90); }),
@@ -657,8 +655,8 @@ void TestFiles::textFieldsAreCodePage1252()
 {
     const QByteArray inhoud("\"\x80 5\"\r\ngeti\xEBnd");
     Files::VeldLezer lezer(inhoud);
-    QCOMPARE(lezer.Tekst(), QStringLiteral("\u20AC 5"));
-    QCOMPARE(lezer.Tekst(), QStringLiteral("geti\u00EBnd"));
+    QCOMPARE(lezer.Tekst(), u"\u20AC 5"_s);
+    QCOMPARE(lezer.Tekst(), u"geti\u00EBnd"_s);
 }
 
 void TestFiles::numberFieldsAreRead()
@@ -671,7 +669,7 @@ void TestFiles::numberFieldsAreRead()
     QCOMPARE(int{lezer.Byte()}, 12);
     QCOMPARE(int{lezer.Int16()}, 2);
     QVERIFY(!lezer.Einde());
-    QCOMPARE(lezer.Tekst(), QStringLiteral("7"));
+    QCOMPARE(lezer.Tekst(), u"7"_s);
     QVERIFY(lezer.Einde());
 }
 
@@ -706,7 +704,7 @@ void TestFiles::behindTheLastFieldIsTheEndOfTheFile()
 {
     const QByteArray inhoud("aap\r\n");
     Files::VeldLezer lezer(inhoud);
-    QCOMPARE(lezer.Tekst(), QStringLiteral("aap"));
+    QCOMPARE(lezer.Tekst(), u"aap"_s);
     QVERIFY(lezer.Einde());
     QCOMPARE(FoutVan([&] { lezer.Tekst(); }), int{Fout::EindeBestand});
     QCOMPARE(FoutVan([&] { lezer.Int16(); }), int{Fout::EindeBestand});
@@ -716,7 +714,7 @@ void TestFiles::linesAreWrittenByteForByte()
 {
     Files::VeldSchrijver schrijver;
     QCOMPARE(schrijver.Inhoud(), QByteArray());
-    schrijver.Regel(QStringLiteral("caf\u00E9, \u20AC"));
+    schrijver.Regel(u"caf\u00E9, \u20AC"_s);
     schrijver.Regel(QString());
     schrijver.Regel({5});
     schrijver.Regel({0, -12, 32767});
@@ -725,7 +723,7 @@ void TestFiles::linesAreWrittenByteForByte()
 
 void TestFiles::whatIsWrittenIsReadBack()
 {
-    const QStringList teksten{"aap", "", " aap, noot ", "regel\r\nregel", QStringLiteral("\u00AE")};
+    const QStringList teksten{"aap", "", " aap, noot ", "regel\r\nregel", u"\u00AE"_s};
     Files::VeldSchrijver schrijver;
     for (const QString &tekst : teksten) {
         schrijver.Regel(tekst);

@@ -16,15 +16,17 @@
 #include <new>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// A form with a button and a box, that lets a test place controls.
 class TestVenster : public Form
 {
 public:
     explicit TestVenster(int breedte = 4590, int hoogte = 3450, bool menuBalk = false)
-        : Form(QStringLiteral("TestVenster"), QStringLiteral("Een titel"), breedte, hoogte, qRgb(10, 200, 30), menuBalk)
+        : Form(u"TestVenster"_s, u"Een titel"_s, breedte, hoogte, qRgb(10, 200, 30), menuBalk)
     {
-        Knop = Maak<QPushButton>("ZoekKnop", QStringLiteral("Zoeken"), nullptr, QStringLiteral("..."));
-        Vak = Maak<QLineEdit>("Text1", QStringLiteral("Woord"), nullptr);
+        Knop = Maak<QPushButton>("ZoekKnop", u"Zoeken"_s, nullptr, u"..."_s);
+        Vak = Maak<QLineEdit>("Text1", u"Woord"_s, nullptr);
     }
 
     using Form::Kleur;
@@ -87,7 +89,7 @@ private:
 void TestForm::init()
 {
     // The offscreen platform itself warns of windows of a fixed size.
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
     bank_.emplace();
 }
 
@@ -96,8 +98,8 @@ void TestForm::init()
 void TestForm::theWindowHasItsNameAndTitle()
 {
     const TestVenster venster;
-    QCOMPARE(venster.objectName(), QStringLiteral("TestVenster"));
-    QCOMPARE(venster.windowTitle(), QStringLiteral("Een titel"));
+    QCOMPARE(venster.objectName(), u"TestVenster"_s);
+    QCOMPARE(venster.windowTitle(), u"Een titel"_s);
     QCOMPARE(venster.palette().color(QPalette::Window).rgb(), qRgb(10, 200, 30));
     QVERIFY(!venster.Unloaded());
     QCOMPARE(venster.MenuBalk(), nullptr);
@@ -119,7 +121,7 @@ void TestForm::aMenuBarTakesAPartOfTheHeight()
 {
     TestVenster venster(4590, 3750, true);
     QVERIFY(venster.MenuBalk());
-    venster.MenuBalk()->addMenu(QStringLiteral("Bestand"));
+    venster.MenuBalk()->addMenu(u"Bestand"_s);
     venster.PasOpScherm();
     venster.show();
     const QWidget &inhoud = *venster.Knop->parentWidget();
@@ -131,7 +133,7 @@ void TestForm::aMenuBarTakesAPartOfTheHeight()
 void TestForm::aWindowWithAMenuBarFitsTheScreen()
 {
     TestVenster venster(60000, 60000, true);
-    venster.MenuBalk()->addMenu(QStringLiteral("Bestand"));
+    venster.MenuBalk()->addMenu(u"Bestand"_s);
     venster.PasOpScherm();
     venster.show();
     QCOMPARE(venster.size(), QGuiApplication::primaryScreen()->availableSize() - QSize(6, 30));
@@ -141,31 +143,31 @@ void TestForm::aWindowWithAMenuBarFitsTheScreen()
 void TestForm::aControlHasItsNames()
 {
     TestVenster venster;
-    QCOMPARE(venster.Knop->objectName(), QStringLiteral("ZoekKnop"));
-    QCOMPARE(venster.Knop->accessibleName(), QStringLiteral("Zoeken"));
-    QCOMPARE(venster.Knop->text(), QStringLiteral("..."));
-    const Label *label = venster.MaakLabel("Label1", QStringLiteral("Woord:"));
-    QCOMPARE(label->objectName(), QStringLiteral("Label1"));
-    QCOMPARE(label->Caption(), QStringLiteral("Woord:"));
+    QCOMPARE(venster.Knop->objectName(), u"ZoekKnop"_s);
+    QCOMPARE(venster.Knop->accessibleName(), u"Zoeken"_s);
+    QCOMPARE(venster.Knop->text(), u"..."_s);
+    const Label *label = venster.MaakLabel("Label1", u"Woord:"_s);
+    QCOMPARE(label->objectName(), u"Label1"_s);
+    QCOMPARE(label->Caption(), u"Woord:"_s);
 }
 
 void TestForm::aLabelIsReadAsWhatItShows()
 {
     TestVenster venster;
-    Label *label = venster.MaakLabel("Label1", QStringLiteral("Woord:"));
+    Label *label = venster.MaakLabel("Label1", u"Woord:"_s);
     const auto gelezen = [&] { return QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name); };
-    QCOMPARE(gelezen(), QStringLiteral("Woord:"));
-    label->SetCaption(QStringLiteral("Letter:"));
-    QCOMPARE(gelezen(), QStringLiteral("Letter:"));
+    QCOMPARE(gelezen(), u"Woord:"_s);
+    label->SetCaption(u"Letter:"_s);
+    QCOMPARE(gelezen(), u"Letter:"_s);
 }
 
 void TestForm::aControlIsMadeOnAnotherControl()
 {
     TestVenster venster;
-    auto *paneel = venster.Maak<QWidget>("Frame1", QStringLiteral("Paneel"), nullptr);
-    const auto *vak = venster.Maak<QLineEdit>("Text2", QStringLiteral("Tweede"), paneel);
+    auto *paneel = venster.Maak<QWidget>("Frame1", u"Paneel"_s, nullptr);
+    const auto *vak = venster.Maak<QLineEdit>("Text2", u"Tweede"_s, paneel);
     QCOMPARE(vak->parentWidget(), paneel);
-    QCOMPARE(venster.MaakLabel("Label1", QStringLiteral("x"), paneel)->parentWidget(), paneel);
+    QCOMPARE(venster.MaakLabel("Label1", u"x"_s, paneel)->parentWidget(), paneel);
     QCOMPARE(paneel->parentWidget(), venster.Knop->parentWidget());
 }
 
@@ -186,7 +188,7 @@ void TestForm::aControlPlacedWithoutASizeTakesItsOwn()
     TestVenster venster;
     venster.Zet(venster.Knop, 300, 450);
     QCOMPARE(venster.Knop->geometry(), QRect(QPoint(20, 30), venster.Knop->sizeHint()));
-    Label *label = venster.MaakLabel("Label1", QStringLiteral("Woord:"));
+    Label *label = venster.MaakLabel("Label1", u"Woord:"_s);
     const QSize eigen = label->size();
     venster.Zet(label, 150, 300);
     QCOMPARE(label->geometry(), QRect(QPoint(10, 20), eigen));
@@ -196,9 +198,9 @@ void TestForm::aControlPlacedWithoutASizeTakesItsOwn()
 void TestForm::aLabelPlacedWithASizeKeepsIt()
 {
     TestVenster venster;
-    Label *label = venster.MaakLabel("Label1", QStringLiteral("Woord:"));
+    Label *label = venster.MaakLabel("Label1", u"Woord:"_s);
     venster.Zet(label, 150, 300, 1500, 300);
-    label->SetCaption(QStringLiteral("Een veel langer opschrift dan er eerst op stond"));
+    label->SetCaption(u"Een veel langer opschrift dan er eerst op stond"_s);
     QCOMPARE(label->geometry(), QRect(10, 20, 100, 20));
 }
 
@@ -227,16 +229,16 @@ void TestForm::aHandlerRunsOnItsSignal()
 void TestForm::aHandlerMayTakeTheArguments()
 {
     TestVenster venster;
-    auto *combo = venster.Maak<QComboBox>("Combo1", QStringLiteral("Keuze"), nullptr);
-    combo->addItems({QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")});
+    auto *combo = venster.Maak<QComboBox>("Combo1", u"Keuze"_s, nullptr);
+    combo->addItems({u"a"_s, u"b"_s, u"c"_s});
     QList<int> gekozen;
     QStringList getypt;
     venster.bij(combo, &QComboBox::currentIndexChanged, [&](int index) { gekozen += index; });
     venster.bij(venster.Vak, &QLineEdit::textChanged, [&](const QString &tekst) { getypt += tekst; });
     combo->setCurrentIndex(2);
-    venster.Vak->setText(QStringLiteral("aap"));
+    venster.Vak->setText(u"aap"_s);
     QCOMPARE(gekozen, QList{2});
-    QCOMPARE(getypt, QStringList{QStringLiteral("aap")});
+    QCOMPARE(getypt, QStringList{u"aap"_s});
 }
 
 void TestForm::aFailureIsShownOnceAndTheWindowStays()
@@ -251,9 +253,9 @@ void TestForm::aFailureIsShownOnceAndTheWindowStays()
     venster.Knop->click();
     QCOMPARE(bank_->Script.Gezien.size(), 1);
     const Bericht &bericht = bank_->Script.Gezien[0];
-    QVERIFY(bericht.Tekst.contains(QLatin1String("Fout 13 ")));
+    QVERIFY(bericht.Tekst.contains("Fout 13 "_L1));
     QVERIFY(bericht.Tekst.contains(Fout(Fout::TypeOnjuist).tekst()));
-    QVERIFY(bericht.Tekst.contains(QLatin1String("'Zoeken'")));
+    QVERIFY(bericht.Tekst.contains("'Zoeken'"_L1));
     QVERIFY(bericht.Plaatje == Icoon::Kritiek);
     QVERIFY(bericht.Soort == Knoppen::Ok);
     QVERIFY(!verder);
@@ -263,27 +265,27 @@ void TestForm::aFailureIsShownOnceAndTheWindowStays()
 
 void TestForm::aFailureNamesWhatItIsAbout()
 {
-    Form::Voer(QStringLiteral("het lezen"), [] { throw Fout(Fout::BestandNietGevonden, QStringLiteral("aap.lst")); });
+    Form::Voer(u"het lezen"_s, [] { throw Fout(Fout::BestandNietGevonden, u"aap.lst"_s); });
     QCOMPARE(bank_->Script.Gezien.size(), 1);
     const QString tekst = bank_->Script.Gezien[0].Tekst;
-    QVERIFY(tekst.contains(QLatin1String("het lezen")));
-    QVERIFY(tekst.contains(QLatin1String("aap.lst")));
-    QVERIFY(tekst.contains(QLatin1String("53")));
+    QVERIFY(tekst.contains("het lezen"_L1));
+    QVERIFY(tekst.contains("aap.lst"_L1));
+    QVERIFY(tekst.contains("53"_L1));
 }
 
 void TestForm::theSenderIsCalledWhatAPersonCallsIt()
 {
     const TestVenster venster;
-    QCOMPARE(Form::Wat(venster.Knop), QStringLiteral("'Zoeken'"));
+    QCOMPARE(Form::Wat(venster.Knop), u"'Zoeken'"_s);
     QWidget naamloos;
-    naamloos.setObjectName(QStringLiteral("Paneel"));
-    QCOMPARE(Form::Wat(&naamloos), QStringLiteral("'Paneel'"));
-    QAction item(QStringLiteral("Puzzel openen"));
-    item.setObjectName(QStringLiteral("FileOpen"));
-    QCOMPARE(Form::Wat(&item), QStringLiteral("'Puzzel openen'"));
+    naamloos.setObjectName(u"Paneel"_s);
+    QCOMPARE(Form::Wat(&naamloos), u"'Paneel'"_s);
+    QAction item(u"Puzzel openen"_s);
+    item.setObjectName(u"FileOpen"_s);
+    QCOMPARE(Form::Wat(&item), u"'Puzzel openen'"_s);
     QTimer timer;
-    timer.setObjectName(QStringLiteral("Timer1"));
-    QCOMPARE(Form::Wat(&timer), QStringLiteral("'Timer1'"));
+    timer.setObjectName(u"Timer1"_s);
+    QCOMPARE(Form::Wat(&timer), u"'Timer1'"_s);
 }
 
 void TestForm::anAbortedHandlerSaysNothing()
@@ -306,16 +308,16 @@ void TestForm::aLackOfMemoryIsShown()
     venster.Knop->click();
     QCOMPARE(bank_->Script.Gezien.size(), 1);
     const Bericht &bericht = bank_->Script.Gezien[0];
-    QVERIFY(bericht.Tekst.contains(QLatin1String("Fout 7 ")));
+    QVERIFY(bericht.Tekst.contains("Fout 7 "_L1));
     QVERIFY(bericht.Tekst.contains(Fout(Fout::GeheugenVol).tekst()));
-    QVERIFY(bericht.Tekst.contains(QLatin1String("'Zoeken'")));
+    QVERIFY(bericht.Tekst.contains("'Zoeken'"_L1));
     QVERIFY(bericht.Plaatje == Icoon::Kritiek);
 }
 
 void TestForm::aHandlerThatSucceedsSaysNothing()
 {
     bool gedaan = false;
-    Form::Voer(QStringLiteral("niets"), [&] { gedaan = true; });
+    Form::Voer(u"niets"_s, [&] { gedaan = true; });
     QVERIFY(gedaan);
     QVERIFY(bank_->Script.Gezien.isEmpty());
 }
@@ -376,7 +378,7 @@ void TestForm::toonOpensUntilTheFormIsClosed()
 
 void TestForm::aMessageIsCutAtItsLongest()
 {
-    MsgBox(QString(1024, u'a') + QStringLiteral("b"));
+    MsgBox(QString(1024, u'a') + u"b"_s);
     MsgBox(QString(1024, u'c'));
     QCOMPARE(bank_->Script.Gezien.size(), 2);
     QCOMPARE(bank_->Script.Gezien[0].Tekst, QString(1024, u'a'));
@@ -386,13 +388,13 @@ void TestForm::aMessageIsCutAtItsLongest()
 void TestForm::aMessageHasTheProgramsTitle()
 {
     bank_->Script.Antwoorden = {Antwoord::Ja, Antwoord::Nee};
-    QVERIFY(MsgBox(QStringLiteral("Klaar")) == Antwoord::Ok);
-    QVERIFY(MsgBox(QStringLiteral("Zeker?"), Knoppen::JaNee, Icoon::Geen, QStringLiteral("Delete")) == Antwoord::Ja);
-    QVERIFY(MsgBox(QStringLiteral("Zeker?"), Knoppen::JaNee) == Antwoord::Nee);
+    QVERIFY(MsgBox(u"Klaar"_s) == Antwoord::Ok);
+    QVERIFY(MsgBox(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s) == Antwoord::Ja);
+    QVERIFY(MsgBox(u"Zeker?"_s, Knoppen::JaNee) == Antwoord::Nee);
     QCOMPARE(bank_->Script.Gezien.size(), 3);
-    QCOMPARE(bank_->Script.Gezien[0].Titel, QStringLiteral("Rasteratelier"));
+    QCOMPARE(bank_->Script.Gezien[0].Titel, u"Rasteratelier"_s);
     QVERIFY(bank_->Script.Gezien[0].Plaatje == Icoon::Geen);
-    QCOMPARE(bank_->Script.Gezien[1].Titel, QStringLiteral("Delete"));
+    QCOMPARE(bank_->Script.Gezien[1].Titel, u"Delete"_s);
     QVERIFY(bank_->Script.Gezien[1].Soort == Knoppen::JaNee);
 }
 
@@ -435,13 +437,13 @@ struct EchtBericht
 
 void TestForm::aRealMessageHasAnOkButton()
 {
-    const QString tekst = QStringLiteral("<b>Klaar</b> & wel");
-    const auto klik = [](QMessageBox &box) { EchtBericht::Klik(box, QStringLiteral("OK")); };
-    const EchtBericht bericht(tekst, Knoppen::Ok, Icoon::Geen, QStringLiteral("Een titel"), klik);
+    const QString tekst = u"<b>Klaar</b> & wel"_s;
+    const auto klik = [](QMessageBox &box) { EchtBericht::Klik(box, u"OK"_s); };
+    const EchtBericht bericht(tekst, Knoppen::Ok, Icoon::Geen, u"Een titel"_s, klik);
     QCOMPARE(bericht.Tekst, tekst);
     QCOMPARE(bericht.Vorm, Qt::PlainText);
-    QCOMPARE(bericht.Titel, QStringLiteral("Een titel"));
-    QCOMPARE(bericht.Opschriften, QStringList{QStringLiteral("OK")});
+    QCOMPARE(bericht.Titel, u"Een titel"_s);
+    QCOMPARE(bericht.Opschriften, QStringList{u"OK"_s});
     QCOMPARE(bericht.Plaatje, QMessageBox::NoIcon);
     QVERIFY(bericht.Gegeven == Antwoord::Ok);
 
@@ -455,39 +457,38 @@ void TestForm::aRealQuestionHasYesAndNo_data()
 {
     QTest::addColumn<QString>("opschrift");
     QTest::addColumn<int>("antwoord");
-    QTest::newRow("yes") << QStringLiteral("Ja") << int(Antwoord::Ja);
-    QTest::newRow("no") << QStringLiteral("Nee") << int(Antwoord::Nee);
+    QTest::newRow("yes") << u"Ja"_s << int(Antwoord::Ja);
+    QTest::newRow("no") << u"Nee"_s << int(Antwoord::Nee);
 }
 
 void TestForm::aRealQuestionHasYesAndNo()
 {
     QFETCH(QString, opschrift);
-    const EchtBericht bericht(QStringLiteral("Zeker?"), Knoppen::JaNee, Icoon::Geen, QStringLiteral("Delete"),
+    const EchtBericht bericht(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s,
                               [&](QMessageBox &box) { EchtBericht::Klik(box, opschrift); });
-    QCOMPARE(bericht.Opschriften, (QStringList{QStringLiteral("Ja"), QStringLiteral("Nee")}));
-    QCOMPARE(bericht.Titel, QStringLiteral("Delete"));
+    QCOMPARE(bericht.Opschriften, (QStringList{u"Ja"_s, u"Nee"_s}));
+    QCOMPARE(bericht.Titel, u"Delete"_s);
     QTEST(int(bericht.Gegeven), "antwoord");
 }
 
 void TestForm::closingARealQuestionIsANo()
 {
-    const EchtBericht metEscape(QStringLiteral("Zeker?"), Knoppen::JaNee, Icoon::Geen, QString(),
+    const EchtBericht metEscape(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
                                 [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
     QCOMPARE(metEscape.Opschriften.size(), 2);
     QVERIFY(metEscape.Gegeven == Antwoord::Nee);
-    const EchtBericht metKruis(QStringLiteral("Zeker?"), Knoppen::JaNee, Icoon::Geen, QString(),
+    const EchtBericht metKruis(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
                                [](QMessageBox &box) { box.close(); });
     QCOMPARE(metKruis.Opschriften.size(), 2);
     QVERIFY(metKruis.Gegeven == Antwoord::Nee);
-    const EchtBericht metEnter(QStringLiteral("Zeker?"), Knoppen::JaNee, Icoon::Geen, QString(),
+    const EchtBericht metEnter(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
                                [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
     QVERIFY(metEnter.Gegeven == Antwoord::Ja);
 }
 
 void TestForm::aRealCriticalMessageHasItsIcon()
 {
-    const EchtBericht bericht(QStringLiteral("Mis"), Knoppen::Ok, Icoon::Kritiek, QString(),
-                              [](QMessageBox &box) { box.close(); });
+    const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Kritiek, QString(), [](QMessageBox &box) { box.close(); });
     QCOMPARE(bericht.Plaatje, QMessageBox::Critical);
     QVERIFY(bericht.Gegeven == Antwoord::Ok);
 }

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 class TestGetallen : public QObject
 {
     Q_OBJECT
@@ -170,8 +172,8 @@ void TestGetallen::aFailureTellsTheText()
         }
         return QString();
     };
-    QVERIFY(tekstVan(QStringLiteral("drie")).endsWith(QLatin1String("(drie)")));
-    QVERIFY(tekstVan(QStringLiteral("300")).endsWith(QLatin1String("(300)")));
+    QVERIFY(tekstVan(u"drie"_s).endsWith("(drie)"_L1));
+    QVERIFY(tekstVan(u"300"_s).endsWith("(300)"_L1));
     QVERIFY(tekstVan(QString(1000, u'x')).size() < 150);
 }
 
@@ -213,12 +215,12 @@ void TestGetallen::aNumberKeepsABlankForItsSign_data()
 {
     QTest::addColumn<qint64>("waarde");
     QTest::addColumn<QString>("tekst");
-    QTest::newRow("0") << qint64{0} << QStringLiteral(" 0");
-    QTest::newRow("5") << qint64{5} << QStringLiteral(" 5");
-    QTest::newRow("-5") << qint64{-5} << QStringLiteral("-5");
-    QTest::newRow("1000000") << qint64{1000000} << QStringLiteral(" 1000000");
-    QTest::newRow("largest") << std::numeric_limits<qint64>::max() << QStringLiteral(" 9223372036854775807");
-    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() << QStringLiteral("-9223372036854775808");
+    QTest::newRow("0") << qint64{0} << u" 0"_s;
+    QTest::newRow("5") << qint64{5} << u" 5"_s;
+    QTest::newRow("-5") << qint64{-5} << u"-5"_s;
+    QTest::newRow("1000000") << qint64{1000000} << u" 1000000"_s;
+    QTest::newRow("largest") << std::numeric_limits<qint64>::max() << u" 9223372036854775807"_s;
+    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() << u"-9223372036854775808"_s;
 }
 
 void TestGetallen::aNumberKeepsABlankForItsSign()

@@ -9,14 +9,16 @@
 
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 /// A white form with two picture buttons.
 class KnopVenster : public Form
 {
 public:
-    KnopVenster() : Form(QStringLiteral("KnopVenster"), QString(), 4590, 3450, qRgb(255, 255, 255))
+    KnopVenster() : Form(u"KnopVenster"_s, QString(), 4590, 3450, qRgb(255, 255, 255))
     {
-        Ok = Maak<ImageButton>("OkKnop", QStringLiteral("Ok"), nullptr, QStringLiteral("knop-ok"));
-        Stop = Maak<ImageButton>("StopKnop", QStringLiteral("Stop"), nullptr, QStringLiteral("knop-stop"));
+        Ok = Maak<ImageButton>("OkKnop", u"Ok"_s, nullptr, u"knop-ok"_s);
+        Stop = Maak<ImageButton>("StopKnop", u"Stop"_s, nullptr, u"knop-stop"_s);
         Zet(Ok, 300, 450);
         Zet(Stop, 1500, 450);
     }
@@ -63,7 +65,7 @@ private:
 void TestImageButton::init()
 {
     // The offscreen platform itself warns of windows of a fixed size.
-    QTest::failOnWarning(QRegularExpression(QStringLiteral("^(?!This plugin does not support)")));
+    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
     bank_.emplace();
     venster_.emplace();
     kliks_ = 0;
@@ -208,7 +210,7 @@ void TestImageButton::theFocusIsShown()
 
 void TestImageButton::theButtonIsAsLargeAsItsPicture()
 {
-    QCOMPARE(venster_->Ok->size(), Plaatjes::Maat(QStringLiteral("knop-ok")));
+    QCOMPARE(venster_->Ok->size(), Plaatjes::Maat(u"knop-ok"_s));
     QVERIFY(!venster_->Ok->size().isEmpty());
     QCOMPARE(venster_->Ok->pos(), QPoint(20, 30));
 }
@@ -218,7 +220,7 @@ void TestImageButton::theButtonShowsItsPicture()
     for (const QSize maat : {venster_->Ok->size(), QSize(100, 60)}) {
         venster_->Ok->resize(maat);
         const QImage beeld = venster_->Ok->grab().toImage();
-        const QImage verwacht = Plaatjes::Beeld(QStringLiteral("knop-ok"), maat);
+        const QImage verwacht = Plaatjes::Beeld(u"knop-ok"_s, maat);
         QVERIFY(HeeftInkt(beeld, beeld.rect()));
         QCOMPARE(beeld.size(), maat);
         // Transparent parts are rounded differently on their way to the screen.
@@ -301,7 +303,7 @@ void TestImageButton::aFormThatWasUnloadedBeforeDoesNotEndTheEffect()
 void TestImageButton::aButtonOutsideAFormHasTheEffectToo()
 {
     QWidget ouder;
-    ImageButton knop(QStringLiteral("knop-ok"), &ouder);
+    ImageButton knop(u"knop-ok"_s, &ouder);
     knop.move(5, 5);
     QMetaObject::invokeMethod(
         &ouder, [&] { ouder.close(); }, Qt::QueuedConnection);

@@ -7,12 +7,14 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 class TestLabel : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void theSizeFollowsTheCaption_data();
     void theSizeFollowsTheCaption();
@@ -31,17 +33,17 @@ void TestLabel::theSizeFollowsTheCaption_data()
 {
     QTest::addColumn<QString>("caption");
     QTest::newRow("empty") << QString();
-    QTest::newRow("short") << QStringLiteral("i");
-    QTest::newRow("words") << QStringLiteral("Aantal letters:");
-    QTest::newRow("blanks around") << QStringLiteral("  x  ");
-    QTest::newRow("two lines") << QStringLiteral("een lange regel\nkort");
-    QTest::newRow("three lines") << QStringLiteral("a\n\nb");
+    QTest::newRow("short") << u"i"_s;
+    QTest::newRow("words") << u"Aantal letters:"_s;
+    QTest::newRow("blanks around") << u"  x  "_s;
+    QTest::newRow("two lines") << u"een lange regel\nkort"_s;
+    QTest::newRow("three lines") << u"a\n\nb"_s;
 }
 
 void TestLabel::theSizeFollowsTheCaption()
 {
     QFETCH(QString, caption);
-    Label gemaakt(caption, nullptr), veranderd(QStringLiteral("Iets heel anders"), nullptr);
+    Label gemaakt(caption, nullptr), veranderd(u"Iets heel anders"_s, nullptr);
     veranderd.SetCaption(caption);
     const QFontMetricsF maten(gemaakt.font());
     const QString eerste = caption.section(u'\n', 0, 0); // the longest of its lines
@@ -55,12 +57,12 @@ void TestLabel::theSizeFollowsTheCaption()
 
 void TestLabel::theSizeFollowsTheFont()
 {
-    Label label(QStringLiteral("Letters"), nullptr);
+    Label label(u"Letters"_s, nullptr);
     const QSize klein = label.size();
-    const QFont groot = Lettertype(QStringLiteral("Arial"), 24, true);
+    const QFont groot = Lettertype(u"Arial"_s, 24, true);
     label.SetFont(groot);
     QCOMPARE(label.font().pixelSize(), 32);
-    QCOMPARE(label.width(), int(std::ceil(QFontMetricsF(groot).horizontalAdvance(QStringLiteral("Letters")))));
+    QCOMPARE(label.width(), int(std::ceil(QFontMetricsF(groot).horizontalAdvance(u"Letters"_s))));
     QVERIFY(label.width() > 2 * klein.width());
     QVERIFY(label.height() > 2 * klein.height());
 }
@@ -86,7 +88,7 @@ void TestLabel::theWholeCaptionIsSeen()
         return InktVlak(beeld, beeld.rect());
     };
     Label label(caption, nullptr), ruim(caption, nullptr);
-    label.SetFont(Lettertype(QStringLiteral("Arial"), punten, false));
+    label.SetFont(Lettertype(u"Arial"_s, punten, false));
     ruim.SetFont(label.font());
     ruim.resize(600, 300);
     QVERIFY(!inkt(ruim).isEmpty());
@@ -95,9 +97,9 @@ void TestLabel::theWholeCaptionIsSeen()
 
 void TestLabel::theLeftEdgeStays()
 {
-    Label label(QStringLiteral("kort"), nullptr);
+    Label label(u"kort"_s, nullptr);
     label.move(100, 20);
-    label.SetCaption(QStringLiteral("een veel langer opschrift"));
+    label.SetCaption(u"een veel langer opschrift"_s);
     QCOMPARE(label.pos(), QPoint(100, 20));
     label.SetCaption(QString());
     QCOMPARE(label.pos(), QPoint(100, 20));
@@ -105,29 +107,29 @@ void TestLabel::theLeftEdgeStays()
 
 void TestLabel::theRightEdgeStaysWhenAlignedToTheRight()
 {
-    Label label(QStringLiteral("23:59:59"), nullptr);
+    Label label(u"23:59:59"_s, nullptr);
     label.setAlignment(Qt::AlignRight);
     label.move(300, 20);
     const int rechts = label.geometry().right();
     const int breedte = label.width();
-    label.SetCaption(QStringLiteral("een veel langer opschrift"));
+    label.SetCaption(u"een veel langer opschrift"_s);
     QVERIFY(label.width() > breedte);
     QCOMPARE(label.geometry().right(), rechts);
-    label.SetCaption(QStringLiteral("i"));
+    label.SetCaption(u"i"_s);
     QVERIFY(label.width() < breedte);
     QCOMPARE(label.geometry().right(), rechts);
-    label.SetFont(Lettertype(QStringLiteral("Arial"), 30, false));
+    label.SetFont(Lettertype(u"Arial"_s, 30, false));
     QCOMPARE(label.geometry().right(), rechts);
     QCOMPARE(label.y(), 20);
 }
 
 void TestLabel::aLabelWithASizeOfItsOwnKeepsIt()
 {
-    Label label(QStringLiteral("kort"), nullptr);
+    Label label(u"kort"_s, nullptr);
     label.AutoSize = false;
     label.setGeometry(10, 20, 80, 30);
-    label.SetCaption(QStringLiteral("een veel langer opschrift dan er eerst stond"));
-    label.SetFont(Lettertype(QStringLiteral("Arial"), 30, false));
+    label.SetCaption(u"een veel langer opschrift dan er eerst stond"_s);
+    label.SetFont(Lettertype(u"Arial"_s, 30, false));
     QCOMPARE(label.geometry(), QRect(10, 20, 80, 30));
     QCOMPARE(label.font().pixelSize(), 40);
 }
@@ -136,10 +138,10 @@ void TestLabel::markupIsShownAsItIs_data()
 {
     QTest::addColumn<QString>("caption");
     QTest::addColumn<QString>("zonder");
-    QTest::newRow("bold") << QStringLiteral("<b>x</b>") << QStringLiteral("x");
-    QTest::newRow("line break") << QStringLiteral("a<br>b") << QStringLiteral("a\nb");
-    QTest::newRow("entity") << QStringLiteral("&lt;x") << QStringLiteral("<x");
-    QTest::newRow("ampersand") << QStringLiteral("a&b") << QStringLiteral("ab");
+    QTest::newRow("bold") << u"<b>x</b>"_s << u"x"_s;
+    QTest::newRow("line break") << u"a<br>b"_s << u"a\nb"_s;
+    QTest::newRow("entity") << u"&lt;x"_s << u"<x"_s;
+    QTest::newRow("ampersand") << u"a&b"_s << u"ab"_s;
 }
 
 void TestLabel::markupIsShownAsItIs()
@@ -162,8 +164,8 @@ void TestLabel::markupIsShownAsItIs()
 
 void TestLabel::theColoursAreSet()
 {
-    Label label(QStringLiteral("I"), nullptr);
-    label.SetFont(Lettertype(QStringLiteral("Arial"), 48, true));
+    Label label(u"I"_s, nullptr);
+    label.SetFont(Lettertype(u"Arial"_s, 48, true));
     label.SetBackColor(qRgb(10, 200, 30));
     label.SetForeColor(qRgb(200, 10, 30));
     const QImage beeld = label.grab().toImage();

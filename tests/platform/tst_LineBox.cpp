@@ -4,6 +4,8 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+using namespace Qt::StringLiterals;
+
 class tst_LineBox : public QObject
 {
     Q_OBJECT
@@ -22,8 +24,8 @@ private slots:
                                     << "Reis";
         QTest::newRow("at the begin") << "\nReis"
                                       << "";
-        QTest::newRow("separator") << QStringLiteral("dier") + QChar(QChar::LineSeparator) + u'x' << "dier";
-        QTest::newRow("paragraph") << QStringLiteral("dier") + QChar(QChar::ParagraphSeparator) + u'x' << "dier";
+        QTest::newRow("separator") << u"dier"_s + QChar(QChar::LineSeparator) + u'x' << "dier";
+        QTest::newRow("paragraph") << u"dier"_s + QChar(QChar::ParagraphSeparator) + u'x' << "dier";
     }
     void textEndsAtTheFirstLineEnd()
     {

@@ -6,12 +6,14 @@
 
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 class TestListBox : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void anEmptyListHasNothingSelected();
     void itemsAreAddedAtTheEnd();
@@ -48,7 +50,7 @@ public:
     DrieWoorden() : ListBox(nullptr)
     {
         resize(200, 150);
-        SetItems({QStringLiteral("aap"), QStringLiteral("noot"), QStringLiteral("mies")});
+        SetItems({u"aap"_s, u"noot"_s, u"mies"_s});
         show();
     }
 };
@@ -81,10 +83,10 @@ void TestListBox::itemsAreAddedAtTheEnd()
 void TestListBox::itemsAreSetInOneGo()
 {
     ListBox lijst(nullptr);
-    lijst.AddItem(QStringLiteral("oud"));
+    lijst.AddItem(u"oud"_s);
     QSignalSpy opnieuw(lijst.model(), &QAbstractItemModel::modelReset);
     QSignalSpy erbij(lijst.model(), &QAbstractItemModel::rowsInserted);
-    lijst.SetItems({QStringLiteral("aap"), QStringLiteral("noot")});
+    lijst.SetItems({u"aap"_s, u"noot"_s});
     QCOMPARE(Teksten(lijst), (QStringList{"aap", "noot"}));
     QCOMPARE(opnieuw.size(), 1);
     QCOMPARE(erbij.size(), 0);
@@ -111,7 +113,7 @@ void TestListBox::anIndexThatIsNotThereHasNoText()
 {
     QFETCH(int, index);
     const DrieWoorden lijst;
-    QCOMPARE(lijst.List(2), QStringLiteral("mies"));
+    QCOMPARE(lijst.List(2), u"mies"_s);
     QCOMPARE(lijst.List(index), QString());
 }
 
@@ -120,10 +122,10 @@ void TestListBox::aSelectedRowGivesItsText()
     DrieWoorden lijst;
     lijst.SetListIndex(1);
     QCOMPARE(lijst.ListIndex(), 1);
-    QCOMPARE(lijst.Text(), QStringLiteral("noot"));
+    QCOMPARE(lijst.Text(), u"noot"_s);
     lijst.SetListIndex(0);
     QCOMPARE(lijst.ListIndex(), 0);
-    QCOMPARE(lijst.Text(), QStringLiteral("aap"));
+    QCOMPARE(lijst.Text(), u"aap"_s);
 }
 
 void TestListBox::selectingWhatIsNotThereSelectsNothing_data()
@@ -146,7 +148,7 @@ void TestListBox::newItemsAreNotSelected()
     DrieWoorden lijst;
     lijst.SetListIndex(1);
     QSignalSpy klik(&lijst, &ListBox::Click);
-    lijst.SetItems({QStringLiteral("wim"), QStringLiteral("zus"), QStringLiteral("jet")});
+    lijst.SetItems({u"wim"_s, u"zus"_s, u"jet"_s});
     QCOMPARE(lijst.ListIndex(), -1);
     QCOMPARE(klik.size(), 0);
 }
@@ -193,7 +195,7 @@ void TestListBox::aRowCanBeChosenAfterRemoving()
     QSignalSpy klik(&lijst, &ListBox::Click);
     QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, Rij(lijst, 0));
     QVERIFY(klik.size() > 0);
-    QCOMPARE(lijst.Text(), QStringLiteral("noot"));
+    QCOMPARE(lijst.Text(), u"noot"_s);
 }
 
 void TestListBox::aManyThousandItemsFit()
@@ -223,7 +225,7 @@ void TestListBox::aPressOnARowChoosesIt()
     QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, Rij(lijst, 1));
     QCOMPARE(lijst.ListIndex(), 1);
     QVERIFY(!gekozen.isEmpty());
-    gekozen.removeAll(QStringLiteral("noot"));
+    gekozen.removeAll(u"noot"_s);
     QCOMPARE(gekozen, QStringList());
     QCOMPARE(dubbel.size(), 0);
 }
@@ -257,10 +259,10 @@ void TestListBox::theArrowKeysChooseARow()
     lijst.SetListIndex(0);
     QSignalSpy klik(&lijst, &ListBox::Click);
     QTest::keyClick(&lijst, Qt::Key_Down);
-    QCOMPARE(lijst.Text(), QStringLiteral("noot"));
+    QCOMPARE(lijst.Text(), u"noot"_s);
     QCOMPARE(klik.size(), 1);
     QTest::keyClick(&lijst, Qt::Key_End);
-    QCOMPARE(lijst.Text(), QStringLiteral("mies"));
+    QCOMPARE(lijst.Text(), u"mies"_s);
     QCOMPARE(klik.size(), 2);
     QTest::keyClick(&lijst, Qt::Key_Down);
     QCOMPARE(klik.size(), 2);
@@ -272,7 +274,7 @@ void TestListBox::onlyOneRowIsChosenAtATime()
     QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, Rij(lijst, 0));
     QTest::mouseClick(lijst.viewport(), Qt::LeftButton, Qt::ShiftModifier, Rij(lijst, 2));
     QCOMPARE(lijst.selectionModel()->selectedIndexes().size(), 1);
-    QCOMPARE(lijst.Text(), QStringLiteral("mies"));
+    QCOMPARE(lijst.Text(), u"mies"_s);
 }
 
 static void DubbelKlik(ListBox &lijst, QPoint plaats)
@@ -298,7 +300,7 @@ void TestListBox::aDoubleClickDoesNotEditTheText()
     QTest::keyClick(&lijst, Qt::Key_F2);
     QVERIFY(!lijst.indexWidget(lijst.model()->index(1, 0)));
     QVERIFY(lijst.viewport()->findChildren<QWidget *>().isEmpty());
-    QCOMPARE(lijst.List(1), QStringLiteral("noot"));
+    QCOMPARE(lijst.List(1), u"noot"_s);
 }
 
 RASTER_TEST(TestListBox)

@@ -6,6 +6,8 @@
 
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 static constexpr QRgb Wit = qRgb(255, 255, 255);
 static constexpr QRgb Zwart = qRgb(0, 0, 0);
 static constexpr QRgb Rood = qRgb(255, 0, 0);
@@ -38,7 +40,7 @@ class TestPictureBox : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void aLineDrawsBothItsEndPixels_data();
     void aLineDrawsBothItsEndPixels();
@@ -435,7 +437,7 @@ void TestPictureBox::drawingOutsideWhileShrunkIsLost()
     box.PaintPicture(Bont(40, 30), 15, 0, 600, 450, 0, 0, PlakWijze::Kopie);
     box.SetPixel(20, 20, Rood);
     box.CurrentX = 12;
-    box.Print(QStringLiteral("Raster"));
+    box.Print(u"Raster"_s);
     box.Maat(40, 30);
     QCOMPARE(box.Inkt(), QRect(0, 0, 10, 10));
     QCOMPARE(box.Aantal(Rood), 100);
@@ -610,7 +612,7 @@ void TestPictureBox::aBoxWithoutASideTakesDrawing()
         box.Cls();
         box.Line(0, 0, 300, 150, Rood);
         box.BoxFull(0, 0, 300, 300, Rood);
-        box.Print(QStringLiteral("Raster"));
+        box.Print(u"Raster"_s);
         box.PaintPicture(Bont(5, 5), 0, 0, 75, 75, 0, 0, PlakWijze::En);
         box.SetPicture(Bont(5, 5));
         box.SetPixel(0, 0, Rood);

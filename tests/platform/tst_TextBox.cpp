@@ -8,13 +8,15 @@
 #include <QMimeData>
 #include <QRegularExpression>
 
+using namespace Qt::StringLiterals;
+
 /// A box of 123 pixels with the letters of a clue.
 class OmschrijvingBox : public TextBox
 {
 public:
     explicit OmschrijvingBox(QWidget *ouder = nullptr) : TextBox(ouder)
     {
-        setFont(Lettertype(QStringLiteral("Arial"), 12, true));
+        setFont(Lettertype(u"Arial"_s, 12, true));
         resize(123, 60);
     }
     /// The width that a line of text has for itself.
@@ -26,7 +28,7 @@ class TestTextBox : public QObject
     Q_OBJECT
 
 private slots:
-    void init() { QTest::failOnWarning(QRegularExpression(QStringLiteral("."))); }
+    void init() { QTest::failOnWarning(QRegularExpression(u"."_s)); }
 
     void linesAreCounted_data();
     void linesAreCounted();
@@ -52,7 +54,7 @@ private slots:
 
 static QString LangeTekst()
 {
-    return QStringLiteral("Deze omschrijving is veel te lang voor zo'n klein vakje en loopt dus over vele regels door");
+    return u"Deze omschrijving is veel te lang voor zo'n klein vakje en loopt dus over vele regels door"_s;
 }
 
 /// The text as the box displays it, line by line.
@@ -81,13 +83,13 @@ void TestTextBox::linesAreCounted_data()
     QTest::addColumn<QString>("tekst");
     QTest::addColumn<int>("aantal");
     QTest::newRow("empty") << QString() << 1;
-    QTest::newRow("one line") << QStringLiteral("a") << 1;
-    QTest::newRow("a line end") << QStringLiteral("\r\n") << 2;
-    QTest::newRow("a line end behind") << QStringLiteral("a\r\n") << 2;
-    QTest::newRow("a line end before") << QStringLiteral("\r\na") << 2;
-    QTest::newRow("two lines") << QStringLiteral("a\r\nb") << 2;
-    QTest::newRow("an empty line between") << QStringLiteral("a\r\n\r\nb") << 3;
-    QTest::newRow("a blank") << QStringLiteral(" ") << 1;
+    QTest::newRow("one line") << u"a"_s << 1;
+    QTest::newRow("a line end") << u"\r\n"_s << 2;
+    QTest::newRow("a line end behind") << u"a\r\n"_s << 2;
+    QTest::newRow("a line end before") << u"\r\na"_s << 2;
+    QTest::newRow("two lines") << u"a\r\nb"_s << 2;
+    QTest::newRow("an empty line between") << u"a\r\n\r\nb"_s << 3;
+    QTest::newRow("a blank") << u" "_s << 1;
 }
 
 void TestTextBox::linesAreCounted()
@@ -105,16 +107,16 @@ void TestTextBox::linesAreCounted()
 void TestTextBox::aLineEndIsTwoCharacters()
 {
     OmschrijvingBox box;
-    box.SetText(QStringLiteral("ab\r\nc\r\n\r\nd"));
+    box.SetText(u"ab\r\nc\r\n\r\nd"_s);
     QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 0, 1, 1, 1, 2, 2, 3, 3}));
 }
 
 void TestTextBox::everyLineEndIsMadeTheSame_data()
 {
     QTest::addColumn<QString>("tekst");
-    QTest::newRow("both") << QStringLiteral("a\r\nb\r\n");
-    QTest::newRow("line feed") << QStringLiteral("a\nb\n");
-    QTest::newRow("carriage return") << QStringLiteral("a\rb\r");
+    QTest::newRow("both") << u"a\r\nb\r\n"_s;
+    QTest::newRow("line feed") << u"a\nb\n"_s;
+    QTest::newRow("carriage return") << u"a\rb\r"_s;
 }
 
 void TestTextBox::everyLineEndIsMadeTheSame()
@@ -122,14 +124,14 @@ void TestTextBox::everyLineEndIsMadeTheSame()
     QFETCH(QString, tekst);
     OmschrijvingBox box;
     box.SetText(tekst);
-    QCOMPARE(box.Text(), QStringLiteral("a\r\nb\r\n"));
+    QCOMPARE(box.Text(), u"a\r\nb\r\n"_s);
     QCOMPARE(box.LineCount(), 3);
 }
 
 void TestTextBox::anIndexOutsideTheTextIsTheNearestOne()
 {
     OmschrijvingBox box;
-    box.SetText(QStringLiteral("a\r\nb"));
+    box.SetText(u"a\r\nb"_s);
     QCOMPARE(box.LineFromChar(-1), 0);
     QCOMPARE(box.LineFromChar(-1000000), 0);
     QCOMPARE(box.LineFromChar(5), 1);
@@ -179,7 +181,7 @@ void TestTextBox::wrappedAndEndedLinesCountOn()
     OmschrijvingBox box;
     box.SetText(LangeTekst());
     const int regels = box.LineCount();
-    box.SetText(QStringLiteral("a\r\n") + LangeTekst() + QStringLiteral("\r\nb"));
+    box.SetText(u"a\r\n"_s + LangeTekst() + u"\r\nb"_s);
     QCOMPARE(box.LineCount(), regels + 2);
     QCOMPARE(box.LineFromChar(3), 1);
     QCOMPARE(box.LineFromChar(3 + LangeTekst().size() - 1), regels);
@@ -205,7 +207,7 @@ void TestTextBox::theFontDecidesWhereTheTextWraps()
     OmschrijvingBox box, kleineBox;
     box.SetText(LangeTekst());
     const int groot = box.LineCount();
-    const QFont klein = Lettertype(QStringLiteral("Arial"), 8.25, false);
+    const QFont klein = Lettertype(u"Arial"_s, 8.25, false);
     kleineBox.setFont(klein);
     kleineBox.SetText(LangeTekst());
     QVERIFY(kleineBox.LineCount() < groot);
@@ -217,10 +219,10 @@ void TestTextBox::typedTextIsLikeSetText_data()
 {
     QTest::addColumn<QString>("tekst");
     QTest::newRow("wrapped") << LangeTekst();
-    QTest::newRow("ended") << QStringLiteral("aap\r\n\r\nnoot\r\n");
-    QTest::newRow("both") << LangeTekst() + QStringLiteral("\r\n") + LangeTekst();
+    QTest::newRow("ended") << u"aap\r\n\r\nnoot\r\n"_s;
+    QTest::newRow("both") << LangeTekst() + u"\r\n"_s + LangeTekst();
     QTest::newRow("long word") << QString(40, u'm');
-    QTest::newRow("many blanks") << QStringLiteral("aap                                        noot");
+    QTest::newRow("many blanks") << u"aap                                        noot"_s;
 }
 
 void TestTextBox::typedTextIsLikeSetText()
@@ -245,12 +247,12 @@ void TestTextBox::aLineEndWithinAParagraphIsALineEnd()
     OmschrijvingBox box;
     QTest::keyClick(&box, 'a');
     QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
-    QCOMPARE(box.Text(), QStringLiteral("a\r\n"));
+    QCOMPARE(box.Text(), u"a\r\n"_s);
     QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1}));
     QTest::keyClick(&box, 'b');
     QTest::keyClick(&box, Qt::Key_Return);
     QTest::keyClick(&box, 'c');
-    QCOMPARE(box.Text(), QStringLiteral("a\r\nb\r\nc"));
+    QCOMPARE(box.Text(), u"a\r\nb\r\nc"_s);
     QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1, 1, 1, 2, 2}));
 }
 
@@ -274,7 +276,7 @@ void TestTextBox::aLongTextIsToldToo()
     OmschrijvingBox box;
     QString tekst;
     while (tekst.size() < 10000)
-        tekst += QStringLiteral("woord %1 ").arg(tekst.size());
+        tekst += u"woord %1 "_s.arg(tekst.size());
     tekst.truncate(10000);
     box.SetText(tekst);
     const QList<int> regels = RegelPerTeken(box);
@@ -291,7 +293,7 @@ void TestTextBox::aChangedTextIsToldAnew()
     OmschrijvingBox box;
     box.SetText(LangeTekst());
     QVERIFY(box.LineCount() > 1);
-    box.SetText(QStringLiteral("a"));
+    box.SetText(u"a"_s);
     QCOMPARE(box.LineCount(), 1);
     QTest::keyClick(&box, Qt::Key_Return);
     QCOMPARE(box.LineCount(), 2);
@@ -303,20 +305,20 @@ void TestTextBox::aChangedTextIsToldAnew()
 void TestTextBox::theTextIsPlain()
 {
     OmschrijvingBox box;
-    box.SetText(QStringLiteral("<b>a</b> & b"));
-    QCOMPARE(box.Text(), QStringLiteral("<b>a</b> & b"));
+    box.SetText(u"<b>a</b> & b"_s);
+    QCOMPARE(box.Text(), u"<b>a</b> & b"_s);
 }
 
 void TestTextBox::pastedTextIsPlain()
 {
     auto *inhoud = new QMimeData;
-    inhoud->setText(QStringLiteral("aap\nnoot"));
-    inhoud->setHtml(QStringLiteral("<h1>aap</h1><h1>noot</h1>"));
+    inhoud->setText(u"aap\nnoot"_s);
+    inhoud->setHtml(u"<h1>aap</h1><h1>noot</h1>"_s);
     QGuiApplication::clipboard()->setMimeData(inhoud);
     OmschrijvingBox box, gezet;
     box.paste();
-    QCOMPARE(box.Text(), QStringLiteral("aap\r\nnoot"));
-    gezet.SetText(QStringLiteral("aap\r\nnoot"));
+    QCOMPARE(box.Text(), u"aap\r\nnoot"_s);
+    gezet.SetText(u"aap\r\nnoot"_s);
     QCOMPARE(box.toHtml(), gezet.toHtml());
 }
 
@@ -330,7 +332,7 @@ void TestTextBox::theTabKeyDoesNotType()
     eerste.setFocus();
     QTest::keyClick(&eerste, 'a');
     QTest::keyClick(&eerste, Qt::Key_Tab);
-    QCOMPARE(eerste.Text(), QStringLiteral("a"));
+    QCOMPARE(eerste.Text(), u"a"_s);
     QVERIFY(tweede.hasFocus());
 }
 

@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFile>
 
+using namespace Qt::StringLiterals;
+
 Antwoord BerichtenScript::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
     Gezien += Bericht{tekst, titel, knoppen, icoon};
@@ -15,14 +17,14 @@ Antwoord BerichtenScript::Vraag(const QString &tekst, Knoppen knoppen, Icoon ico
         return Antwoorden.takeFirst();
     if (knoppen == Knoppen::Ok)
         return Antwoord::Ok;
-    QTest::qFail(qPrintable(QStringLiteral("onverwachte vraag: ") + tekst), __FILE__, __LINE__);
+    QTest::qFail(qPrintable(u"onverwachte vraag: "_s + tekst), __FILE__, __LINE__);
     return Antwoord::Nee;
 }
 
 Testbank::Testbank()
 {
-    QDir().mkpath(Map() + QStringLiteral("/Puzzels"));
-    QDir().mkpath(Thuis() + QStringLiteral("/Pictures"));
+    QDir().mkpath(Map() + u"/Puzzels"_s);
+    QDir().mkpath(Thuis() + u"/Pictures"_s);
     qputenv("HOME", Thuis().toLocal8Bit());
     qunsetenv("XDG_CONFIG_HOME");
     Klok::Gebruik(&TestKlok);
@@ -39,22 +41,41 @@ Testbank::~Testbank()
     Screen::MousePointer(Screen::Arrow);
 }
 
+QString Testbank::Map() const
+{
+    return map_.path() + u"/app"_s;
+}
+
+QString Testbank::Thuis() const
+{
+    return map_.path() + u"/thuis"_s;
+}
+
 QByteArray Testbank::Inhoud(const QString &naam) const
 {
-    QFile bestand(Map() + QLatin1Char('/') + naam);
+    QFile bestand(Map() + u'/' + naam);
     return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
 }
 
 void Testbank::Schrijf(const QString &naam, const QByteArray &inhoud) const
 {
-    QFile bestand(Map() + QLatin1Char('/') + naam);
+    QFile bestand(Map() + u'/' + naam);
     QVERIFY(bestand.open(QIODevice::WriteOnly));
     QCOMPARE(bestand.write(inhoud), inhoud.size());
 }
 
 QStringList Testbank::Bestanden(const QString &onderMap) const
 {
-    return QDir(Map() + QLatin1Char('/') + onderMap).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+    return QDir(Map() + u'/' + onderMap).entryList(QDir::Files | QDir::Hidden, QDir::Name);
+}
+
+QString NamenIn(const QObject &venster)
+{
+    QStringList namen;
+    for (const QObject *kind : venster.findChildren<QObject *>())
+        if (!kind->objectName().isEmpty() && !kind->objectName().startsWith("qt_"_L1))
+            namen += kind->objectName();
+    return namen.join(u", "_s);
 }
 
 QRect InktVlak(const QImage &beeld, QRect vlak, QRgb achtergrond)

@@ -39,11 +39,11 @@ public:
     Testbank();
     ~Testbank();
 
-    QString Map() const { return map_.path() + QStringLiteral("/app"); }     ///< for AppPath
-    QString Thuis() const { return map_.path() + QStringLiteral("/thuis"); } ///< the user's home
-    QByteArray Inhoud(const QString &naam) const;                            ///< of a file below Map
-    void Schrijf(const QString &naam, const QByteArray &inhoud) const;       ///< a file below Map
-    QStringList Bestanden(const QString &onderMap) const;                    ///< names of the files there, sorted
+    QString Map() const;                                               ///< for AppPath
+    QString Thuis() const;                                             ///< the user's home
+    QByteArray Inhoud(const QString &naam) const;                      ///< of a file below Map
+    void Schrijf(const QString &naam, const QByteArray &inhoud) const; ///< a file below Map
+    QStringList Bestanden(const QString &onderMap) const;              ///< names of the files there, sorted
 
     DirecteKlok TestKlok;
     BerichtenScript Script;
@@ -57,17 +57,16 @@ bool HeeftInkt(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255
 /// The smallest rectangle round all pixels within `vlak` that are not of the colour; empty when there are none.
 QRect InktVlak(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255, 255));
 
+/// The names of all that is below a window.
+QString NamenIn(const QObject &venster);
+
 /// The control of that name below a window; when there is none the test ends with a list of what is there.
 template <class Control> Control *Vind(const QObject &venster, const QString &naam)
 {
     if (auto *control = venster.findChild<Control *>(naam))
         return control;
-    QStringList namen;
-    for (const QObject *kind : venster.findChildren<QObject *>())
-        if (!kind->objectName().isEmpty() && !kind->objectName().startsWith(QLatin1String("qt_")))
-            namen += kind->objectName();
     qFatal("%s heeft geen %s, wel: %s", qPrintable(venster.objectName()), qPrintable(naam),
-           qPrintable(namen.join(QStringLiteral(", "))));
+           qPrintable(NamenIn(venster)));
     return nullptr;
 }
 
