@@ -1,6 +1,6 @@
 #include "app/Instellingen.h"
 
-#include "platform/Files.h"
+#include "platform/Velden.h"
 
 using namespace Qt::StringLiterals;
 

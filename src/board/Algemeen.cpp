@@ -88,20 +88,6 @@ void ToonSpecialeTekens()
            "¾ = Ctrl-Alt - 8"_s);
 }
 
-QString Hoofdletters(QString tekst)
-{
-    for (QChar &teken : tekst)
-        teken = teken.toUpper();
-    return tekst;
-}
-
-QString KleineLetters(QString tekst)
-{
-    for (QChar &teken : tekst)
-        teken = teken.toLower();
-    return tekst;
-}
-
 QString EersteHoofdletter(const QString &tekst)
 {
     return Hoofdletters(tekst.left(1)) + KleineLetters(tekst.mid(1));

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Teksten.h"
+
 #include <QEventLoop>
 #include <QString>
 
@@ -50,9 +52,6 @@ void Wachten(double seconden, QEventLoop::ProcessEventsFlags welke = QEventLoop:
 QString HaalGebruiker();
 bool BestandBestaat(const QString &pad);
 void ToonSpecialeTekens();
-/// Upper or lower case, each character by itself: a text keeps its length, and a name goes on meeting its files.
-QString Hoofdletters(QString tekst);
-QString KleineLetters(QString tekst);
 /// The first character upper case, the rest lower case.
 QString EersteHoofdletter(const QString &tekst);
 

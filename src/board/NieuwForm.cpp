@@ -109,12 +109,12 @@ void NieuwForm::OkKnop_Click()
     Wachten(0.2);
     if (Unloaded()) // closed meanwhile
         return;
-    if (Text1->text().trimmed().isEmpty()) {
+    if (Trim(Text1->text()).isEmpty()) {
         MsgBox(u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
         Text1->setFocus();
         return;
     }
-    PuzzelNaam = Text1->text().trimmed().remove(u' ');
+    PuzzelNaam = Trim(Text1->text()).remove(u' ');
     Main().Bestandsnaam->setText(PuzzelNaam);
 
     int breedte = Getallen::NaarInt32(Combo1->currentText());

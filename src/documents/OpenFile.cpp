@@ -7,6 +7,7 @@
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Kleur.h"
+#include "platform/PictureFiles.h"
 #include "platform/Plaatjes.h"
 
 using namespace Qt::StringLiterals;

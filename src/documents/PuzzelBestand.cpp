@@ -1,6 +1,9 @@
 #include "documents/PuzzelBestand.h"
 
-#include "platform/Files.h"
+#include "platform/CodePage.h"
+#include "platform/Fout.h"
+#include "platform/Teksten.h"
+#include "platform/Velden.h"
 
 using namespace Qt::StringLiterals;
 
@@ -23,7 +26,7 @@ PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud)
             QStringList rij;
             for (int i = 0; i < 4; ++i)
                 rij += lezer.Tekst();
-            if (!rij[0].trimmed().isEmpty())
+            if (!Trim(rij[0]).isEmpty())
                 lijst.Rijen += rij;
             lezer.Tekst();
         }
@@ -35,7 +38,7 @@ QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const
 {
     QStringList regels{Banner, QString::number(soort), QString::number(breedte), QString::number(hoogte), Streep};
     for (const QStringList &rij : rijen)
-        regels += QStringList{rij[0].trimmed(), rij[1], rij[2], rij[3], Streep};
+        regels += QStringList{Trim(rij[0]), rij[1], rij[2], rij[3], Streep};
     const QString einde = u"\r\n"_s;
     return Files::NaarBytes(regels.join(einde) + einde);
 }

@@ -7,7 +7,9 @@
 #include "platform/Files.h"
 #include "platform/Getallen.h"
 #include "platform/Kleur.h"
+#include "platform/PictureFiles.h"
 #include "platform/Screen.h"
+#include "platform/Teksten.h"
 
 #include <QStandardPaths>
 
@@ -53,7 +55,7 @@ void SaveForm::CancelKnop_Click()
 void SaveForm::SaveKnop_Click()
 {
     SaveKnop->Druk();
-    if (Text1->text().trimmed().isEmpty()) {
+    if (Trim(Text1->text()).isEmpty()) {
         MsgBox(u"Naam Puzzel ontbreekt!"_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
         Text1->setFocus();
         return;

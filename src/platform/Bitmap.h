@@ -4,7 +4,8 @@
 #include <QImage>
 
 /// A bitmap file as it lies on disk: a head, then the rows. We write pixels of 32 bits from the top row down, so that
-/// the file is head and picture without any conversion.
+/// the file is head and picture without any conversion: that is what makes a save cost no more than its bytes. And a
+/// head that announces more than there is shows a cut file, which Qt's reader would give as a whole picture.
 ///
 ///     0             14                   54  56
 ///     +-------------+--------------------+--+----------------------

@@ -1,21 +1,17 @@
 #pragma once
 
 #include "platform/Fout.h"
+#include "platform/Grenzen.h"
 
 #include <QByteArray>
-#include <QImage>
 #include <QStringList>
 
-/// Files as the system knows them: text in code page 1252, names that are looked up ignoring case. A path comes from
-/// Pad; what a path names need not exist. Failures are a Fout.
+/// Files as the system knows them, their names and their contents: every name is looked up ignoring case. A path comes
+/// from Pad; what a path names need not exist. Failures are a Fout.
 namespace Files {
 
-inline constexpr qint64 GrootsteInhoud = qint64{256} << 20; ///< the largest picture that there is, in bytes
 inline constexpr qint64 GrootsteBestand =
-    GrootsteInhoud + 1024; ///< the largest file that is read: that picture, with its head
-
-QByteArray NaarBytes(const QString &tekst); ///< to code page 1252; a character that it lacks becomes "?"
-QString NaarTekst(QByteArrayView bytes);    ///< from code page 1252; every byte gives one character
+    GrootsteBeeld + 1024; ///< the largest file that is read, in bytes: the largest picture with its head
 
 /// The path of a file below an existing folder. Each name is one file name; where a file of that name, ignoring case,
 /// exists, its own spelling is taken, otherwise the spelling given.
@@ -37,46 +33,8 @@ void MkDir(const QString &pad);
 QByteArray Lees(const QString &pad);
 /// Makes the file anew with this content, all or nothing: when the writing fails, the old file stays.
 void Schrijf(const QString &pad, const QByteArray &inhoud);
+void Schrijf(const QString &pad, std::initializer_list<QByteArrayView> delen); ///< parts, one behind the other
 /// Gives a file another name in its folder; the name's own case is taken over.
 void Hernoem(const QString &pad, const QString &naam);
-
-/// A bitmap file. Raises Fout::OngeldigeAfbeelding when it is no whole picture.
-QImage LoadPicture(const QString &pad);
-/// Writes the picture as a bitmap file of 32 bits a pixel.
-void SavePicture(const QImage &beeld, const QString &pad);
-/// Makes a JPEG file of a bitmap file. @param kwaliteit 0..100
-void BmpToJpeg(const QString &bitmap, const QString &jpeg, int kwaliteit);
-
-/// Typed reading: fields that end at a comma or a line end, quotes taken off, blanks before a field passed over. All
-/// raise Fout::EindeBestand when nothing is left; the numbers Fout::TypeOnjuist and Fout::Overloop.
-class VeldLezer
-{
-public:
-    explicit VeldLezer(QByteArrayView inhoud) : rest_(inhoud) {}
-
-    bool Einde() const { return rest_.isEmpty(); }
-    QString Tekst();
-    quint8 Byte();
-    qint16 Int16();
-    qint32 Int32();
-
-private:
-    QByteArrayView Neem(qsizetype aantal);
-    void SlaScheidingOver();
-
-    QByteArrayView rest_;
-};
-
-/// Typed writing: strings in double quotes, numbers bare, commas between the values of a line, CR LF behind each line.
-class VeldSchrijver
-{
-public:
-    void Regel(const QString &tekst);
-    void Regel(std::initializer_list<int> getallen);
-    const QByteArray &Inhoud() const { return inhoud_; }
-
-private:
-    QByteArray inhoud_;
-};
 
 } // namespace Files

@@ -32,7 +32,7 @@ double Val(QStringView tekst)
 template <class Type> static Type Strikt(QStringView tekst)
 {
     bool isGetal = false;
-    const double waarde = tekst.trimmed().toDouble(&isGetal);
+    const double waarde = tekst.toDouble(&isGetal);
     // The words "inf" and "nan" are read as numbers; digits beyond a double's range are refused, but give infinity.
     if (isGetal ? !std::isfinite(waarde) : !std::isinf(waarde))
         throw Fout(Fout::TypeOnjuist, tekst.left(40).toString());

@@ -1,7 +1,7 @@
 #include "platform/PictureBox.h"
 
-#include "platform/Files.h"
 #include "platform/Fout.h"
+#include "platform/Grenzen.h"
 #include "platform/Twips.h"
 
 #include <QMouseEvent>
@@ -23,7 +23,7 @@ void PictureBox::ControleerMaat(double breedte, double hoogte)
     if (breedte < 0 || hoogte < 0)
         throw Fout(Fout::OngeldigeWaarde, u"een negatieve maat"_s);
     const double pixels = breedte / Twips::PerPixel * (hoogte / Twips::PerPixel);
-    if (pixels * 4 > static_cast<double>(Files::GrootsteInhoud))
+    if (pixels * 4 > static_cast<double>(GrootsteBeeld))
         throw Fout(Fout::GeheugenVol, u"een te grote afbeelding"_s);
 }
 

@@ -3,6 +3,7 @@
 #include "documents/PuzzelBestand.h"
 #include "documents/SaveForm.h"
 #include "platform/Files.h"
+#include "platform/PictureFiles.h"
 #include "support/Bord.h"
 
 #include <QDir>

@@ -1,5 +1,4 @@
 #include "documents/PuzzelBestand.h"
-#include "platform/Files.h"
 #include "support/Testbank.h"
 
 using namespace Qt::StringLiterals;

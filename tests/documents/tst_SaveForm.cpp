@@ -1,5 +1,6 @@
 #include "documents/SaveForm.h"
 #include "platform/Files.h"
+#include "platform/PictureFiles.h"
 #include "support/Bord.h"
 
 #include <QDir>

@@ -1,0 +1,87 @@
+#include "platform/Velden.h"
+
+#include "platform/CodePage.h"
+#include "platform/Fout.h"
+#include "platform/Getallen.h"
+
+#include <QByteArrayList>
+
+namespace Files {
+
+static constexpr char LineEnd[] = "\r\n";
+
+static bool IsLineEnd(char c)
+{
+    return c == '\r' || c == '\n';
+}
+
+QByteArrayView VeldLezer::Neem(qsizetype aantal)
+{
+    const QByteArrayView deel = rest_.first(aantal);
+    rest_ = rest_.sliced(aantal);
+    return deel;
+}
+
+void VeldLezer::SlaScheidingOver()
+{
+    if (rest_.startsWith(QByteArrayView(LineEnd)))
+        Neem(2);
+    else if (!rest_.isEmpty() && (rest_.front() == ',' || IsLineEnd(rest_.front())))
+        Neem(1);
+}
+
+QString VeldLezer::Tekst()
+{
+    if (Einde())
+        throw Fout(Fout::EindeBestand);
+    const auto slaBlanksOver = [this] {
+        while (!Einde() && (rest_.front() == ' ' || rest_.front() == '\t'))
+            Neem(1);
+    };
+    const auto neemTot = [this](auto &&isEinde) {
+        return Neem(std::find_if(rest_.begin(), rest_.end(), isEinde) - rest_.begin());
+    };
+    slaBlanksOver();
+    QString tekst;
+    if (rest_.startsWith('"')) {
+        Neem(1);
+        tekst = NaarTekst(neemTot([](char c) { return c == '"'; }));
+        if (!Einde())
+            Neem(1);
+        slaBlanksOver();
+    } else {
+        tekst = NaarTekst(neemTot([](char c) { return c == ',' || IsLineEnd(c); }));
+    }
+    SlaScheidingOver();
+    return tekst;
+}
+
+quint8 VeldLezer::Byte()
+{
+    return Getallen::NaarByte(Tekst());
+}
+
+qint16 VeldLezer::Int16()
+{
+    return Getallen::NaarInt16(Tekst());
+}
+
+qint32 VeldLezer::Int32()
+{
+    return Getallen::NaarInt32(Tekst());
+}
+
+void VeldSchrijver::Regel(const QString &tekst)
+{
+    inhoud_ += '"' + NaarBytes(tekst) + '"' + LineEnd;
+}
+
+void VeldSchrijver::Regel(std::initializer_list<int> getallen)
+{
+    QByteArrayList delen;
+    for (const int getal : getallen)
+        delen += QByteArray::number(getal);
+    inhoud_ += delen.join(',') + LineEnd;
+}
+
+} // namespace Files

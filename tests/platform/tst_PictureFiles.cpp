@@ -1,0 +1,294 @@
+#include "platform/Files.h"
+#include "platform/PictureFiles.h"
+#include "support/Testbank.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QtEndian>
+
+#include <limits>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+/// A picture in which no two neighbours are alike, of a width that leaves each row of a bitmap file with padding.
+static QImage BontBeeld(QSize maat = QSize(13, 7))
+{
+    QImage beeld(maat, QImage::Format_RGB32);
+    for (int y = 0; y < beeld.height(); ++y)
+        for (int x = 0; x < beeld.width(); ++x)
+            beeld.setPixel(x, y, qRgb(x * 19 % 256, y * 36 % 256, (x + y) * 12 % 256));
+    return beeld;
+}
+
+static QByteArray Bytes(int waarde)
+{
+    QByteArray bytes(4, 0);
+    qToLittleEndian(waarde, bytes.data());
+    return bytes;
+}
+
+/// A bitmap's head of 54 bytes, the colours behind it, and the pixels behind those.
+static QByteArray Bitmap(int breedte, int hoogte, int bits, int compressie, const QByteArray &kleuren,
+                         const QByteArray &pixels)
+{
+    const int begin = 54 + int(kleuren.size());
+    return "BM" + Bytes(begin + int(pixels.size())) + Bytes(0) + Bytes(begin) + Bytes(40) + Bytes(breedte) +
+           Bytes(hoogte) + Bytes(1 | bits << 16) + Bytes(compressie) + Bytes(int(pixels.size())) + Bytes(0) + Bytes(0) +
+           Bytes(bits == 8 ? 256 : 0) + Bytes(0) + kleuren + pixels;
+}
+
+static QByteArray ZestienBits()
+{
+    return Bitmap(4, 3, 16, 3, Bytes(0xF800) + Bytes(0x07E0) + Bytes(0x001F), QByteArray(4 * 3 * 2, '\x5A'));
+}
+
+static QByteArray RunLength()
+{
+    QByteArray kleuren;
+    for (int i = 0; i < 256; ++i)
+        kleuren += Bytes(i | i << 8 | i << 16);
+    const QByteArray rij("\x08\x7F\x00\x00", 4);
+    return Bitmap(8, 3, 8, 1, kleuren, rij + rij + QByteArray("\x08\x7F\x00\x01", 4));
+}
+
+class TestPictureFiles : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init() { bank_.emplace(); }
+    void cleanup() { bank_.reset(); }
+
+    void aPictureComesBackPixelForPixel();
+    void anotherReaderSeesTheSamePicture();
+    void aPictureThatAnotherProgramWroteIsRead();
+    void aLoadedPictureStaysWhenItsFileGoes();
+    void aBitmapFileHasThirtyTwoBits_data();
+    void aBitmapFileHasThirtyTwoBits();
+    void noPictureCannotBeSaved();
+    void aMissingPictureIsNotFound();
+    void whatIsNoBitmapGivesNoPicture_data();
+    void whatIsNoBitmapGivesNoPicture();
+    void aBitmapCutOffAnywhereGivesNoPicture_data();
+    void aBitmapCutOffAnywhereGivesNoPicture();
+    void aHeadThatLiesAboutItsSizeGivesNoPicture_data();
+    void aHeadThatLiesAboutItsSizeGivesNoPicture();
+    void damagedHeadsNeverDoHarm();
+    void aPictureAboveTheLimitIsOutOfMemory();
+    void aJpegHasTheSizeOfItsBitmap();
+    void aJpegOfNoBitmapIsNotMade();
+
+private:
+    QString Map() const { return bank_->Map(); }
+    QString Volledig(const char *naam) const { return Map() + u'/' + QLatin1String(naam); }
+
+    std::optional<Testbank> bank_;
+};
+
+void TestPictureFiles::aPictureComesBackPixelForPixel()
+{
+    const QImage beeld = BontBeeld();
+    Files::SavePicture(beeld, Volledig("a.bmp"));
+    const QImage terug = Files::LoadPicture(Volledig("a.bmp"));
+    QCOMPARE(terug.format(), QImage::Format_RGB32);
+    QCOMPARE(terug.size(), beeld.size());
+    for (int y = 0; y < beeld.height(); ++y)
+        for (int x = 0; x < beeld.width(); ++x)
+            QCOMPARE(terug.pixel(x, y), beeld.pixel(x, y));
+}
+
+void TestPictureFiles::anotherReaderSeesTheSamePicture()
+{
+    Files::SavePicture(BontBeeld(), Volledig("a.bmp"));
+    QCOMPARE(QImage(Volledig("a.bmp"), "bmp").convertToFormat(QImage::Format_RGB32), BontBeeld());
+}
+
+void TestPictureFiles::aPictureThatAnotherProgramWroteIsRead()
+{
+    QVERIFY(BontBeeld().save(Volledig("a.bmp"), "bmp"));
+    QCOMPARE(Files::LoadPicture(Volledig("a.bmp")), BontBeeld());
+    QVERIFY(BontBeeld().convertToFormat(QImage::Format_Mono).save(Volledig("b.bmp"), "bmp"));
+    QCOMPARE(Files::LoadPicture(Volledig("b.bmp")),
+             BontBeeld().convertToFormat(QImage::Format_Mono).convertToFormat(QImage::Format_RGB32));
+}
+
+void TestPictureFiles::aLoadedPictureStaysWhenItsFileGoes()
+{
+    Files::SavePicture(BontBeeld(), Volledig("a.bmp"));
+    const QImage beeld = Files::LoadPicture(Volledig("a.bmp"));
+    Files::Schrijf(Volledig("a.bmp"), QByteArray(1000, 'x'));
+    Files::Kill(Volledig("a.bmp"));
+    QCOMPARE(beeld, BontBeeld());
+}
+
+void TestPictureFiles::aBitmapFileHasThirtyTwoBits_data()
+{
+    QTest::addColumn<int>("vorm");
+    QTest::newRow("screen") << int(QImage::Format_RGB32);
+    QTest::newRow("transparent") << int(QImage::Format_ARGB32_Premultiplied);
+    QTest::newRow("grey") << int(QImage::Format_Grayscale8);
+    QTest::newRow("indexed") << int(QImage::Format_Indexed8);
+    QTest::newRow("black and white") << int(QImage::Format_Mono);
+}
+
+void TestPictureFiles::aBitmapFileHasThirtyTwoBits()
+{
+    QFETCH(int, vorm);
+    Files::SavePicture(BontBeeld().convertToFormat(static_cast<QImage::Format>(vorm)), Volledig("a.bmp"));
+    const QByteArray bytes = bank_->Inhoud(u"a.bmp"_s);
+    QVERIFY(bytes.startsWith("BM"));
+    QCOMPARE(int(qFromLittleEndian<quint16>(bytes.constData() + 28)), 32);
+    const qsizetype begin = qFromLittleEndian<qint32>(bytes.constData() + 10);
+    QCOMPARE(bytes.size(), begin + 13 * 4 * 7);
+    QCOMPARE(qFromLittleEndian<qint32>(bytes.constData() + 2), qint32(bytes.size()));
+}
+
+void TestPictureFiles::noPictureCannotBeSaved()
+{
+    QCOMPARE(FoutVan([&] { Files::SavePicture({}, Volledig("a.bmp")); }), int{Fout::OngeldigeAfbeelding});
+    QCOMPARE(bank_->Bestanden({}), QStringList());
+}
+
+void TestPictureFiles::aMissingPictureIsNotFound()
+{
+    QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::BestandNietGevonden});
+}
+
+void TestPictureFiles::whatIsNoBitmapGivesNoPicture_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::newRow("empty") << QByteArray();
+    QTest::newRow("two letters") << QByteArray("BM");
+    QTest::newRow("zeroes") << QByteArray(1000, 0);
+    QTest::newRow("all bits set") << QByteArray(1000, '\xFF');
+    QTest::newRow("letters behind a bitmap's two") << "BM" + QByteArray(1000, 'x');
+    QTest::newRow("a text") << QByteArray("Puzzel\r\n").repeated(20);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    BontBeeld().save(&buffer, "png");
+    QTest::newRow("a picture of another kind") << png;
+}
+
+void TestPictureFiles::whatIsNoBitmapGivesNoPicture()
+{
+    QFETCH(QByteArray, bytes);
+    bank_->Schrijf(u"a.bmp"_s, bytes);
+    QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::OngeldigeAfbeelding});
+}
+
+void TestPictureFiles::aBitmapCutOffAnywhereGivesNoPicture_data()
+{
+    QTest::addColumn<QByteArray>("heel");
+    QTest::newRow("24 bits") << Bitmap(13, 7, 24, 0, {}, QByteArray(40 * 7, 'x'));
+    QTest::newRow("24 bits, top row first") << Bitmap(13, -7, 24, 0, {}, QByteArray(40 * 7, 'x'));
+    QTest::newRow("32 bits") << Bitmap(13, 7, 32, 0, {}, QByteArray(13 * 4 * 7, 'x'));
+    QTest::newRow("32 bits, top row first") << Bitmap(13, -7, 32, 0, QByteArray(2, 0), QByteArray(13 * 4 * 7, 'x'));
+    QTest::newRow("16 bits with masks") << ZestienBits();
+    QTest::newRow("run lengths") << RunLength();
+}
+
+void TestPictureFiles::aBitmapCutOffAnywhereGivesNoPicture()
+{
+    QFETCH(QByteArray, heel);
+    bank_->Schrijf(u"a.bmp"_s, heel);
+    QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), 0);
+    for (int lengte = 0; lengte < heel.size(); ++lengte) {
+        bank_->Schrijf(u"a.bmp"_s, heel.left(lengte));
+        const int nummer = FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); });
+        QVERIFY2(nummer == Fout::OngeldigeAfbeelding,
+                 qPrintable(u"%1 of %2 bytes: %3"_s.arg(lengte).arg(heel.size()).arg(nummer)));
+    }
+}
+
+void TestPictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture_data()
+{
+    QTest::addColumn<int>("breedte");
+    QTest::addColumn<int>("hoogte");
+    QTest::addColumn<int>("bits");
+    constexpr int Most = std::numeric_limits<int>::max(), Least = std::numeric_limits<int>::min();
+    QTest::newRow("60000 x 60000") << 60000 << 60000 << 24;
+    QTest::newRow("wide") << Most << 1 << 24;
+    QTest::newRow("high") << 1 << Most << 24;
+    QTest::newRow("largest") << Most << Most << 32;
+    QTest::newRow("largest with most bits") << Most << Most << 0xFFFF;
+    QTest::newRow("upside down") << Most << Least << 0x7FFF;
+    QTest::newRow("no width") << 0 << 7 << 24;
+    QTest::newRow("no height") << 13 << 0 << 24;
+    QTest::newRow("negative width") << -13 << 7 << 24;
+    QTest::newRow("smallest width") << Least << Least << 0x7FFF;
+    QTest::newRow("no bits") << 13 << 7 << 0;
+    QTest::newRow("odd bits") << 13 << 7 << 23;
+}
+
+void TestPictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture()
+{
+    QFETCH(int, breedte);
+    QFETCH(int, hoogte);
+    QFETCH(int, bits);
+    for (const int compressie : {0, 1, 3}) {
+        bank_->Schrijf(u"a.bmp"_s, Bitmap(breedte, hoogte, bits, compressie, {}, QByteArray(280, 'x')));
+        QVERIFY(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }) != 0);
+    }
+}
+
+void TestPictureFiles::damagedHeadsNeverDoHarm()
+{
+    const QByteArray heel = Bitmap(13, 7, 24, 0, {}, QByteArray(280, 'x'));
+    int mislukt = 0;
+    for (int plaats = 0; plaats < 54; ++plaats)
+        for (const char byte : {'\0', '\x01', '\x7F', '\x80', '\xFF'}) {
+            QByteArray bytes = heel;
+            bytes[plaats] = byte;
+            bank_->Schrijf(u"a.bmp"_s, bytes);
+            try {
+                QVERIFY(!Files::LoadPicture(Volledig("a.bmp")).isNull());
+            } catch (const Fout &) {
+                ++mislukt;
+            }
+        }
+    QVERIFY(mislukt > 0);
+}
+
+void TestPictureFiles::aPictureAboveTheLimitIsOutOfMemory()
+{
+    // One bit a pixel: the file stays small, the picture in memory doesn't.
+    constexpr int Zijde = 8200;
+    static_assert(qint64{Zijde} * Zijde * 4 > GrootsteBeeld);
+    bank_->Schrijf(u"a.bmp"_s,
+                   Bitmap(Zijde, Zijde, 1, 0, QByteArray(8, 0), QByteArray((Zijde + 31) / 32 * 4 * Zijde, 0)));
+    QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::GeheugenVol});
+}
+
+void TestPictureFiles::aJpegHasTheSizeOfItsBitmap()
+{
+    QImage beeld(50, 30, QImage::Format_RGB32);
+    beeld.fill(qRgb(200, 100, 50));
+    Files::SavePicture(beeld, Volledig("a.bmp"));
+    Files::BmpToJpeg(Volledig("a.bmp"), Volledig("a.jpg"), 90);
+    QVERIFY(bank_->Inhoud(u"a.jpg"_s).startsWith("\xFF\xD8"));
+    const QImage terug(Volledig("a.jpg"), "jpg");
+    QCOMPARE(terug.size(), beeld.size());
+    QVERIFY(std::abs(qRed(terug.pixel(25, 15)) - 200) < 10);
+    QVERIFY(std::abs(qBlue(terug.pixel(25, 15)) - 50) < 10);
+
+    Files::SavePicture(BontBeeld(QSize(100, 100)), Volledig("b.bmp"));
+    Files::BmpToJpeg(Volledig("b.bmp"), Volledig("fijn.jpg"), 100);
+    Files::BmpToJpeg(Volledig("b.bmp"), Volledig("grof.jpg"), 10);
+    QVERIFY(QFileInfo(Volledig("grof.jpg")).size() < QFileInfo(Volledig("fijn.jpg")).size());
+}
+
+void TestPictureFiles::aJpegOfNoBitmapIsNotMade()
+{
+    bank_->Schrijf(u"a.bmp"_s, "BM");
+    QCOMPARE(FoutVan([&] { Files::BmpToJpeg(Volledig("a.bmp"), Volledig("a.jpg"), 90); }),
+             int{Fout::OngeldigeAfbeelding});
+    QCOMPARE(FoutVan([&] { Files::BmpToJpeg(Volledig("b.bmp"), Volledig("a.jpg"), 90); }),
+             int{Fout::BestandNietGevonden});
+    QCOMPARE(bank_->Bestanden({}), QStringList{"a.bmp"});
+}
+
+RASTER_TEST(TestPictureFiles)
+#include "tst_PictureFiles.moc"
