@@ -20,8 +20,7 @@ using namespace Qt::StringLiterals;
 static void DrawBothBoards(benchmark::State &state)
 {
     for (auto _ : state) {
-        TekenRaster(16, 19);
-        TekenGroot(16, 19);
+        TekenBord(16, 19);
     }
 }
 BENCHMARK(DrawBothBoards)->Unit(benchmark::kMicrosecond);
@@ -105,8 +104,7 @@ int main(int argc, char *argv[])
     Berichten::Gebruik(&berichten);
     MainForm main;
     BeginWaarden();
-    TekenRaster(BoardWidth, BoardHeight);
-    TekenGroot(BoardWidth, BoardHeight);
+    TekenBord(BoardWidth, BoardHeight);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

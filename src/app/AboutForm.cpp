@@ -2,7 +2,7 @@
 
 #include "Adressen.h"
 
-#include "platform/Plaatjes.h"
+#include "platform/Kleur.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -10,6 +10,7 @@
 
 using namespace Qt::StringLiterals;
 
+// The file is the program's own, whatever it is called here.
 static QString OverTekst()
 {
     const QFileInfo programma(QCoreApplication::applicationFilePath());
@@ -23,23 +24,20 @@ static QString OverTekst()
                .arg(QLocale::system().toString(programma.lastModified(), QLocale::ShortFormat));
 }
 
-AboutForm::AboutForm() : Form(u"AboutForm"_s, u"About Rasteratelier..."_s, 6390, 2910, qRgb(230, 230, 190))
+AboutForm::AboutForm() : Form(u"AboutForm"_s, u"About Rasteratelier..."_s, 6390, 2910, RGB(230, 230, 190))
 {
-    Image1 = Maak<QLabel>("Image1", u"Raster Atelier"_s, nullptr);
-    Label1 = MaakLabel("Label1", OverTekst());
-    CancelKnop = Maak<ImageButton>("CancelKnop", u"Sluiten"_s, nullptr, u"knop-sluiten"_s);
+    Image1 = MaakBeeld("Image1", u"Raster Atelier"_s, u"rasteratelier"_s);
+    Label1 = MaakUitleg("Label1", OverTekst());
+    CancelKnop = MaakKnop("CancelKnop", u"Sluiten"_s, u"knop-sluiten"_s);
 
     Zet(Image1, 180, 210, 1920, 1920);
     Zet(Label1, 2250, 300, 3900, 1800);
     Zet(CancelKnop, 5070, 1920);
 
-    Image1->setPixmap(Plaatjes::Pixmap(u"rasteratelier"_s, Image1->size(), devicePixelRatioF()));
-    Label1->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
+    bij(CancelKnop, &ImageButton::clicked, &AboutForm::CancelKnop_Click);
 }
 
 void AboutForm::CancelKnop_Click()
 {
-    CancelKnop->Druk();
-    Unload();
+    Sluit(CancelKnop);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 
 /// Tells what the program is, its version, and the size and date of its file.
@@ -10,7 +11,7 @@ public:
     AboutForm();
     void CancelKnop_Click();
 
-    QLabel *Image1;
+    ImageBox *Image1;
     Label *Label1;
     ImageButton *CancelKnop;
 };

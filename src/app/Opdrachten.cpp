@@ -8,6 +8,7 @@
 #include "board/MainForm.h"
 #include "board/NieuwForm.h"
 #include "board/Opvullen.h"
+#include "board/Soorten.h"
 #include "documents/OpenFile.h"
 #include "documents/SaveForm.h"
 #include "editors/Filippine.h"
@@ -63,15 +64,14 @@ void VerbindOpdrachten()
 void SoortVakTekst_Click(int index)
 {
     switch (index) {
-    case 1:
+    case VakMenu::Infovakje:
         Toon<VakForm>();
         break;
-    case 2:
+    case VakMenu::Oplossing:
         Toon<TekstForm>();
         break;
-    case 5:
-        if (MsgBox(u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s, Knoppen::JaNee, Icoon::Geen,
-                   u"Fill"_s) == Antwoord::Ja)
+    case VakMenu::Opvullen:
+        if (JaNee(u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s, u"Fill"_s))
             VulLegeVakjes();
         break;
     }

@@ -24,8 +24,7 @@ static void BewaarInstellingen()
 void LaadMain()
 {
     BeginWaarden();
-    TekenRaster(BoardWidth, BoardHeight);
-    TekenGroot(BoardWidth, BoardHeight);
+    TekenBord(BoardWidth, BoardHeight);
     if (!Files::FileExists(InstellingenPad())) {
         BewaarInstellingen();
         return;

@@ -95,11 +95,8 @@ void MaakPuzzel(const QList<QStringList> &bron)
 QString LijstTekst()
 {
     QString tekst;
-    for (int i = 0; i < Main().ListView1->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem *rij = Main().ListView1->topLevelItem(i);
-        for (int kolom = 0; kolom < 4; ++kolom)
-            tekst += rij->text(kolom) + (kolom < 3 ? u'\t' : u'\n');
-    }
+    for (const Rij &rij : Main().Rijen())
+        tekst += QStringList{rij.Vaknummer, rij.Omschrijving, rij.Oplossing, rij.Nr}.join(u'\t') + u'\n';
     return tekst;
 }
 

@@ -93,21 +93,11 @@ QString EersteHoofdletter(const QString &tekst)
     return Hoofdletters(tekst.left(1)) + KleineLetters(tekst.mid(1));
 }
 
-QString MetCode(QString woord)
+int LetterVerschuiving(QChar letter)
 {
-    return woord.replace("ij"_L1, "?"_L1);
-}
-
-QString ZonderCode(QString woord)
-{
-    return woord.replace(u'?', "ij"_L1);
-}
-
-int LetterVerschuiving(const QString &letter)
-{
-    if (letter == "W"_L1)
+    if (letter == u'W')
         return -45;
-    if (letter == "I"_L1)
+    if (letter == u'I')
         return 60;
     return 0;
 }

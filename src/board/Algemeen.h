@@ -55,11 +55,11 @@ void ToonSpecialeTekens();
 /// The first character upper case, the rest lower case.
 QString EersteHoofdletter(const QString &tekst);
 
-// The long IJ takes one cell: while a word is placed or counted it is the one character "?".
+// Where a letter stands in its cell, in twips from the cell's corner.
+inline constexpr int LetterX = 165; ///< on Pic
+inline constexpr int LetterY = 105;
+inline constexpr int LetterGrootX = 600; ///< on PicGroot
+inline constexpr int LetterGrootY = 360;
 
-/// Each "ij" as "?"; small letters only.
-QString MetCode(QString woord);
-/// Each "?" as "ij" again.
-QString ZonderCode(QString woord);
 /// How far a letter is moved to stand in the middle of its cell on Pic, in twips: the wide "W" and the narrow "I".
-int LetterVerschuiving(const QString &letter);
+int LetterVerschuiving(QChar letter);

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "board/Rij.h"
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 #include "platform/ListBox.h"
 #include "platform/PictureBox.h"
@@ -14,7 +16,8 @@
 #include <QTimer>
 #include <QTreeWidget>
 
-/// The one window that stays open. Its controls hold the puzzle: Pic, PicGroot and ListView1.
+/// The one window that stays open. Its controls hold the puzzle: Pic, PicGroot and ListView1. Each of its areas has its
+/// layout and its handlers in a source file of its own.
 class MainForm : public Form
 {
     Q_OBJECT
@@ -22,23 +25,25 @@ public:
     MainForm();
     ~MainForm() override;
 
-    // The board, in MainFormBord.cpp.
+    // The board: MainFormBord.cpp.
     void Pic_MouseMove(double x, double y);
     void Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm);
+    void Timer1_Timer();
+    void ToonSoort(); ///< shows the kind on Label12; a kind that there isn't leaves it alone
+    /// What every puzzle that comes on the board ends with, a new one and an opened one: its name and its size in the
+    /// bars, the controls of its kind, the count of its rows, and no mark on the board.
+    /// @param programma what stands before the size in the title
+    void ToonPuzzel(const QString &programma);
 
-    // The entry list, in MainFormLijst.cpp.
+    // The entry list: MainFormLijst.cpp.
     void ListView1_ItemClick();
     void DelKnop_Click();
-    /// Adds a row at the end. The first row is selected as long as no other is.
-    void VoegRijToe(const QString &vaknummer, const QString &omschrijving, const QString &oplossing, const QString &nr);
-    void VoegRijenToe(const QList<QStringList> &rijen);
+    /// Adds rows at the end. The first row is selected as long as no other is.
+    void VoegRijenToe(const QList<Rij> &rijen);
     void WisRijen();
+    QList<Rij> Rijen() const;
     /// Shows the number of rows on Label11.
     void ToonAantal();
-
-    void Timer1_Timer();
-    void ToonSoort();      ///< shows the kind on Label12; a kind that there isn't leaves it alone
-    void ToonSoortDelen(); ///< shows the Sudoku panel and enables the Filippine commands for the kind that has them
 
     /// Asked when the window is to close; false keeps it open.
     std::function<bool()> MagSluiten;
@@ -54,7 +59,7 @@ public:
     QComboBox *Combo1;
     QScrollBar *ScrolLengte;
     ImageButton *DelKnop, *OkKnop, *LoadKnop, *HelpKnop, *AboutKnop, *ExitKnop;
-    QLabel *Image1, *LogoPic;
+    ImageBox *Image1, *LogoPic;
     QTimer *Timer1;
 
     QAction *FileNew, *FileOpen, *FileSave, *FilePrint, *FileExit;
@@ -69,12 +74,12 @@ public:
 
     QMenu *SoortPlaatsing; ///< the pop-up of a cell
     QMenu *SudokuMenu;     ///< the pop-up of a cell of a Sudoku
-    /// The items of SoortPlaatsing by their index, 1..9; separators among them.
+    /// The items of SoortPlaatsing by their index (VakMenu), 1..9; separators among them.
     std::array<QAction *, 10> SoortVakTekst{};
-    std::array<QAction *, 11> SuMe{}; ///< those of SudokuMenu, 0..10
+    std::array<QAction *, 12> SuMe{}; ///< those of SudokuMenu, 1..11: "1" to "9", a separator, "Hint"
 
 signals:
-    void VakMenuGekozen(int index); ///< the item of SoortPlaatsing that was chosen, by its index
+    void VakMenuGekozen(int index); ///< the item of SoortPlaatsing that was chosen (VakMenu)
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -83,12 +88,12 @@ protected:
 private:
     void MaakBord();
     void MaakLijst();
-    void MaakWoordPaneel();
-    void VulWoordPaneel();
+    void MaakWoordPaneel(); // this and its two parts in MainFormWoorden.cpp
+    void MaakDatabaseDeel();
+    void MaakWoordlijstDeel();
     void MaakKnoppen();
     void MaakMenuBalk(); // in MainFormMenu.cpp
     void MaakPopups();   // in MainFormMenu.cpp
-    void Verbind();
 
     QFrame *MaakFrame(const char *naam, const QString &leesnaam);
     PictureBox *MaakVerborgen(const char *naam, const QString &plaatje);
@@ -97,8 +102,3 @@ private:
 
 /// The main window. There is one.
 MainForm &Main();
-
-/// A row of the board as it is shown, from row 0: "01" up to "19".
-QString RijTekst(int rij);
-/// A column as it is shown, from column 0: "A" up to "P". Beyond those it is whatever sign comes next.
-QString KolomTekst(int kolom);

@@ -1,5 +1,8 @@
 #include "board/Algemeen.h"
+#include "board/LangeIJ.h"
 #include "board/MainForm.h"
+#include "board/Plaats.h"
+#include "board/Richtingen.h"
 #include "board/Soorten.h"
 #include "platform/Berichten.h"
 #include "platform/Getallen.h"
@@ -26,9 +29,9 @@ public:
 
 void MainForm::MaakLijst()
 {
-    ListView1 = Maak<QTreeWidget>("ListView1", u"Lijst van geplaatste woorden"_s, nullptr);
+    ListView1 = Maak<QTreeWidget>("ListView1", u"Lijst van geplaatste woorden"_s);
     Frame7 = MaakFrame("Frame7", u"Lijst"_s);
-    DelKnop = Maak<ImageButton>("DelKnop", u"Verwijder een item uit bovenstaande lijst"_s, Frame7, u"knop-wissen"_s);
+    DelKnop = MaakKnopMetTip("DelKnop", u" Verwijder een item uit bovenstaande lijst "_s, u"knop-wissen"_s, Frame7);
     Label10 = MaakLabel("Label10", u"Item verwijderen"_s, Frame7);
     Label11 = MaakLabel("Label11", u"0 Items"_s, Frame7);
 
@@ -49,10 +52,18 @@ void MainForm::MaakLijst()
     ListView1->setUniformRowHeights(true);
     ListView1->setItemDelegate(new BeginVanTekst(ListView1));
     Kleur(ListView1, RGB(220, 220, 250), RGB(0, 0, 0));
-    DelKnop->setToolTip(u" Verwijder een item uit bovenstaande lijst "_s);
+
+    bij(ListView1, &QTreeWidget::itemClicked, [this] { ListView1_ItemClick(); });
+    bij(ListView1, &QTreeWidget::itemSelectionChanged, [this] { ListView1_ItemClick(); });
+    bij(DelKnop, &ImageButton::clicked, &MainForm::DelKnop_Click);
 }
 
-static QTreeWidgetItem *GekozenRij(const QTreeWidget &lijst)
+static Rij RijVan(const QTreeWidgetItem &item)
+{
+    return {.Vaknummer = item.text(0), .Omschrijving = item.text(1), .Oplossing = item.text(2), .Nr = item.text(3)};
+}
+
+static QTreeWidgetItem *GekozenItem(const QTreeWidget &lijst)
 {
     const QList<QTreeWidgetItem *> gekozen = lijst.selectedItems();
     return gekozen.isEmpty() ? nullptr : gekozen.first();
@@ -61,25 +72,19 @@ static QTreeWidgetItem *GekozenRij(const QTreeWidget &lijst)
 // The row's position is trusted: a text that no editor made leads the line anywhere.
 void MainForm::ListView1_ItemClick()
 {
-    const QTreeWidgetItem *rij = GekozenRij(*ListView1);
-    if (!rij || rij->text(0) == "-"_L1)
-        return;
-    const QString plaats = rij->text(0);
-    const QString oplossing = Hoofdletters(rij->text(2)).replace("IJ"_L1, "?"_L1);
-    const double x = double{VakMaat} * (plaats.at(0).unicode() - 65);
-    const double y = Getallen::Val(QStringView(plaats).mid(2, 2)) * VakMaat - VakMaat;
-
+    const QTreeWidgetItem *item = GekozenItem(*ListView1);
+    const Rij rij = item ? RijVan(*item) : Rij();
     const Soort *soort = SoortVan(PuzzelType);
-    if (!soort || soort->Richtingen.isEmpty())
+    if (rij.Vaknummer.isEmpty() || rij.Vaknummer == "-"_L1 || !soort || soort->Richtingen.isEmpty())
         return;
-    Line1->X1 = x + VakMaat / 2.0;
-    Line1->Y1 = y + VakMaat / 2.0;
-    const QChar richting = plaats.back();
-    if (soort->Richtingen.contains(richting)) { // another letter leaves the end of the line where it was
-        const int lengte = Getallen::AlsInt16(qint64{oplossing.size()} * VakMaat) - VakMaat;
-        const bool omlaag = richting != u'H';
-        Line1->X2 = Line1->X1 + (richting == u'L' ? -lengte : richting == u'V' ? 0 : lengte);
-        Line1->Y2 = Line1->Y1 + (omlaag ? lengte : 0);
+    const Plaats plaats = LeesPlaats(rij.Vaknummer);
+    const int lengte = Getallen::AlsInt16(AantalVakjes(rij.Oplossing) * VakMaat) - VakMaat;
+    Line1->X1 = plaats.Kolom * VakMaat + VakMaat / 2.0;
+    Line1->Y1 = plaats.Rij * VakMaat + VakMaat / 2.0;
+    const Richting *richting = RichtingVan(plaats.Richting);
+    if (richting && soort->Richtingen.contains(plaats.Richting)) { // else the end of the line stays where it was
+        Line1->X2 = Line1->X1 + richting->Kolommen * lengte;
+        Line1->Y2 = Line1->Y1 + richting->Rijen * lengte;
     }
     Line1->Toon();
 }
@@ -88,12 +93,11 @@ void MainForm::ListView1_ItemClick()
 void MainForm::DelKnop_Click()
 {
     DelKnop->Druk();
-    QTreeWidgetItem *rij = GekozenRij(*ListView1);
-    if (!rij)
+    QTreeWidgetItem *item = GekozenItem(*ListView1);
+    if (!item)
         return;
-    const QString vraag = u"Wil je ("_s + rij->text(2) + u") verwijderen uit de lijst?"_s;
-    const int index = ListView1->indexOfTopLevelItem(rij);
-    if (MsgBox(vraag, Knoppen::JaNee, Icoon::Geen, u" Delete"_s) != Antwoord::Ja)
+    const int index = ListView1->indexOfTopLevelItem(item);
+    if (!JaNee(u"Wil je ("_s + RijVan(*item).Oplossing + u") verwijderen uit de lijst?"_s, u" Delete"_s))
         return;
     {
         const QSignalBlocker stil(ListView1);
@@ -105,22 +109,24 @@ void MainForm::DelKnop_Click()
     Line1->hide();
 }
 
-void MainForm::VoegRijToe(const QString &vaknummer, const QString &omschrijving, const QString &oplossing,
-                          const QString &nr)
-{
-    VoegRijenToe({{vaknummer, omschrijving, oplossing, nr}});
-}
-
-void MainForm::VoegRijenToe(const QList<QStringList> &rijen)
+void MainForm::VoegRijenToe(const QList<Rij> &rijen)
 {
     const QSignalBlocker stil(ListView1);
     QList<QTreeWidgetItem *> items;
     items.reserve(rijen.size());
-    for (const QStringList &rij : rijen)
-        items.append(new QTreeWidgetItem(rij));
+    for (const Rij &rij : rijen)
+        items.append(new QTreeWidgetItem({rij.Vaknummer, rij.Omschrijving, rij.Oplossing, rij.Nr}));
     ListView1->addTopLevelItems(items);
-    if (!GekozenRij(*ListView1) && ListView1->topLevelItemCount() > 0)
+    if (!GekozenItem(*ListView1) && ListView1->topLevelItemCount() > 0)
         ListView1->setCurrentItem(ListView1->topLevelItem(0));
+}
+
+QList<Rij> MainForm::Rijen() const
+{
+    QList<Rij> rijen;
+    for (int i = 0; i < ListView1->topLevelItemCount(); ++i)
+        rijen += RijVan(*ListView1->topLevelItem(i));
+    return rijen;
 }
 
 void MainForm::WisRijen()

@@ -1,4 +1,5 @@
 #include "board/MainForm.h"
+#include "board/Soorten.h"
 
 #include <QMenuBar>
 
@@ -15,12 +16,12 @@ struct MenuRegel
     QString Opschrift;
 };
 
-static QAction *MaakItem(QWidget *ouder, const MenuRegel &regel)
+static void MaakItem(QWidget &balkOfMenu, const MenuRegel &regel)
 {
-    auto *item = new QAction(regel.Opschrift, ouder);
-    item->setObjectName(QLatin1String(regel.Naam));
-    item->setEnabled(false);
-    return item;
+    *regel.Item = new QAction(regel.Opschrift, &balkOfMenu);
+    (*regel.Item)->setObjectName(QLatin1String(regel.Naam));
+    (*regel.Item)->setEnabled(false);
+    balkOfMenu.addAction(*regel.Item);
 }
 
 static void VulMenu(QMenuBar &balk, const char *naam, const QString &opschrift, const QList<MenuRegel> &regels)
@@ -29,7 +30,7 @@ static void VulMenu(QMenuBar &balk, const char *naam, const QString &opschrift, 
     menu->setObjectName(QLatin1String(naam));
     for (const MenuRegel &regel : regels) {
         if (regel.Item)
-            menu->addAction(*regel.Item = MaakItem(menu, regel));
+            MaakItem(*menu, regel);
         else
             menu->addSeparator()->setObjectName(QLatin1String(regel.Naam));
     }
@@ -75,8 +76,8 @@ void MainForm::MaakMenuBalk()
              {&HelpMail, "HelpMail", u"Mail sturen"_s},
              {nullptr, "helpStreep2", {}},
              {&HelpWoordlijstAanmaken, "HelpWoordlijstAanmaken", u"Woordlijsten aanmaken"_s}});
-    balk.addAction(Spatie = MaakItem(this, {nullptr, "Spatie", u"|"_s}));
-    balk.addAction(Bestandsnaam = MaakItem(this, {nullptr, "Bestandsnaam", u"Puzzelnaam"_s}));
+    MaakItem(balk, {&Spatie, "Spatie", u"|"_s});
+    MaakItem(balk, {&Bestandsnaam, "Bestandsnaam", u"Puzzelnaam"_s});
 }
 
 void MainForm::MaakPopups()
@@ -99,13 +100,18 @@ void MainForm::MaakPopups()
         SoortVakTekst[static_cast<std::size_t>(i)] = item;
         bij(item, &QAction::triggered, [this, i] { emit VakMenuGekozen(i); });
     }
-    SoortVakTekst[3]->setEnabled(false); // there is no letter editor yet
+    SoortVakTekst[VakMenu::Letter]->setEnabled(false); // there is no letter editor yet
 
     SudokuMenu = new QMenu(this);
     SudokuMenu->setObjectName(u"SudokuMenu"_s);
-    for (int i = 0; i < static_cast<int>(SuMe.size()); ++i) {
-        QAction *item =
-            i == 9 ? SudokuMenu->addSeparator() : SudokuMenu->addAction(i < 9 ? QString::number(i + 1) : u"Hint"_s);
+    for (int i = 1; i <= 11; ++i) {
+        QAction *item = nullptr;
+        if (i <= 9)
+            item = SudokuMenu->addAction(QString::number(i));
+        else if (i == 10)
+            item = SudokuMenu->addSeparator();
+        else
+            item = SudokuMenu->addAction(u"Hint"_s);
         item->setObjectName(u"SuMe(%1)"_s.arg(i));
         item->setEnabled(false); // a Sudoku cannot be played yet
         SuMe[static_cast<std::size_t>(i)] = item;

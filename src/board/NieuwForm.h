@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 #include "platform/LineBox.h"
 
@@ -21,13 +22,7 @@ public:
     QComboBox *Combo1, *Combo2;
     Label *Label1, *Label2, *Label3;
     QList<QRadioButton *> Option; ///< Option1 to Option5, in the order of the kinds
-    QLabel *Image1;
-    QList<QPixmap> Img; ///< the previews, in the order of the options
+    ImageBox *Image1;
     LineBox *Text1;
     ImageButton *CancelKnop, *OkKnop;
-
-private:
-    void Plaats();
-    void Vul();
-    void Verbind();
 };

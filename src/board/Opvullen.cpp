@@ -24,10 +24,12 @@ static void DrukLetter(PictureBox &pic, int x, int y)
     Toeval::Randomize();
     const int n = static_cast<int>(Toeval::Rnd() * 26);
     constexpr int IndexI = 8, IndexW = 22;
-    const int verschuiving = n == IndexW ? -3 : n == IndexI ? 4 : 0;
-    pic.CurrentX = x + verschuiving;
-    pic.CurrentY = y;
-    pic.Print(QString(QChar(65 + n)));
+    int verschuiving = 0;
+    if (n == IndexW)
+        verschuiving = -3;
+    else if (n == IndexI)
+        verschuiving = 4;
+    pic.PrintOp(x + verschuiving, y, QString(QChar(65 + n)));
 }
 
 void VulLegeVakjes()
@@ -35,17 +37,15 @@ void VulLegeVakjes()
     constexpr int Cell = 30;
     PictureBox &pic = *Main().Pic;
     Screen::MousePointer(Screen::Hourglass);
-    pic.FontBold = true;
-    pic.FontSize = 12;
-    pic.ForeColor = RGB(80, 80, 80);
+    pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
     int x = 11;
     for (int kolom = 1; kolom <= BoardWidth; ++kolom, x += Cell) {
         int y = 7;
         for (int rij = 1; rij <= BoardHeight; ++rij, y += Cell) {
             if (IsLeeg(pic, x, y)) {
-                pic.ScaleMode = ScaleModes::Pixels;
+                pic.SetScaleMode(ScaleModes::Pixels);
                 DrukLetter(pic, x, y);
-                pic.ScaleMode = ScaleModes::Twips;
+                pic.SetScaleMode(ScaleModes::Twips);
             }
             Wachten(0.01, QEventLoop::ExcludeUserInputEvents);
         }

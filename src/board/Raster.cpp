@@ -2,6 +2,7 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "board/Plaats.h"
 #include "platform/Kleur.h"
 #include "platform/Twips.h"
 
@@ -26,10 +27,11 @@ static constexpr int ColumnStripHeight = 300;
 
 void ControleerBord(int breedte, int hoogte)
 {
-    PictureBox::ControleerMaat(PicMaat(breedte), PicMaat(hoogte));
-    PictureBox::ControleerMaat(GrootMaat(breedte), GrootMaat(hoogte));
-    PictureBox::ControleerMaat(PlaatMaat(breedte), ColumnStripHeight);
-    PictureBox::ControleerMaat(RowStripWidth, PlaatMaat(hoogte));
+    const MainForm &main = Main();
+    main.Pic->ControleerMaat(PicMaat(breedte), PicMaat(hoogte));
+    main.PicGroot->ControleerMaat(GrootMaat(breedte), GrootMaat(hoogte));
+    main.PicO->ControleerMaat(PlaatMaat(breedte), ColumnStripHeight);
+    main.PicR->ControleerMaat(RowStripWidth, PlaatMaat(hoogte));
 }
 
 static void Banden(PictureBox &pic, int van1, int tot1, int van2, int tot2, QRgb kleur)
@@ -45,9 +47,7 @@ static void Banden(PictureBox &pic, int van1, int tot1, int van2, int tot2, QRgb
 static void DrukOpLiniaal(PictureBox &strook, double x, double y, const QString &tekst)
 {
     strook.BoxFull(x, y, x + strook.TextWidth(tekst), y + strook.TextHeight(tekst), strook.BackColor);
-    strook.CurrentX = x;
-    strook.CurrentY = y;
-    strook.Print(tekst);
+    strook.PrintOp(x, y, tekst);
 }
 
 // The strips are not cleared: what a larger earlier board left there is only hidden by their size. Wanted so.
@@ -93,16 +93,24 @@ void TekenGroot(int breedte, int hoogte)
     ControleerBord(breedte, hoogte);
     PictureBox &pic = *Main().PicGroot;
     const QImage tegel = Main().PicVak->Image();
+    const QRectF hele(0, 0, TileSize, TileSize);
 
     if (breedte == 0 || hoogte == 0)
         pic.Cls(); // any other board is covered by its tiles
     pic.SetSize(GrootMaat(breedte), GrootMaat(hoogte));
     for (int kolom = 0; kolom < breedte && hoogte > 0; ++kolom)
-        pic.PaintPicture(tegel, kolom * VakMaatGroot, 0, TileSize, TileSize, 0, 0, PlakWijze::Kopie);
+        pic.PaintPicture(tegel, QRectF(kolom * VakMaatGroot, 0, TileSize, TileSize), hele);
     // The other rows are the first one again, pasted whole: long copies are several times as fast as short ones.
     const QImage rijTegels = pic.Image().copy(0, 0, pic.width(), tegel.height());
+    const QRectF heleRij(0, 0, pic.Width(), TileSize);
     for (int rij = 1; rij < hoogte; ++rij)
-        pic.PaintPicture(rijTegels, 0, rij * VakMaatGroot, pic.Width(), TileSize, 0, 0, PlakWijze::Kopie);
+        pic.PaintPicture(rijTegels, QRectF(0, rij * VakMaatGroot, pic.Width(), TileSize), heleRij);
     if (PuzzelType == Sudoku)
         Banden(pic, 5355, 5490, 10755, 10890, RGB(0, 0, 0));
+}
+
+void TekenBord(int breedte, int hoogte)
+{
+    TekenRaster(breedte, hoogte);
+    TekenGroot(breedte, hoogte);
 }

@@ -14,3 +14,6 @@ void TekenRaster(int breedte, int hoogte);
 ///     +----+----------------+----+
 ///     |####|     white      |####|  <- also the left frame of the next tile
 void TekenGroot(int breedte, int hoogte);
+
+/// A board appears: both pictures are drawn from nothing. Raises what ControleerBord raises, and nothing is drawn then.
+void TekenBord(int breedte, int hoogte);

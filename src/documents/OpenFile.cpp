@@ -17,12 +17,12 @@ static QString PuzzelMap()
     return Files::Pad(AppPath, {u"Puzzels"_s});
 }
 
-OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, qRgb(190, 240, 240))
+OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, RGB(190, 240, 240))
 {
-    List1 = Maak<ListBox>("List1", u"Puzzels"_s, nullptr);
-    Image1 = Maak<QLabel>("Image1", QString(), nullptr);
-    Label2 = MaakLabel("Label2", u"Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."_s);
-    DelKnop = Maak<ImageButton>("DelKnop", u"Puzzel verwijderen"_s, nullptr, u"knop-wissen"_s);
+    List1 = Maak<ListBox>("List1", u"Puzzels"_s);
+    Image1 = MaakBeeld("Image1", QString(), u"map-open"_s);
+    Label2 = MaakUitleg("Label2", u"Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."_s);
+    DelKnop = MaakKnopMetTip("DelKnop", u" Puzzel verwijderen "_s, u"knop-wissen"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
 
@@ -34,10 +34,6 @@ OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, qRgb(
     Zet(OkKnop, 3915, 3390);
 
     Kleur(List1, RGB(30, 0, 0), RGB(250, 250, 250));
-    Image1->setPixmap(Plaatjes::Pixmap(u"map-open"_s, Image1->size(), devicePixelRatioF()));
-    Label2->setWordWrap(true);
-    Label2->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    DelKnop->setToolTip(u" Puzzel verwijderen "_s);
     DelKnop->setEnabled(false);
     QStringList namen = Files::Lijst(PuzzelMap(), u"*.lst"_s);
     for (QString &naam : namen)
@@ -45,11 +41,11 @@ OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, qRgb(
     List1->SetItems(namen);
     List1->setFocus();
 
-    bij(List1, &ListBox::Click, [this] { List1_Click(); });
-    bij(List1, &ListBox::DblClick, [this] { List1_DblClick(); });
-    bij(DelKnop, &ImageButton::clicked, [this] { DelKnop_Click(); });
-    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
-    bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
+    bij(List1, &ListBox::Click, &OpenFile::List1_Click);
+    bij(List1, &ListBox::DblClick, &OpenFile::List1_DblClick);
+    bij(DelKnop, &ImageButton::clicked, &OpenFile::DelKnop_Click);
+    bij(CancelKnop, &ImageButton::clicked, &OpenFile::CancelKnop_Click);
+    bij(OkKnop, &ImageButton::clicked, &OpenFile::OkKnop_Click);
 }
 
 // The name changes at once, before anything is opened, and stays so when the dialog is cancelled; wanted so.
@@ -66,8 +62,7 @@ void OpenFile::List1_DblClick()
 
 void OpenFile::CancelKnop_Click()
 {
-    CancelKnop->Druk();
-    Unload();
+    Sluit(CancelKnop);
 }
 
 void OpenFile::OkKnop_Click()
@@ -79,9 +74,9 @@ void OpenFile::OkKnop_Click()
     if (PuzzelNaam.isEmpty())
         return;
     LoadPuzzel(PuzzelNaam);
-    TekenRaster(BoardWidth, BoardHeight);
-    TekenGroot(BoardWidth, BoardHeight);
-    ToonPuzzel();
+    TekenBord(BoardWidth, BoardHeight);
+    LaadBeelden();
+    Main().ToonPuzzel(u"Zweedse Raster Atelier"_s); // the word stays "Zweedse" for all kinds
     Unload();
 }
 
@@ -97,25 +92,21 @@ void OpenFile::LoadPuzzel(const QString &Naam)
     BoardWidth = breedte;
     BoardHeight = hoogte;
     Main().WisRijen();
-    Main().VoegRijenToe(lijst.Rijen);
+    QList<Rij> rijen;
+    for (const QStringList &r : lijst.Rijen)
+        rijen += {r[0], r[1], r[2], r[3]};
+    Main().VoegRijenToe(rijen);
     if (lijst.KopHeel)
         Main().ToonSoort();
 }
 
-void OpenFile::ToonPuzzel()
+void OpenFile::LaadBeelden()
 {
     const auto laad = [](PictureBox &pic, const QString &bestand) {
         negeer([&] { pic.SetPicture(Files::LoadPicture(Files::Pad(PuzzelMap(), {PuzzelNaam + bestand}))); });
     };
     laad(*Main().Pic, u"1.bmp"_s);
     laad(*Main().PicGroot, u"2.bmp"_s);
-    // The word stays "Zweedse" for all kinds.
-    Main().setWindowTitle(u"Zweedse Raster Atelier (%1x%2)"_s.arg(BoardWidth).arg(BoardHeight));
-    Main().ToonSoortDelen();
-    Main().ToonAantal();
-    Main().Bestandsnaam->setText(PuzzelNaam);
-    Main().Line1->hide();
-    Main().Shape1->hide();
 }
 
 void OpenFile::DelKnop_Click()
@@ -124,8 +115,7 @@ void OpenFile::DelKnop_Click()
     const QString naam = List1->Text();
     if (naam.isEmpty())
         return;
-    if (MsgBox(u"Wilt je deze puzzel '"_s + naam + u"' verwijderen?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s) !=
-        Antwoord::Ja)
+    if (!JaNee(u"Wilt je deze puzzel '"_s + naam + u"' verwijderen?"_s, u"Delete"_s))
         return;
     for (const char *deel : {".lst", "1.bmp", "2.bmp"})
         negeer([&] { Files::Kill(Files::Pad(PuzzelMap(), {naam + QLatin1String(deel)})); });

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 #include "platform/ListBox.h"
 
@@ -20,10 +21,10 @@ public:
     void LoadPuzzel(const QString &Naam);
 
     ListBox *List1;
-    QLabel *Image1;
+    ImageBox *Image1;
     Label *Label2;
     ImageButton *DelKnop, *CancelKnop, *OkKnop;
 
 private:
-    void ToonPuzzel();
+    void LaadBeelden();
 };

@@ -20,13 +20,13 @@ static QString PuzzelPad(const QString &bestand)
     return Files::Pad(AppPath, {u"Puzzels"_s, bestand});
 }
 
-SaveForm::SaveForm() : Form(u"SaveForm"_s, u"Puzzel opslaan"_s, 4800, 1560, qRgb(170, 240, 240))
+SaveForm::SaveForm() : Form(u"SaveForm"_s, u"Puzzel opslaan"_s, 4800, 1560, RGB(170, 240, 240))
 {
-    Text1 = Maak<LineBox>("Text1", u"Naam van de puzzel"_s, nullptr);
-    Bar = Maak<PictureBox>("Bar", u"Voortgang"_s, nullptr);
+    Text1 = Maak<LineBox>("Text1", u"Naam van de puzzel"_s);
+    Bar = Maak<PictureBox>("Bar", u"Voortgang"_s);
     Label1 = MaakLabel("Label1", u"0%"_s);
-    CancelKnop = Maak<ImageButton>("CancelKnop", u"Annuleren"_s, nullptr, u"knop-annuleren-laag"_s);
-    SaveKnop = Maak<ImageButton>("SaveKnop", u"Opslaan"_s, nullptr, u"knop-opslaan"_s);
+    CancelKnop = MaakKnop("CancelKnop", u"Annuleren"_s, u"knop-annuleren-laag"_s);
+    SaveKnop = MaakKnop("SaveKnop", u"Opslaan"_s, u"knop-opslaan"_s);
 
     Zet(Text1, 120, 150, 4470, 330);
     Zet(Bar, 120, 150, 4500, 330);
@@ -35,20 +35,19 @@ SaveForm::SaveForm() : Form(u"SaveForm"_s, u"Puzzel opslaan"_s, 4800, 1560, qRgb
     Zet(SaveKnop, 3720, 600, 840, 330);
 
     Kleur(Text1, RGB(40, 0, 0), RGB(220, 220, 220));
-    Bar->ScaleMode = ScaleModes::Pixels;
+    Bar->SetScaleMode(ScaleModes::Pixels);
     Bar->hide();
     const QString naam = Main().Bestandsnaam->text();
     Text1->setText(naam == "Puzzelnaam"_L1 ? QString() : naam);
     Text1->setFocus();
 
-    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
-    bij(SaveKnop, &ImageButton::clicked, [this] { SaveKnop_Click(); });
+    bij(CancelKnop, &ImageButton::clicked, &SaveForm::CancelKnop_Click);
+    bij(SaveKnop, &ImageButton::clicked, &SaveForm::SaveKnop_Click);
 }
 
 void SaveForm::CancelKnop_Click()
 {
-    CancelKnop->Druk();
-    Unload();
+    Sluit(CancelKnop);
 }
 
 // Whatever came of the save, the puzzle counts as saved and the dialog closes: also when the user refused to overwrite.
@@ -71,8 +70,7 @@ void SaveForm::OpslaanPuzzel(QString &Naam)
     GebruikersNaam = HaalGebruiker();
     bool bestaat = false;
     negeer([&] { bestaat = BestandBestaat(PuzzelPad(Naam + u".lst"_s)); });
-    if (bestaat &&
-        MsgBox(u"Naam puzzel bestaat al, overschrijven?"_s, Knoppen::JaNee, Icoon::Geen, u" Exist"_s) != Antwoord::Ja)
+    if (bestaat && !JaNee(u"Naam puzzel bestaat al, overschrijven?"_s, u" Exist"_s))
         return;
     Screen::MousePointer(Screen::Hourglass);
     Text1->hide();
@@ -89,10 +87,8 @@ void SaveForm::SaveLijstPuzzel(QString &Naam)
 {
     Naam = EersteHoofdletter(Naam);
     QList<QStringList> rijen;
-    for (int i = 0; i < Main().ListView1->topLevelItemCount(); ++i) {
-        const QTreeWidgetItem *rij = Main().ListView1->topLevelItem(i);
-        rijen += QStringList{rij->text(0), rij->text(1), rij->text(2), rij->text(3)};
-    }
+    for (const Rij &rij : Main().Rijen())
+        rijen += QStringList{rij.Vaknummer, rij.Omschrijving, rij.Oplossing, rij.Nr};
     negeer([&] {
         const QString bestand = Naam + u".lst"_s;
         const QString pad = PuzzelPad(bestand);

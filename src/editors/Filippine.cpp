@@ -44,8 +44,8 @@ void VerwijderLetters(PictureBox &doel)
     for (int kolom = 0; kolom < 16; ++kolom) {
         for (int rij = 0; rij < 19; ++rij)
             if (const PictureBox *vak = LeegVak(doel, kolom * Cell, rij * Cell))
-                doel.PaintPicture(vak->Image(), kolom * VakMaat, rij * VakMaat, TileSize, TileSize, 0, 0,
-                                  PlakWijze::Kopie);
+                doel.PaintPicture(vak->Image(), QRectF(kolom * VakMaat, rij * VakMaat, TileSize, TileSize),
+                                  QRectF(0, 0, TileSize, TileSize));
         Wachten(0.2, QEventLoop::ExcludeUserInputEvents);
     }
     Screen::MousePointer(Screen::Own);

@@ -1,59 +1,40 @@
 #include "editors/TekstForm.h"
 
 #include "board/Algemeen.h"
+#include "board/LangeIJ.h"
 #include "board/MainForm.h"
 #include "platform/Berichten.h"
 #include "platform/Getallen.h"
 #include "platform/Kleur.h"
-#include "platform/Plaatjes.h"
-#include "platform/Twips.h"
+#include "platform/Teksten.h"
 
 using namespace Qt::StringLiterals;
 
 QString LaatsteOplossing;
 
-namespace {
-
-/// A direction: its letter, its picture, and the cells that it moves a letter on.
-struct RichtingSoort
+/// The picture of a direction, by its index.
+static QString RichtingPlaatje(int index)
 {
-    QLatin1String Letter;
-    const char *Plaatje;
-    int Kolommen, Rijen;
-};
-
-constexpr RichtingSoort Richtingen[]{
-    {"H"_L1, "richting-h", 1, 0},
-    {"V"_L1, "richting-v", 0, 1},
-    {"R"_L1, "richting-r", 1, 1},
-    {"L"_L1, "richting-l", -1, 1},
-};
-
-} // namespace
+    return u"richting-"_s + QChar(Richtingen[static_cast<std::size_t>(index)].Letter).toLower();
+}
 
 TekstForm::TekstForm()
-    : Form(u"TekstForm"_s, u"Oplossing Plaatsen op "_s + Main().Label6->Caption(), 6600, 3690, qRgb(230, 250, 190))
+    : Form(u"TekstForm"_s, u"Oplossing Plaatsen op "_s + Main().Label6->Caption(), 6600, 3690, RGB(230, 250, 190))
 {
-    Text1 = Maak<LineBox>("Text1", u"Omschrijving"_s, nullptr);
+    Text1 = Maak<LineBox>("Text1", u"Omschrijving"_s);
     Label1 = MaakLabel("Label1", u"Omschrijving"_s);
-    Text2 = Maak<LineBox>("Text2", u"Oplossing"_s, nullptr);
+    Text2 = Maak<LineBox>("Text2", u"Oplossing"_s);
     Label2 = MaakLabel("Label2", u"Oplossing (0)"_s);
-    CopyKnop = Maak<ImageButton>("CopyKnop", u"Copy tekst vanaf hoofdscherm"_s, nullptr, u"knop-kopie"_s);
+    CopyKnop = MaakKnopMetTip("CopyKnop", u" Copy tekst vanaf hoofdscherm "_s, u"knop-kopie"_s);
     Option = MaakOpties({u"Oplossing Horizontaal Plaatsen"_s, u"Oplossing Vertikaal Plaatsen"_s,
                          u"Diagonaal naar rechtsonder Plaatsen"_s, u"Diagonaal naar linksonder plaatsen"_s});
-    Image1 = Maak<QLabel>("Image1", u"Richting"_s, nullptr);
+    Image1 = MaakBeeld("Image1", u"Richting"_s, RichtingPlaatje(0));
     Check1 = Maak<QCheckBox>("Check1", u"Oplossing omgekeerd"_s, nullptr, u"Oplossing omgekeerd"_s);
     Combo1 = MaakNummers("Combo1", u"Vaknummer Kruiswoordpuzzel"_s, 1, 99, 1);
     Label3 = MaakLabel("Label3", u"Vaknummer Kruiswoordpuzzel"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
-    Plaats();
-    Vul();
-    Verbind();
-}
 
-void TekstForm::Plaats()
-{
     Zet(Text1, 150, 180, 3900, 360);
     Zet(Label1, 4080, 240);
     Zet(Text2, 150, 570, 3900, 360);
@@ -69,44 +50,35 @@ void TekstForm::Plaats()
     Zet(Label3, 1150, 2700);
     Zet(CancelKnop, 4290, 2670);
     Zet(OkKnop, 5295, 2670);
+
+    VulVoorSoort();
+
+    bij(Option, &TekstForm::Option_Click);
+    bij(Text2, &LineBox::textChanged, &TekstForm::Text2_Change);
+    bij(CopyKnop, &ImageButton::clicked, &TekstForm::CopyKnop_Click);
+    bij(CancelKnop, &ImageButton::clicked, &TekstForm::CancelKnop_Click);
+    bij(OkKnop, &ImageButton::clicked, &TekstForm::OkKnop_Click);
 }
 
-void TekstForm::Vul()
+void TekstForm::VulVoorSoort()
 {
-    for (const RichtingSoort &richting : Richtingen)
-        Img += Plaatjes::Pixmap(QLatin1String(richting.Plaatje), Image1->size(), devicePixelRatioF());
-    Image1->setPixmap(Img[0]);
-    CopyKnop->setToolTip(u" Copy tekst vanaf hoofdscherm "_s);
     Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
     Kleur(Text2, RGB(30, 0, 0), RGB(230, 230, 230));
     Kleur(Combo1, RGB(30, 0, 0), RGB(230, 230, 230));
-
+    const auto zetAan = [](std::initializer_list<QWidget *> controls, bool aan) {
+        for (QWidget *control : controls)
+            control->setEnabled(aan);
+    };
     const bool isWoordzoeker = PuzzelType == Woordzoeker;
-    for (QWidget *control : std::initializer_list<QWidget *>{Text1, Label1})
-        control->setEnabled(!isWoordzoeker);
-    for (QWidget *control : std::initializer_list<QWidget *>{Option[2], Option[3], Check1})
-        control->setEnabled(isWoordzoeker);
-    for (QWidget *control : std::initializer_list<QWidget *>{Combo1, Label3})
-        control->setEnabled(PuzzelType == Kruiswoord);
+    zetAan({Text1, Label1}, !isWoordzoeker);
+    zetAan({Option[2], Option[3], Check1}, isWoordzoeker);
+    zetAan({Combo1, Label3}, PuzzelType == Kruiswoord);
     (isWoordzoeker ? Text2 : Text1)->setFocus();
-}
-
-void TekstForm::Verbind()
-{
-    for (int i = 0; i < Option.size(); ++i)
-        bij(Option[i], &QRadioButton::toggled, [this, i](bool aan) {
-            if (aan)
-                Option_Click(i);
-        });
-    bij(Text2, &LineBox::textChanged, [this] { Text2_Change(); });
-    bij(CopyKnop, &ImageButton::clicked, [this] { CopyKnop_Click(); });
-    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
-    bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
 }
 
 void TekstForm::Option_Click(int index)
 {
-    Image1->setPixmap(Img[index]);
+    Image1->SetPicture(RichtingPlaatje(index));
 }
 
 void TekstForm::Text2_Change()
@@ -122,8 +94,7 @@ void TekstForm::CopyKnop_Click()
 
 void TekstForm::CancelKnop_Click()
 {
-    CancelKnop->Druk();
-    Unload();
+    Sluit(CancelKnop);
 }
 
 bool TekstForm::IsCompleet()
@@ -146,17 +117,19 @@ bool TekstForm::IsCompleet()
     return true;
 }
 
+const Richting &TekstForm::GekozenRichting() const
+{
+    return Richtingen[static_cast<std::size_t>(Gekozen(Option))];
+}
+
 void TekstForm::DrukNummer() const
 {
-    const auto druk = [this](PictureBox &pic, double punten, int x, int y) {
-        pic.FontSize = punten;
-        pic.ForeColor = RGB(0, 0, 0);
-        pic.CurrentX = x;
-        pic.CurrentY = y;
-        pic.Print(Combo1->currentText());
-    };
-    druk(*Main().Pic, 6, CurCol * VakMaat + 165 - 120, CurRow * VakMaat + 105 - 90);
-    druk(*Main().PicGroot, 20, CurCol * VakMaatGroot + 600 - 450, CurRow * VakMaatGroot + 360 - 300);
+    const QString nummer = Combo1->currentText();
+    Main().Pic->ZetLetter({.Punten = 6, .Kleur = RGB(0, 0, 0)});
+    Main().Pic->PrintOp(CurCol * VakMaat + LetterX - 120, CurRow * VakMaat + LetterY - 90, nummer);
+    Main().PicGroot->ZetLetter({.Punten = 20, .Kleur = RGB(0, 0, 0)});
+    Main().PicGroot->PrintOp(CurCol * VakMaatGroot + LetterGrootX - 450, CurRow * VakMaatGroot + LetterGrootY - 300,
+                             nummer);
 }
 
 // The font names stay what they are: an information cell leaves PicGroot at Arial Narrow.
@@ -164,24 +137,16 @@ void TekstForm::DrukLetters(const QString &woord) const
 {
     PictureBox &pic = *Main().Pic;
     PictureBox &groot = *Main().PicGroot;
-    pic.FontBold = groot.FontBold = true;
-    pic.FontSize = 12;
-    groot.FontSize = 48;
-    pic.ForeColor = groot.ForeColor = RGB(80, 80, 80);
-    const RichtingSoort &richting = Richtingen[Gekozen(Option)];
+    pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    groot.ZetLetter({.Punten = 48, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    const Richting &richting = GekozenRichting();
     int kolom = CurCol, rij = CurRow;
-    for (const QChar teken : woord) {
-        QString letter(teken.toUpper());
-        pic.CurrentX = kolom * VakMaat + 165 + LetterVerschuiving(letter);
-        pic.CurrentY = rij * VakMaat + 105;
-        if (letter == "?"_L1)
-            letter = u"IJ"_s;
-        pic.Print(letter);
-        if (PuzzelType == Woordzoeker) {
-            groot.CurrentX = kolom * VakMaatGroot + 600;
-            groot.CurrentY = rij * VakMaatGroot + 360;
-            groot.Print(letter);
-        }
+    for (const QChar teken : Hoofdletters(woord)) {
+        const int verschuiving = LetterVerschuiving(teken); // that of the code, which has none
+        const QString letter = teken == u'?' ? u"IJ"_s : QString(teken);
+        pic.PrintOp(kolom * VakMaat + LetterX + verschuiving, rij * VakMaat + LetterY, letter);
+        if (PuzzelType == Woordzoeker)
+            groot.PrintOp(kolom * VakMaatGroot + LetterGrootX, rij * VakMaatGroot + LetterGrootY, letter);
         kolom += richting.Kolommen;
         rij += richting.Rijen;
     }
@@ -208,7 +173,7 @@ void TekstForm::OkKnop_Click()
     DrukLetters(woord);
     Text2->setText(ZonderCode(Text2->text()));
     LaatsteOplossing = Text2->text();
-    VoegRegelToe(Richtingen[Gekozen(Option)].Letter, Text1->text(), LaatsteOplossing, nummer);
+    VoegRegelToe(QChar(GekozenRichting().Letter), Text1->text(), LaatsteOplossing, nummer);
     Main().ToonAantal();
     PuzzelGewijzigd = true;
     Unload();
@@ -217,6 +182,8 @@ void TekstForm::OkKnop_Click()
 void TekstForm::VoegRegelToe(const QString &Richting, const QString &Omschrijving, const QString &Oplossing,
                              qint32 Nummer)
 {
-    Main().VoegRijToe(Main().Label6->Caption() + u'-' + Richting, Omschrijving, Oplossing,
-                      PuzzelType == Kruiswoord ? QString::number(Nummer) : u"-"_s);
+    Main().VoegRijenToe({{.Vaknummer = Main().Label6->Caption() + u'-' + Richting,
+                          .Omschrijving = Omschrijving,
+                          .Oplossing = Oplossing,
+                          .Nr = PuzzelType == Kruiswoord ? QString::number(Nummer) : u"-"_s}});
 }

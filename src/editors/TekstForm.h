@@ -1,6 +1,8 @@
 #pragma once
 
+#include "board/Richtingen.h"
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 #include "platform/LineBox.h"
 
@@ -25,18 +27,16 @@ public:
 
     LineBox *Text1, *Text2;
     Label *Label1, *Label2, *Label3;
-    QList<QRadioButton *> Option; ///< Option1 to Option4: H, V, R, L
-    QList<QPixmap> Img;           ///< the pictures of the directions
-    QLabel *Image1;
+    QList<QRadioButton *> Option; ///< Option1 to Option4, in the order of the directions
+    ImageBox *Image1;
     QCheckBox *Check1;
     QComboBox *Combo1;
     ImageButton *CopyKnop, *CancelKnop, *OkKnop;
 
 private:
-    void Plaats();
-    void Vul();
-    void Verbind();
+    void VulVoorSoort();
     bool IsCompleet();
+    const Richting &GekozenRichting() const;
     void DrukNummer() const;
     void DrukLetters(const QString &woord) const;
 };

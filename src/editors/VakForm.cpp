@@ -7,6 +7,7 @@
 #include "platform/Getallen.h"
 #include "platform/Kleur.h"
 #include "platform/Plaatjes.h"
+#include "platform/Teksten.h"
 #include "platform/Twips.h"
 
 using namespace Qt::StringLiterals;
@@ -16,33 +17,23 @@ static constexpr QRgb Achtergrond = qRgb(230, 250, 190);
 VakForm::VakForm()
     : Form(u"VakForm"_s, u"Informatievakje Plaatsen op "_s + Main().Label6->Caption(), 6900, 3480, Achtergrond)
 {
-    Pic = Maak<PictureBox>("Pic", u"Voorbeeld van het vakje"_s, nullptr);
+    Pic = Maak<PictureBox>("Pic", u"Voorbeeld van het vakje"_s);
     Label3 = MaakLabel("Label3", QString(), Pic);
-    ImgR = Maak<PictureBox>("ImgR", u"Pijl naar rechts"_s, nullptr);
-    ImgO = Maak<PictureBox>("ImgO", u"Pijl omlaag"_s, nullptr);
-    Text1 = Maak<TextBox>("Text1", u"Omschrijving"_s, nullptr);
+    ImgR = Maak<PictureBox>("ImgR", u"Pijl naar rechts"_s);
+    ImgO = Maak<PictureBox>("ImgO", u"Pijl omlaag"_s);
+    Text1 = Maak<TextBox>("Text1", u"Omschrijving"_s);
     Label1 = MaakLabel("Label1", u"Omschrijving"_s);
     Label2 = MaakLabel("Label2", u"1"_s);
-    Label5 = MaakLabel("Label5", u"Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, "
-                                 "typ dan de omschrijving in de tekstvelden en klik daarna op de button "
-                                 "'Ok' om het infovakje op het puzzelveld te plaatsen."_s);
+    Label5 = MaakUitleg("Label5", u"Maak een keus d.m.v. de scrolbalk voor een van de 8 informatievakjes, typ dan de "
+                                  "omschrijving in de tekstvelden en klik daarna op de button 'Ok' om het infovakje "
+                                  "op het puzzelveld te plaatsen."_s);
     Label6 = MaakLabel("Label6", QString());
-    HScroll1 = Maak<QScrollBar>("HScroll1", u"Soort Vakje"_s, nullptr, Qt::Horizontal);
+    HScroll1 = MaakSchuif("HScroll1", u"Soort Vakje"_s, 1, 8);
     Label7 = MaakLabel("Label7", u"Soort Vakje"_s);
     CancelKnop = MaakCancelKnop();
     OkKnop = MaakOkKnop();
     TextLabel = MaakLabel("TextLabel", QString());
-    Plaats();
-    Vul();
-    VakjeTonen(1);
-    bij(HScroll1, &QScrollBar::valueChanged, [this] { HScroll1_Change(); });
-    bij(Text1, &TextBox::textChanged, [this] { Text1_Change(); });
-    bij(CancelKnop, &ImageButton::clicked, [this] { CancelKnop_Click(); });
-    bij(OkKnop, &ImageButton::clicked, [this] { OkKnop_Click(); });
-}
 
-void VakForm::Plaats()
-{
     Zet(Pic, 240, 240, 1845, 1845);
     Zet(Label3, 45, 45, 1755, 1755);
     Zet(ImgR, 2085, 960, PijlMaat, PijlMaat);
@@ -56,12 +47,20 @@ void VakForm::Plaats()
     Zet(Label7, 2160, 2535);
     Zet(CancelKnop, 4590, 2430);
     Zet(OkKnop, 5595, 2430);
+
+    Vul();
+
+    bij(HScroll1, &QScrollBar::valueChanged, &VakForm::HScroll1_Change);
+    bij(Text1, &TextBox::textChanged, &VakForm::Text1_Change);
+    bij(CancelKnop, &ImageButton::clicked, &VakForm::CancelKnop_Click);
+    bij(OkKnop, &ImageButton::clicked, &VakForm::OkKnop_Click);
 }
 
 void VakForm::Vul()
 {
     Image1 = Plaatjes::Beeld(u"vak"_s);
-    BackPijlen1 = BackPijlen2 = Plaatjes::Beeld(u"pijlen"_s);
+    BackPijlen1 = Plaatjes::Beeld(u"pijlen"_s);
+    BackPijlen2 = BackPijlen1;
     Pic->FontName = u"Arial Narrow"_s;
     Label3->setAlignment(Qt::AlignHCenter | Qt::AlignTop);
     Label3->setWordWrap(true);
@@ -70,15 +69,11 @@ void VakForm::Vul()
     Text1->setFont(Lettertype(u"Arial"_s, 12, true));
     Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
     Label2->SetFont(Lettertype(u"Arial"_s, 8.25, true));
-    Label5->setWordWrap(true);
-    Label5->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     Label6->SetBackColor(RGB(150, 180, 180));
-    HScroll1->setRange(1, 8);
-    HScroll1->setPageStep(1);
     TextLabel->SetFont(Lettertype(u"Arial"_s, 13, true));
     TextLabel->hide(); // its only use is to measure a line
     Text1->setFocus();
-    PijlSoort = 1;
+    VakjeTonen(1);
 }
 
 void VakForm::HScroll1_Change()
@@ -98,8 +93,7 @@ void VakForm::VakjeTonen(qint16 soort)
         if (vak->Gesplitst())
             Pic->BoxFull(0, 885, 1845, 915, RGB(0, 0, 0));
         const auto toon = [this](PictureBox &box, const PijlPlaats &pijl) {
-            box.PaintPicture(BackPijlen2, 0, 0, PijlMaat, PijlMaat, static_cast<int>(pijl.Tekening), 0,
-                             PlakWijze::Kopie);
+            box.PaintPicture(BackPijlen2, QRectF(0, 0, PijlMaat, PijlMaat), pijl.Deel());
             box.show();
         };
         if (vak->Rechts) {
@@ -125,8 +119,7 @@ void VakForm::Text1_Change()
 
 void VakForm::CancelKnop_Click()
 {
-    CancelKnop->Druk();
-    Unload();
+    Sluit(CancelKnop);
 }
 
 // ANDed with what is there, so that the arrows lie over the neighbouring cells without wiping them.
@@ -138,7 +131,8 @@ void VakForm::PlakTegel()
     if (KleurVakjes < 1 || KleurVakjes > Kleuren.size())
         return;
     const QImage vakjes = Plaatjes::Beeld(u"vakjes"_s, Kleuren[0], Kleuren[KleurVakjes - 1u]);
-    Main().Pic->PaintPicture(vakjes, CurCol * VakMaat, CurRow * VakMaat, TileSize, TileSize, tegel, 0, PlakWijze::En);
+    Main().Pic->PaintPicture(vakjes, QRectF(CurCol * VakMaat, CurRow * VakMaat, TileSize, TileSize),
+                             QRectF(tegel, 0, TileSize, TileSize), PlakWijze::En);
 }
 
 void VakForm::PlakPijlen(int x0, int y0)
@@ -148,8 +142,8 @@ void VakForm::PlakPijlen(int x0, int y0)
         return;
     for (const auto &pijl : {vak->Rechts, vak->Omlaag})
         if (pijl)
-            Main().PicGroot->PaintPicture(BackPijlen1, x0 + pijl->X, y0 + pijl->Y, PijlMaat, PijlMaat,
-                                          static_cast<int>(pijl->Tekening), 0, PlakWijze::Kopie);
+            Main().PicGroot->PaintPicture(BackPijlen1, QRectF(x0 + pijl->X, y0 + pijl->Y, PijlMaat, PijlMaat),
+                                          pijl->Deel());
     if (vak->Gesplitst())
         Main().PicGroot->BoxFull(x0, y0 + 870, x0 + 1770, y0 + 900, RGB(0, 0, 0));
 }
@@ -164,10 +158,7 @@ void VakForm::OkKnop_Click()
     PictureBox &groot = *Main().PicGroot;
     groot.BoxFull(x0, y0, x0 + 1740, y0 + 1740, kleur);
     PlakPijlen(x0, y0);
-    groot.FontSize = 13;
-    groot.FontBold = true;
-    groot.FontName = u"Arial Narrow"_s;
-    groot.ForeColor = RGB(0, 0, 0);
+    groot.ZetLetter({.Naam = u"Arial Narrow"_s, .Punten = 13, .Vet = true, .Kleur = RGB(0, 0, 0)});
     TekstPlaatsen(groot, x0, y0);
     PuzzelGewijzigd = true;
     Unload();
@@ -183,9 +174,8 @@ void VakForm::TekstPlaatsen(PictureBox &doel, double X, qint32 &Y)
         TextLabel->SetCaption(Hoofdletters(regels[i]));
         const double w = Twips::VanPixels(TextLabel->width());
         // The width is that of Arial, the print is Arial Narrow: the 75 goes with that difference.
-        doel.CurrentX = X + static_cast<double>(Getallen::RondEven((1800 - w) / 2)) + 75;
-        doel.CurrentY = Y;
-        doel.Print(TextLabel->Caption());
+        const auto midden = static_cast<double>(Getallen::RondEven((1800 - w) / 2)); // rounded by itself
+        doel.PrintOp(X + midden + 75, Y, TextLabel->Caption());
         Y += 300;
     }
 }

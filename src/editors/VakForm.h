@@ -35,7 +35,6 @@ public:
     QImage BackPijlen1, BackPijlen2; ///< the arrow strips, for the board and for the preview
 
 private:
-    void Plaats();
     void Vul();
     void PlakTegel();
     void PlakPijlen(int x0, int y0);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QRectF>
+
 #include <array>
 #include <optional>
 
@@ -11,6 +13,8 @@
 //        +--------+            | clue 2 |
 //            v 2               +---v----+
 
+inline constexpr int PijlMaat = 345; ///< an arrow drawing is square
+
 /// A drawing in the arrow strip, as its left edge there in twips.
 enum class Pijl { Rechts = 0, Omlaag = 345, RechtsDanOmlaag = 690, OmlaagDanRechts = 1035 };
 
@@ -21,6 +25,9 @@ struct PijlPlaats
     Pijl Tekening;
     int X, Y;
     int Voorbeeld;
+
+    /// The drawing's part of the strip.
+    QRectF Deel() const { return QRectF(static_cast<int>(Tekening), 0, PijlMaat, PijlMaat); }
 };
 
 struct VakSoort
@@ -28,8 +35,6 @@ struct VakSoort
     std::optional<PijlPlaats> Rechts, Omlaag;
     bool Gesplitst() const { return Rechts && Omlaag; }
 };
-
-inline constexpr int PijlMaat = 345; ///< an arrow drawing is square
 
 // Kind 5 lies at 270 where kind 7 lies at 240, and the preview shows both at 570: wanted so.
 inline constexpr std::array<VakSoort, 8> VakSoorten{{

@@ -1,5 +1,7 @@
 #include "platform/Berichten.h"
 
+#include "platform/Uiterlijk.h"
+
 #include <QApplication>
 #include <QGridLayout>
 #include <QMessageBox>
@@ -27,6 +29,7 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
     QMessageBox box(QApplication::activeWindow());
     box.setObjectName(u"MsgBox"_s);
     box.setWindowTitle(titel);
+    AlsDialoog(box);
     box.setTextFormat(Qt::PlainText);
     box.setText(tekst);
     // Wide enough for its title.
@@ -54,4 +57,9 @@ Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QStrin
     constexpr int MostCharacters = 1024;
     return Berichten::Huidig().Vraag(tekst.left(MostCharacters), knoppen, icoon,
                                      titel.isEmpty() ? u"Rasteratelier"_s : titel);
+}
+
+bool JaNee(const QString &vraag, const QString &titel)
+{
+    return MsgBox(vraag, Knoppen::JaNee, Icoon::Geen, titel) == Antwoord::Ja;
 }

@@ -23,3 +23,6 @@ public:
 /// @param titel the program's own name when it is empty
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen = Knoppen::Ok, Icoon icoon = Icoon::Geen,
                 const QString &titel = {});
+
+/// Asks a question. @return whether the answer was Yes
+bool JaNee(const QString &vraag, const QString &titel);

@@ -5,11 +5,14 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 class QImage;
 class QPainter;
-class QPoint;
+class QPointF;
 class QRect;
+class QRectF;
+class QSize;
 
 /// The font of a name and a size in points: asked for in pixels (points x 96 / 72, rounded), smoothed in grey, not
 /// hinted. "Arial" is Liberation Sans, "Arial Narrow" Liberation Sans Narrow, "Courier New" Liberation Mono.
@@ -21,7 +24,20 @@ enum class PlakWijze {
     En,    ///< bitwise AND with it, so that white leaves what is there
 };
 
-/// The drawing that screen and paper share. Positions are in the units of the surface; twips unless it says otherwise.
+/// The letter that is printed with. A part that is left out stays as it is.
+struct Letter
+{
+    std::optional<QString> Naam = {};
+    std::optional<double> Punten = {};
+    std::optional<bool> Vet = {};
+    std::optional<QRgb> Kleur = {};
+};
+
+/// The units of the coordinates of a surface.
+enum class ScaleModes { User, Twips, Pixels };
+
+/// The drawing that screen and paper share. Positions are in the units of the surface: twips unless it says otherwise.
+/// A pixel of the surface is 15 twips.
 class Canvas
 {
 public:
@@ -34,32 +50,55 @@ public:
     double CurrentX = 0; ///< left edge of the text cell of the next Print
     double CurrentY = 0; ///< top edge of it
 
+    void ZetLetter(const Letter &letter);
+
     /// Prints with the top left of the text cell at (CurrentX, CurrentY), then goes to the start of the next line.
     void Print(const QString &tekst);
     /// Prints a number, with a blank in the place of its sign when it is not negative.
     void Print(int getal);
+    /// Prints with the top left of the text cell at (x, y).
+    void PrintOp(double x, double y, const QString &tekst);
+    void PrintOp(double x, double y, int getal);
 
-    /// Paints a part of a picture; what falls outside the surface or the picture is left out. All in twips of 15 to the
-    /// pixel of the picture; source and target are of one size.
-    void PaintPicture(const QImage &bron, double x, double y, double breedte, double hoogte, double bronX, double bronY,
-                      PlakWijze wijze);
+    void Line(double x1, double y1, double x2, double y2, QRgb kleur);    ///< draws both its end pixels
+    void Box(double x1, double y1, double x2, double y2, QRgb kleur);     ///< outline, one pixel thick
+    void BoxFull(double x1, double y1, double x2, double y2, QRgb kleur); ///< filled, both corner pixels included
+    virtual void Cls() = 0;                                               ///< wipes the surface
+
+    /// Paints a part of a picture; what falls outside the surface or the picture is left out.
+    /// @param doel where, in the units of the surface; a part of another size is stretched to it
+    /// @param deel which part, in twips of 15 to the pixel of the picture
+    void PaintPicture(const QImage &bron, const QRectF &doel, const QRectF &deel, PlakWijze wijze = PlakWijze::Kopie);
 
     double TextWidth(const QString &tekst) const;
     double TextHeight(const QString &tekst) const;
 
+    /// From now on the surface is measured in twips or in pixels from its top left.
+    void SetScaleMode(ScaleModes soort);
+    /// From now on the surface is measured in units of one's own: its top left is (x1, y1), its bottom right (x2, y2).
+    /// Raises Fout::OngeldigeWaarde when they lie on one line.
+    void Scale(double x1, double y1, double x2, double y2);
+    ScaleModes ScaleMode() const { return soort_; }
+
 protected:
-    /// How many units of the surface make a pixel.
-    virtual double EenheidPerPixel() const = 0;
+    virtual QSize MaatInPixels() const = 0;
     /// The surface in pixels, as an open painter.
     virtual void MetPainter(const std::function<void(QPainter &)> &teken) = 0;
+    virtual void Vul(QRect vlak, QRgb kleur) = 0;
+    /// Paints a part of a picture of 32 bits a pixel without changing its size; all in pixels.
     virtual void Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze) = 0;
 
-    /// The font of the three settings above.
+    /// The font of the settings above.
     const QFont &Font() const;
-    /// A distance on the surface to whole pixels, rounded to the nearest.
-    int Pixels(double afstand) const;
 
 private:
+    /// A place on the surface in whole pixels, rounded to the nearest.
+    QPoint Pixel(double x, double y) const;
+
+    ScaleModes soort_ = ScaleModes::Twips;
+    double links_ = 0, boven_ = 0;         ///< the units at the left and the top edge
+    double eenheidX_ = 15, eenheidY_ = 15; ///< units to the pixel
+
     // The last font that was asked for, and what it was asked for: it is dearer to make than to print with.
     mutable QFont font_;
     mutable QString fontNaam_;

@@ -1,16 +1,22 @@
 #include "platform/Form.h"
 
 #include "platform/Berichten.h"
+#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
+#include "platform/ScrollBar.h"
 #include "platform/Twips.h"
+#include "platform/Uiterlijk.h"
+#include "platform/WachtBij.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +31,7 @@ Form::Form(const QString &naam, const QString &titel, int breedte, int hoogte, Q
 {
     setObjectName(naam);
     setWindowTitle(titel);
+    AlsDialoog(*this);
     QPalette palet = palette();
     palet.setColor(QPalette::Window, achtergrond);
     setPalette(palet);
@@ -51,7 +58,10 @@ Form::Form(const QString &naam, const QString &titel, int breedte, int hoogte, Q
 
 void Form::PasOpScherm()
 {
-    const QSize maat = inhoud_->size() + QSize(0, menuBalk_->sizeHint().height());
+    const double ratio = devicePixelRatioF();
+    // At a scale that is no whole number a window may come out a part of a pixel short, and would scroll.
+    const int speling = ratio == std::floor(ratio) ? 0 : 1;
+    const QSize maat = inhoud_->size() + QSize(speling, menuBalk_->sizeHint().height() + speling);
     const QSize frame(Twips::NaarPixels(FrameWidth), Twips::NaarPixels(FrameHeight));
     setMaximumSize(maat);
     resize(maat.boundedTo(screen()->availableSize() - frame));
@@ -59,15 +69,19 @@ void Form::PasOpScherm()
 
 void Form::Voer(const QString &naam, const std::function<void()> &handler)
 {
+    const auto meld = [&naam](const Fout &fout) {
+        MsgBox(u"Fout %1 bij %2: %3."_s.arg(fout.nummer()).arg(naam, fout.tekst()), Knoppen::Ok, Icoon::Kritiek);
+    };
     try {
         handler();
     } catch (const Afgebroken &) {
         // closed while it waited: nothing to say
     } catch (const Fout &fout) {
-        MsgBox(u"Fout %1 bij %2: %3."_s.arg(fout.nummer()).arg(naam, fout.tekst()), Knoppen::Ok, Icoon::Kritiek);
+        meld(fout);
     } catch (const std::bad_alloc &) {
-        const Fout vol(Fout::GeheugenVol);
-        MsgBox(u"Fout %1 bij %2: %3."_s.arg(vol.nummer()).arg(naam, vol.tekst()), Knoppen::Ok, Icoon::Kritiek);
+        meld(Fout(Fout::GeheugenVol));
+    } catch (const std::exception &fout) {
+        meld(Fout(Fout::OngeldigArgument, QString::fromLocal8Bit(fout.what())));
     }
 }
 
@@ -93,14 +107,39 @@ Label *Form::MaakLabel(const char *naam, const QString &caption, QWidget *ouder)
     return Maak<Label>(naam, QString(), ouder, caption);
 }
 
+Label *Form::MaakUitleg(const char *naam, const QString &tekst, QWidget *ouder)
+{
+    Label *label = MaakLabel(naam, tekst, ouder);
+    label->setWordWrap(true);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    return label;
+}
+
+ImageBox *Form::MaakBeeld(const char *naam, const QString &leesnaam, const QString &plaatje, QWidget *ouder)
+{
+    return Maak<ImageBox>(naam, leesnaam, ouder, plaatje);
+}
+
+ImageButton *Form::MaakKnop(const char *naam, const QString &leesnaam, const QString &plaatje, QWidget *ouder)
+{
+    return Maak<ImageButton>(naam, leesnaam, ouder, plaatje);
+}
+
+ImageButton *Form::MaakKnopMetTip(const char *naam, const QString &tip, const QString &plaatje, QWidget *ouder)
+{
+    ImageButton *knop = MaakKnop(naam, tip.trimmed(), plaatje, ouder);
+    knop->setToolTip(tip);
+    return knop;
+}
+
 ImageButton *Form::MaakOkKnop()
 {
-    return Maak<ImageButton>("OkKnop", u"Ok"_s, nullptr, u"knop-ok"_s);
+    return MaakKnop("OkKnop", u"Ok"_s, u"knop-ok"_s);
 }
 
 ImageButton *Form::MaakCancelKnop()
 {
-    return Maak<ImageButton>("CancelKnop", u"Annuleren"_s, nullptr, u"knop-annuleren"_s);
+    return MaakKnop("CancelKnop", u"Annuleren"_s, u"knop-annuleren"_s);
 }
 
 QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften)
@@ -122,16 +161,47 @@ int Form::Gekozen(const QList<QRadioButton *> &opties)
     return index;
 }
 
+void Form::bijOpties(const QList<QRadioButton *> &opties, const std::function<void(int)> &handler)
+{
+    for (int i = 0; i < opties.size(); ++i)
+        bij(opties[i], &QRadioButton::toggled, [handler, i](bool aan) {
+            if (aan)
+                handler(i);
+        });
+}
+
+/// Puts the list of a box at the text that stands in it, so that Up and Down give the neighbours.
+static void VolgTekst(QComboBox &combo)
+{
+    const int index = combo.findText(combo.currentText());
+    if (index < 0 || index == combo.currentIndex())
+        return;
+    const QSignalBlocker stil(combo);
+    const int cursor = combo.lineEdit()->cursorPosition();
+    combo.setCurrentIndex(index);
+    combo.lineEdit()->setCursorPosition(cursor);
+}
+
 QComboBox *Form::MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu)
 {
-    auto *combo = Maak<QComboBox>(naam, leesnaam, nullptr);
+    auto *combo = Maak<QComboBox>(naam, leesnaam);
     for (int nummer = van; nummer <= tot; ++nummer)
         combo->addItem(QString::number(nummer));
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setCompleter(nullptr);
     combo->setEditText(QString::number(nu));
+    VolgTekst(*combo);
+    connect(combo, &QComboBox::editTextChanged, combo, [combo] { VolgTekst(*combo); });
     return combo;
+}
+
+QScrollBar *Form::MaakSchuif(const char *naam, const QString &leesnaam, int van, int tot, QWidget *ouder)
+{
+    auto *schuif = Maak<ScrollBar>(naam, leesnaam, ouder, Qt::Horizontal);
+    schuif->setRange(van, tot);
+    schuif->setPageStep(1);
+    return schuif;
 }
 
 void Form::Zet(QWidget *control, int links, int boven)
@@ -151,6 +221,18 @@ void Form::Zet(Label *label, int links, int boven, int breedte, int hoogte)
 {
     label->AutoSize = false;
     Zet(static_cast<QWidget *>(label), links, boven, breedte, hoogte);
+}
+
+void Form::Wacht(double seconden)
+{
+    WachtBij(*this, seconden);
+}
+
+void Form::Sluit(ImageButton *knop, double wachttijd)
+{
+    knop->Druk();
+    Wacht(wachttijd);
+    Unload();
 }
 
 void Form::Kleur(QWidget *control, QRgb achter, QRgb voor)

@@ -4,14 +4,15 @@
 #include "platform/Label.h"
 
 #include <QDialog>
-#include <QPointer>
 
 #include <functional>
 
+class ImageBox;
 class ImageButton;
 class QComboBox;
 class QMenuBar;
 class QRadioButton;
+class QScrollBar;
 
 /// A window that places its controls in twips. Built afresh by each opening, on the stack: Toon<VakForm>().
 ///
@@ -37,6 +38,17 @@ public:
             });
         });
     }
+    /// The same for a handler of the window itself: bij(OkKnop, &ImageButton::clicked, &VakForm::OkKnop_Click)
+    template <class Zender, class Bron, class... Args, class Venster, class... Params>
+    void bij(Zender *zender, void (Bron::*signaal)(Args...), void (Venster::*handler)(Params...))
+    {
+        bij(zender, signaal, std::bind_front(handler, static_cast<Venster *>(this)));
+    }
+    /// The same for a row of options: the handler gets the index of the one that is chosen.
+    template <class Venster> void bij(const QList<QRadioButton *> &opties, void (Venster::*handler)(int))
+    {
+        bijOpties(opties, std::bind_front(handler, static_cast<Venster *>(this)));
+    }
 
     /// Runs one handler as bij does. @param naam what is being done, for the message
     static void Voer(const QString &naam, const std::function<void()> &handler);
@@ -51,7 +63,7 @@ public:
 protected:
     /// A control on the form (or on another control), with its name and the Dutch name that a screen reader says.
     template <class Control, class... Args>
-    Control *Maak(const char *naam, const QString &leesnaam, QWidget *ouder, Args &&...args)
+    Control *Maak(const char *naam, const QString &leesnaam, QWidget *ouder = nullptr, Args &&...args)
     {
         auto *control = new Control(std::forward<Args>(args)..., ouder ? ouder : inhoud_);
         control->setObjectName(QLatin1String(naam));
@@ -59,7 +71,13 @@ protected:
         return control;
     }
     Label *MaakLabel(const char *naam, const QString &caption, QWidget *ouder = nullptr);
-
+    /// A label with a text to read: wrapped, from the top left of its place.
+    Label *MaakUitleg(const char *naam, const QString &tekst, QWidget *ouder = nullptr);
+    /// @param plaatje name of the picture
+    ImageBox *MaakBeeld(const char *naam, const QString &leesnaam, const QString &plaatje, QWidget *ouder = nullptr);
+    ImageButton *MaakKnop(const char *naam, const QString &leesnaam, const QString &plaatje, QWidget *ouder = nullptr);
+    /// A button with a tool tip, which is its name for a screen reader too.
+    ImageButton *MaakKnopMetTip(const char *naam, const QString &tip, const QString &plaatje, QWidget *ouder = nullptr);
     ImageButton *MaakOkKnop();
     ImageButton *MaakCancelKnop();
     /// The option buttons Option1, Option2 and so on, with these captions; the first one is chosen.
@@ -68,6 +86,8 @@ protected:
     static int Gekozen(const QList<QRadioButton *> &opties);
     /// A box with the numbers from one to another, in which anything may be typed as well.
     QComboBox *MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu);
+    /// A horizontal scroll bar, at its least value, that moves one at a time.
+    QScrollBar *MaakSchuif(const char *naam, const QString &leesnaam, int van, int tot, QWidget *ouder = nullptr);
 
     /// Places a control: left, top, width, height in twips. Without a size it keeps its own.
     static void Zet(QWidget *control, int links, int boven);
@@ -76,6 +96,11 @@ protected:
     /// Back and fore colour of a box or a list.
     static void Kleur(QWidget *control, QRgb achter, QRgb voor);
 
+    /// Waits with events running; what comes behind it is left out when the window was closed meanwhile.
+    void Wacht(double seconden);
+    /// What a cancel button does: press effect, perhaps a further wait, close.
+    void Sluit(ImageButton *knop, double wachttijd = 0);
+
     /// Gives a window with a menu bar its size: the whole, or what the screen has room for; it scrolls then. To be
     /// called when the menu bar is filled.
     void PasOpScherm();
@@ -83,6 +108,8 @@ protected:
     QMenuBar *MenuBalk() const { return menuBalk_; }
 
 private:
+    void bijOpties(const QList<QRadioButton *> &opties, const std::function<void(int)> &handler);
+
     QWidget *inhoud_;
     QMenuBar *menuBalk_ = nullptr;
     bool unloaded_ = false;

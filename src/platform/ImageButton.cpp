@@ -1,13 +1,11 @@
 #include "platform/ImageButton.h"
 
-#include "platform/Form.h"
-#include "platform/Klok.h"
-#include "platform/Plaatjes.h"
 #include "platform/Twips.h"
+#include "platform/WachtBij.h"
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPointer>
+#include <QScopeGuard>
 #include <QStyleOptionFocusRect>
 
 ImageButton::ImageButton(const QString &plaatje, QWidget *ouder) : QAbstractButton(ouder), plaatje_(plaatje)
@@ -20,29 +18,22 @@ void ImageButton::Druk()
     constexpr int Verschuiving = 30;
     constexpr double Seconden = 0.2;
     const QPoint stap(Twips::NaarPixels(Verschuiving), Twips::NaarPixels(Verschuiving));
-    const auto *form = dynamic_cast<Form *>(window());
-    const bool wasOpen = form && !form->Unloaded();
+    const auto terug = qScopeGuard([&] { move(pos() - stap); }); // also when the wait is abandoned
     move(pos() + stap);
-    Klok::Huidig().Wacht(Seconden);
-    move(pos() - stap);
-    if (wasOpen && form->Unloaded())
-        throw Afgebroken();
+    WachtBij(*window(), Seconden);
 }
 
 QSize ImageButton::sizeHint() const
 {
-    return Plaatjes::Maat(plaatje_);
+    return Plaatjes::Maat(plaatje_.Naam());
 }
 
 void ImageButton::paintEvent(QPaintEvent *)
 {
-    const double ratio = devicePixelRatioF();
-    if (pixmap_.isNull() || pixmap_.devicePixelRatio() != ratio || pixmap_.deviceIndependentSize() != QSizeF(size()))
-        pixmap_ = Plaatjes::Pixmap(plaatje_, size(), ratio);
     QPainter painter(this);
     if (!isEnabled())
         painter.setOpacity(0.45);
-    painter.drawPixmap(0, 0, pixmap_);
+    plaatje_.Teken(painter, *this);
     if (hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);

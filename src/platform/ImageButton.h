@@ -1,7 +1,8 @@
 #pragma once
 
+#include "platform/Plaatjes.h"
+
 #include <QAbstractButton>
-#include <QPixmap>
 
 /// A picture that is a button: it takes the focus, Space and Enter press it, a double click is one click.
 class ImageButton : public QAbstractButton
@@ -12,7 +13,7 @@ public:
     ImageButton(const QString &plaatje, QWidget *ouder);
 
     /// The press effect: the picture moves 30 twips right and 30 down for 0.2 seconds, then comes back. Raises
-    /// Afgebroken when the form was closed meanwhile.
+    /// Afgebroken when the window was closed meanwhile.
     void Druk();
 
     QSize sizeHint() const override;
@@ -23,6 +24,5 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
-    QString plaatje_;
-    QPixmap pixmap_;
+    SchermPlaatje plaatje_;
 };

@@ -18,11 +18,12 @@ PictureBox::PictureBox(QWidget *ouder) : QWidget(ouder)
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void PictureBox::ControleerMaat(double breedte, double hoogte)
+void PictureBox::ControleerMaat(double breedte, double hoogte) const
 {
     if (breedte < 0 || hoogte < 0)
         throw Fout(Fout::OngeldigeWaarde, u"een negatieve maat"_s);
-    const double pixels = breedte / Twips::PerPixel * (hoogte / Twips::PerPixel);
+    const double pixels = std::max<double>(beeld_.width(), breedte / Twips::PerPixel) *
+                          std::max<double>(beeld_.height(), hoogte / Twips::PerPixel);
     if (pixels * 4 > static_cast<double>(GrootsteBeeld))
         throw Fout(Fout::GeheugenVol, u"een te grote afbeelding"_s);
 }
@@ -43,12 +44,12 @@ double PictureBox::Height() const
     return Twips::VanPixels(height());
 }
 
-double PictureBox::EenheidPerPixel() const
+QSize PictureBox::MaatInPixels() const
 {
-    return ScaleMode == ScaleModes::Twips ? Twips::PerPixel : 1;
+    return size();
 }
 
-QImage &PictureBox::Beeld()
+QImage &PictureBox::Beeld() const
 {
     const QSize nodig = beeld_.size().expandedTo(size()).expandedTo(QSize(1, 1)); // a box may be without a side
     if (beeld_.size() != nodig) {
@@ -76,37 +77,6 @@ void PictureBox::Vul(QRect vlak, QRgb kleur)
     update(vlak);
 }
 
-static QRect Rechthoek(int x1, int y1, int x2, int y2)
-{
-    return QRect(QPoint(std::min(x1, x2), std::min(y1, y2)), QPoint(std::max(x1, x2), std::max(y1, y2)));
-}
-
-void PictureBox::Line(double x1, double y1, double x2, double y2, QRgb kleur)
-{
-    const QPoint van(Pixels(x1), Pixels(y1)), tot(Pixels(x2), Pixels(y2));
-    if (van.x() == tot.x() || van.y() == tot.y()) {
-        Vul(Rechthoek(van.x(), van.y(), tot.x(), tot.y()), kleur);
-        return;
-    }
-    MetPainter([&](QPainter &painter) {
-        painter.setPen(QColor(kleur));
-        painter.drawLine(van, tot);
-    });
-}
-
-void PictureBox::Box(double x1, double y1, double x2, double y2, QRgb kleur)
-{
-    Line(x1, y1, x2, y1, kleur);
-    Line(x2, y1, x2, y2, kleur);
-    Line(x2, y2, x1, y2, kleur);
-    Line(x1, y2, x1, y1, kleur);
-}
-
-void PictureBox::BoxFull(double x1, double y1, double x2, double y2, QRgb kleur)
-{
-    Vul(Rechthoek(Pixels(x1), Pixels(y1), Pixels(x2), Pixels(y2)), kleur);
-}
-
 void PictureBox::Cls()
 {
     Beeld().fill(BackColor);
@@ -119,14 +89,14 @@ void PictureBox::SetPicture(const QImage &beeld)
         resize(beeld.size());
     Cls();
     if (!beeld.isNull())
-        Plak(beeld, beeld.rect(), QPoint(0, 0), PlakWijze::Kopie);
+        Plak(beeld.convertToFormat(QImage::Format_RGB32), beeld.rect(), QPoint(0, 0), PlakWijze::Kopie);
 }
 
 QImage PictureBox::Image() const
 {
     if (size().isEmpty())
         return {};
-    QImage &beeld = const_cast<PictureBox *>(this)->Beeld();
+    const QImage &beeld = Beeld();
     return beeld.size() == size() ? beeld : beeld.copy(rect());
 }
 
@@ -134,7 +104,7 @@ QRgb PictureBox::GetPixel(int x, int y) const
 {
     if (!rect().contains(x, y))
         return 0;
-    return const_cast<PictureBox *>(this)->Beeld().pixel(x, y);
+    return Beeld().pixel(x, y);
 }
 
 void PictureBox::SetPixel(int x, int y, QRgb kleur)
@@ -152,15 +122,14 @@ void PictureBox::MetPainter(const std::function<void(QPainter &)> &teken)
 
 void PictureBox::Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze)
 {
-    const QImage pixels = bron.format() == QImage::Format_RGB32 ? bron : bron.convertToFormat(QImage::Format_RGB32);
     const QPoint verschuiving = doel - deel.topLeft();
-    const QRect raak = (deel & pixels.rect()).translated(verschuiving) & rect();
+    const QRect raak = (deel & bron.rect()).translated(verschuiving) & rect();
     if (raak.isEmpty())
         return;
     QImage &beeld = Beeld();
-    const qsizetype rij = beeld.bytesPerLine() / 4, bronRij = pixels.bytesPerLine() / 4;
+    const qsizetype rij = beeld.bytesPerLine() / 4, bronRij = bron.bytesPerLine() / 4;
     auto *naar = reinterpret_cast<QRgb *>(beeld.bits()) + raak.top() * rij + raak.left();
-    const auto *van = reinterpret_cast<const QRgb *>(pixels.constBits()) + (raak.top() - verschuiving.y()) * bronRij +
+    const auto *van = reinterpret_cast<const QRgb *>(bron.constBits()) + (raak.top() - verschuiving.y()) * bronRij +
                       raak.left() - verschuiving.x();
     for (int y = raak.top(); y <= raak.bottom(); ++y, naar += rij, van += bronRij) {
         if (wijze == PlakWijze::Kopie)
@@ -171,10 +140,14 @@ void PictureBox::Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wij
     update(raak);
 }
 
+// Where nothing has been drawn yet there is no picture: making one may fail, which must not happen while painting.
 void PictureBox::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    painter.drawImage(event->rect(), Beeld(), event->rect());
+    const QRect getekend = event->rect() & beeld_.rect();
+    if (getekend != event->rect())
+        painter.fillRect(event->rect(), QColor(BackColor));
+    painter.drawImage(getekend, beeld_, getekend);
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent *event)

@@ -3,6 +3,7 @@
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -59,3 +60,14 @@ QSize Maat(const QString &naam)
 }
 
 } // namespace Plaatjes
+
+void SchermPlaatje::Teken(QPainter &painter, const QWidget &widget)
+{
+    if (naam_.isEmpty())
+        return;
+    const double ratio = widget.devicePixelRatioF();
+    if (pixmap_.isNull() || pixmap_.devicePixelRatio() != ratio ||
+        pixmap_.deviceIndependentSize() != QSizeF(widget.size()))
+        pixmap_ = Plaatjes::Pixmap(naam_, widget.size(), ratio);
+    painter.drawPixmap(0, 0, pixmap_);
+}

@@ -18,3 +18,21 @@ QPixmap Pixmap(const QString &naam, QSize maat, double ratio);
 QSize Maat(const QString &naam);
 
 } // namespace Plaatjes
+
+class QPainter;
+class QWidget;
+
+/// A picture as a widget shows it, over the whole widget: drawn when it is first seen, sharp at any scale.
+class SchermPlaatje
+{
+public:
+    explicit SchermPlaatje(const QString &naam = {}) : naam_(naam) {}
+
+    /// An empty name shows nothing.
+    const QString &Naam() const { return naam_; }
+    void Teken(QPainter &painter, const QWidget &widget);
+
+private:
+    QString naam_;
+    QPixmap pixmap_;
+};

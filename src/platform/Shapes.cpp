@@ -23,7 +23,7 @@ void LineMark::paintEvent(QPaintEvent *)
     const auto punt = [](double x, double y) { return QPoint(Twips::NaarPixels(x), Twips::NaarPixels(y)); };
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing, X1 != X2 && Y1 != Y2);
-    painter.setPen(QPen(BorderColor, BorderWidth, Qt::SolidLine, Qt::FlatCap));
+    painter.setPen(QPen(BorderColor, BorderWidth, Qt::SolidLine, Qt::SquareCap)); // both ends belong to it
     painter.drawLine(punt(X1, Y1), punt(X2, Y2));
 }
 

@@ -10,7 +10,8 @@ public:
     explicit Mark(QWidget *ouder);
 };
 
-/// A straight line between two points, in twips of the picture box that it lies on.
+/// A straight line from one point to another, both drawn: a line that ends where it begins is a dot. Its points are in
+/// twips of the picture box that it lies on.
 class LineMark : public Mark
 {
 public:

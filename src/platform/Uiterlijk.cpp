@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QStyle>
+#include <QWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -15,4 +16,10 @@ void StelUiterlijkIn()
         palet.setColor(QPalette::Disabled, rol, qRgb(120, 120, 120)); // still to be read on our pale colours
     QApplication::setPalette(palet);
     QApplication::setFont(Lettertype(u"Arial"_s, 8.25, false));
+}
+
+void AlsDialoog(QWidget &venster)
+{
+    venster.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                           Qt::WindowCloseButtonHint);
 }

@@ -179,9 +179,9 @@ private slots:
     {
         Programma programma;
         programma.Scherm.Begin(Filippine, 16, 19);
-        programma.Main().ToonSoortDelen();
+        programma.Main().ToonPuzzel(u"Raster Atelier"_s);
         PictureBox &pic = *programma.Main().Pic;
-        pic.PaintPicture(programma.Main().Vak1->Image(), 450, 450, 465, 465, 0, 0, PlakWijze::Kopie);
+        pic.PaintPicture(programma.Main().Vak1->Image(), QRectF(450, 450, 465, 465), QRectF(0, 0, 465, 465));
         pic.SetPixel(45, 45, qRgb(1, 2, 3));
         programma.Main().EditDeleteRaster->trigger();
         QCOMPARE(pic.GetPixel(90, 15), qRgb(255, 255, 255));

@@ -86,7 +86,7 @@ private slots:
     {
         Start start;
         LaadMain();
-        start.Venster.VoegRijToe(u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s);
+        start.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
         const QImage pic = start.Venster.Pic->Image();
         const QByteArray instellingen = start.Instellingen();
         PuzzelGewijzigd = true;

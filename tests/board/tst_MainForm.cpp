@@ -358,7 +358,7 @@ private slots:
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
         bord.Venster.ToonSoort();
-        bord.Venster.ToonSoortDelen();
+        bord.Venster.ToonPuzzel(u"Raster Atelier"_s);
         QCOMPARE(bord.Venster.Label12->Caption(), opschrift);
         QCOMPARE(!bord.Venster.Frame9->isHidden(), soort == 4);
         QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), soort == 5);

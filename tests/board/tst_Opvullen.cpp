@@ -39,7 +39,7 @@ private slots:
                 QVERIFY(HeeftInkt(pic, Binnen(kolom, rij)));
         QVERIFY(bord.Groot() == groot);
         QVERIFY(!PuzzelGewijzigd);
-        QVERIFY(bord.Venster.Pic->ScaleMode == ScaleModes::Twips);
+        QVERIFY(bord.Venster.Pic->ScaleMode() == ScaleModes::Twips);
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
@@ -64,10 +64,9 @@ private slots:
         bord.Venster.Pic->FontBold = true;
         bord.Venster.Pic->FontSize = 12;
         for (int letter = 0; letter < 26; ++letter) {
-            const QString tekst(QChar(65 + letter));
-            bord.Venster.Pic->CurrentX = (letter % 9) * 450 + 165 + LetterVerschuiving(tekst);
-            bord.Venster.Pic->CurrentY = (letter / 9) * 450 + 105;
-            bord.Venster.Pic->Print(tekst);
+            const QChar teken(65 + letter);
+            bord.Venster.Pic->PrintOp((letter % 9) * 450 + 165 + LetterVerschuiving(teken), (letter / 9) * 450 + 105,
+                                      QString(teken));
         }
         const QImage ervoor = bord.Pic();
         VulLegeVakjes();

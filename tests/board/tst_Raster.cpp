@@ -122,11 +122,6 @@ private slots:
 
     void theRulersShowLettersAndTwoDigits()
     {
-        QCOMPARE(RijTekst(0), u"01"_s);
-        QCOMPARE(RijTekst(8), u"09"_s);
-        QCOMPARE(RijTekst(9), u"10"_s);
-        QCOMPARE(RijTekst(18), u"19"_s);
-
         Bord bord;
         const QRgb achter = qRgb(230, 230, 190);
         const auto letter = [&](const QString &tekst, int x, int y, QSize maat) {

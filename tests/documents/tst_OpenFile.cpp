@@ -13,6 +13,14 @@ using namespace Qt::StringLiterals;
 static const QList<QStringList> TweeRijen{{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s},
                                           {u"B-02 / 11-V"_s, QString(), u"wijn"_s, u"7"_s}};
 
+static QList<Rij> AlsRijen(const QList<QStringList> &rijen)
+{
+    QList<Rij> alle;
+    for (const QStringList &r : rijen)
+        alle += {r[0], r[1], r[2], r[3]};
+    return alle;
+}
+
 class tst_OpenFile : public QObject
 {
     Q_OBJECT
@@ -106,7 +114,7 @@ private slots:
     {
         Bord bord;
         bord.Begin(Kruiswoord, 9, 12);
-        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
         bord.Klik(Qt::RightButton, 3, 4);
         SaveForm bewaar;
         bewaar.Text1->setText(u"mijn PUZZEL"_s);
@@ -169,7 +177,7 @@ private slots:
     void fiveHeaderLinesGiveAnEmptyList()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
         SchrijfPuzzel(bord, u"Leeg"_s, Zweeds, 10, 11, {});
         Open(u"Leeg"_s);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
@@ -292,7 +300,7 @@ private slots:
         Bord bord;
         PuzzelType = Kruiswoord;
         bord.Venster.ToonSoort();
-        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
         bord.Bank.Schrijf(u"Puzzels/Stuk.lst"_s, inhoud);
         Open(u"Stuk"_s);
         QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
@@ -332,7 +340,7 @@ private slots:
         QFETCH(QByteArray, breedte);
         QFETCH(int, fout);
         Bord bord;
-        bord.Venster.VoegRijenToe(TweeRijen);
+        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
         bord.Klik(Qt::RightButton, 1, 1);
         const QImage pic = bord.Pic(), groot = bord.Groot();
         bord.Bank.Schrijf(u"Puzzels/Groot.lst"_s, "b\r\n2\r\n" + breedte + "\r\n19\r\n-\r\nx\r\ny\r\nz\r\n-\r\n-\r\n");

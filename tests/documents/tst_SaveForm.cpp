@@ -55,7 +55,7 @@ class tst_SaveForm : public QObject
     {
         bord.Begin(Zweeds, 9, 10);
         bord.Klik(Qt::RightButton, 2, 2);
-        bord.Venster.VoegRijToe(u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s);
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s}});
         PuzzelGewijzigd = true;
     }
 

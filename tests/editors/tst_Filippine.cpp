@@ -13,7 +13,7 @@ class tst_Filippine : public QObject
 
     static void Plak(Bord &bord, const PictureBox &vak, int kolom, int rij)
     {
-        bord.Venster.Pic->PaintPicture(vak.Image(), kolom * 450, rij * 450, 465, 465, 0, 0, PlakWijze::Kopie);
+        bord.Venster.Pic->PaintPicture(vak.Image(), QRectF(kolom * 450, rij * 450, 465, 465), QRectF(0, 0, 465, 465));
         bord.Venster.Pic->FontSize = 12;
         bord.Venster.Pic->CurrentX = kolom * 450 + 150;
         bord.Venster.Pic->CurrentY = rij * 450 + 105;

@@ -19,7 +19,7 @@ class Doek : public PictureBox
 public:
     explicit Doek(ScaleModes mode = ScaleModes::Twips) : PictureBox(nullptr)
     {
-        ScaleMode = mode;
+        SetScaleMode(mode);
         SetSize(6000, 3000);
         Cls();
     }
@@ -52,6 +52,12 @@ private slots:
     void textOutsideTheSurfaceIsLeftOut();
     void aPictureIsCopied();
     void aPictureIsAddedBitByBit();
+    void aPartOfAnotherSizeIsStretched();
+    void printingAtAPlaceIsPrintingThere();
+    void aPartOfTheLetterThatIsLeftOutStays();
+    void unitsOfOnesOwn();
+    void unitsOfOnesOwnMeasureText();
+    void aScaleWithoutAnAreaIsRefused();
 };
 
 void TestCanvas::theFontIsTheOneMeant_data()
@@ -312,7 +318,8 @@ void TestCanvas::aPictureIsCopied()
     for (const ScaleModes mode : {ScaleModes::Twips, ScaleModes::Pixels}) {
         Doek doek(mode);
         const double eenheid = mode == ScaleModes::Twips ? 15 : 1;
-        doek.PaintPicture(Vierkleur(), 10 * eenheid, 20 * eenheid, 30, 30, 0, 0, PlakWijze::Kopie);
+        doek.PaintPicture(Vierkleur(), QRectF(10 * eenheid, 20 * eenheid, 2 * eenheid, 2 * eenheid),
+                          QRectF(0, 0, 30, 30));
         QCOMPARE(doek.Image().copy(10, 20, 2, 2), Vierkleur());
         QCOMPARE(doek.Inkt(), QRect(10, 20, 2, 2));
     }
@@ -322,11 +329,118 @@ void TestCanvas::aPictureIsAddedBitByBit()
 {
     Doek doek;
     doek.BoxFull(0, 0, 15, 15, qRgb(0xE5, 0xAA, 0x5A));
-    doek.PaintPicture(Vierkleur(), 0, 0, 30, 30, 0, 0, PlakWijze::En);
+    doek.PaintPicture(Vierkleur(), QRectF(0, 0, 30, 30), QRectF(0, 0, 30, 30), PlakWijze::En);
     QCOMPARE(doek.GetPixel(0, 0), qRgb(0x96 & 0xE5, 0x0F & 0xAA, 0x5A));
     QCOMPARE(doek.GetPixel(1, 0), qRgb(0xE5, 0, 0));
     QCOMPARE(doek.GetPixel(0, 1), qRgb(0xE5, 0xAA, 0x5A));
     QCOMPARE(doek.GetPixel(1, 1), qRgb(0, 0, 0));
+}
+
+void TestCanvas::aPartOfAnotherSizeIsStretched()
+{
+    QImage bron(20, 20, QImage::Format_RGB32);
+    bron.fill(qRgb(0, 0, 0));
+    for (int y = 0; y < 10; ++y)
+        for (int x = 0; x < 10; ++x)
+            bron.setPixel(x, y, Rood);
+    Doek doek;
+    doek.PaintPicture(bron, QRectF(150, 300, 600, 900), QRectF(0, 0, 150, 150)); // the red quarter of it
+    QCOMPARE(doek.Inkt(), QRect(10, 20, 40, 60));
+    QCOMPARE(doek.GetPixel(10, 20), Rood);
+    QCOMPARE(doek.GetPixel(49, 79), Rood);
+
+    doek.Cls();
+    doek.PaintPicture(bron, QRectF(0, 0, 600, 150), QRectF(0, 0, 300, 300)); // wider and lower: each side by itself
+    QCOMPARE(doek.Inkt(), QRect(0, 0, 40, 10));
+    QCOMPARE(doek.GetPixel(5, 2), Rood);
+    QCOMPARE(doek.GetPixel(35, 2), qRgb(0, 0, 0));
+    QCOMPARE(doek.GetPixel(5, 8), qRgb(0, 0, 0));
+
+    doek.PaintPicture(bron, QRectF(-300, -300, 900, 900), QRectF(0, 0, 300, 300), PlakWijze::En);
+    QCOMPARE(doek.Inkt(), QRect(0, 0, 40, 40)); // what falls outside is left out
+}
+
+void TestCanvas::printingAtAPlaceIsPrintingThere()
+{
+    Doek gezet, op;
+    gezet.CurrentX = 300;
+    gezet.CurrentY = 450;
+    gezet.Print(u"Raster"_s);
+    op.PrintOp(300, 450, u"Raster"_s);
+    QCOMPARE(op.Image(), gezet.Image());
+    QCOMPARE(op.CurrentX, gezet.CurrentX);
+    QCOMPARE(op.CurrentY, gezet.CurrentY);
+
+    gezet.CurrentX = 300;
+    gezet.CurrentY = 900;
+    gezet.Print(42);
+    op.PrintOp(300, 900, 42);
+    QCOMPARE(op.Image(), gezet.Image());
+}
+
+void TestCanvas::aPartOfTheLetterThatIsLeftOutStays()
+{
+    Doek doek;
+    doek.ZetLetter({.Naam = u"Arial Narrow"_s, .Punten = 20, .Vet = true, .Kleur = Rood});
+    const auto is = [&doek](const QString &naam, double punten, bool vet, QRgb kleur) {
+        return doek.FontName == naam && doek.FontSize == punten && doek.FontBold == vet && doek.ForeColor == kleur;
+    };
+    QVERIFY(is(u"Arial Narrow"_s, 20, true, Rood));
+    doek.ZetLetter({});
+    QVERIFY(is(u"Arial Narrow"_s, 20, true, Rood));
+    doek.ZetLetter({.Naam = u"Arial"_s});
+    QVERIFY(is(u"Arial"_s, 20, true, Rood));
+    doek.ZetLetter({.Punten = 6});
+    QVERIFY(is(u"Arial"_s, 6, true, Rood));
+    doek.ZetLetter({.Vet = false});
+    QVERIFY(is(u"Arial"_s, 6, false, Rood));
+    doek.ZetLetter({.Kleur = Wit});
+    QVERIFY(is(u"Arial"_s, 6, false, Wit));
+}
+
+void TestCanvas::unitsOfOnesOwn()
+{
+    Doek doek; // 400 by 200 pixels
+    doek.Scale(0, 0, 20, 5);
+    QCOMPARE(doek.ScaleMode(), ScaleModes::User);
+    doek.BoxFull(1, 1, 2, 2, Rood); // 20 pixels to the unit across, 40 down
+    QCOMPARE(doek.Inkt(), QRect(20, 40, 21, 41));
+    doek.Cls();
+    doek.Line(0.5, 2, 0.5, 3, Rood);
+    QCOMPARE(doek.Inkt(), QRect(10, 80, 1, 41));
+    doek.Cls();
+    doek.Scale(-10, 100, 10, 200); // the top left need not be 0, 0
+    doek.Line(-10, 100, 0, 100, Rood);
+    QCOMPARE(doek.Inkt(), QRect(0, 0, 201, 1));
+    doek.Cls();
+    doek.PaintPicture(Vierkleur(), QRectF(0, 150, 0.1, 1), QRectF(0, 0, 30, 30));
+    QCOMPARE(doek.Image().copy(200, 100, 2, 2), Vierkleur());
+    doek.Cls();
+    doek.SetScaleMode(ScaleModes::Twips);
+    doek.BoxFull(150, 150, 150, 150, Rood);
+    QCOMPARE(doek.Inkt(), QRect(10, 10, 1, 1));
+}
+
+void TestCanvas::unitsOfOnesOwnMeasureText()
+{
+    Doek pixels(ScaleModes::Pixels), eigen;
+    eigen.Scale(0, 0, 40, 50); // 10 pixels to the unit across, 4 down
+    QCOMPARE(eigen.TextWidth(u"Raster"_s) * 10, pixels.TextWidth(u"Raster"_s));
+    QCOMPARE(eigen.TextHeight(u"Raster"_s) * 4, pixels.TextHeight(u"Raster"_s));
+    pixels.PrintOp(100, 40, u"Raster"_s);
+    eigen.PrintOp(10, 10, u"Raster"_s);
+    QCOMPARE(eigen.Image(), pixels.Image());
+    QCOMPARE(eigen.CurrentY * 4, pixels.CurrentY);
+}
+
+void TestCanvas::aScaleWithoutAnAreaIsRefused()
+{
+    Doek doek;
+    QCOMPARE(FoutVan([&] { doek.Scale(1, 0, 1, 10); }), int{Fout::OngeldigeWaarde});
+    QCOMPARE(FoutVan([&] { doek.Scale(0, 3, 10, 3); }), int{Fout::OngeldigeWaarde});
+    QCOMPARE(doek.ScaleMode(), ScaleModes::Twips);
+    doek.SetSize(0, 300);
+    QCOMPARE(FoutVan([&] { doek.Scale(0, 0, 10, 10); }), int{Fout::OngeldigeWaarde});
 }
 
 RASTER_TEST(TestCanvas)

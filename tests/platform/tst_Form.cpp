@@ -1,4 +1,6 @@
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
+#include "platform/ImageButton.h"
 #include "support/Testbank.h"
 
 #include <QAccessible>
@@ -7,14 +9,17 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QMenuBar>
-#include <QMessageBox>
+#include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
 #include <QTimer>
 
 #include <new>
 #include <optional>
+#include <stdexcept>
 
 using namespace Qt::StringLiterals;
 
@@ -29,18 +34,35 @@ public:
         Vak = Maak<QLineEdit>("Text1", u"Woord"_s, nullptr);
     }
 
+    using Form::Gekozen;
     using Form::Kleur;
     using Form::Maak;
+    using Form::MaakBeeld;
+    using Form::MaakKnop;
+    using Form::MaakKnopMetTip;
     using Form::MaakLabel;
+    using Form::MaakNummers;
+    using Form::MaakOpties;
+    using Form::MaakSchuif;
+    using Form::MaakUitleg;
     using Form::MenuBalk;
     using Form::PasOpScherm;
+    using Form::Sluit;
+    using Form::Wacht;
     using Form::Zet;
+
+    void Knop_Click() { ++Geklikt; }
+    void Vak_Change(const QString &tekst) { Getypt += tekst; }
+    void Optie_Click(int index) { Gekozen_ += index; }
 
     QPushButton *Knop;
     QLineEdit *Vak;
+    int Geklikt = 0;
+    QStringList Getypt;
+    QList<int> Gekozen_;
 };
 
-class TestForm : public QObject
+class tst_Form : public QObject
 {
     Q_OBJECT
 
@@ -59,34 +81,41 @@ private slots:
     void aControlPlacedWithoutASizeTakesItsOwn();
     void aLabelPlacedWithASizeKeepsIt();
     void theColoursOfABoxAreSet();
+    void aDialogHasNothingToMinimiseOrMaximiseIt();
+    void aTipIsAlsoTheNameForAScreenReader();
+    void anExplanationIsWrappedFromTheTopLeft();
+    void aPictureIsAsLargeAsItsPlace();
+    void theFirstOptionIsChosen();
+    void theListOfANumberBoxStandsAtItsText_data();
+    void theListOfANumberBoxStandsAtItsText();
+    void anyTextMayBeTypedInANumberBox();
+    void theListFollowsWhatIsTyped();
+    void aScrollBarMovesOneAtATimeAndTakesTheFocus();
 
     void aHandlerRunsOnItsSignal();
     void aHandlerMayTakeTheArguments();
+    void aHandlerOfTheWindowItself();
+    void anOptionTellsItsIndexWhenItIsChosen();
     void aFailureIsShownOnceAndTheWindowStays();
     void aFailureNamesWhatItIsAbout();
     void theSenderIsCalledWhatAPersonCallsIt();
     void anAbortedHandlerSaysNothing();
     void aLackOfMemoryIsShown();
+    void anyOtherExceptionIsShown();
     void aHandlerThatSucceedsSaysNothing();
     void theNextHandlerRunsAfterAFailure();
 
     void unloadClosesForGood();
     void closingByThePersonIsUnloading();
     void toonOpensUntilTheFormIsClosed();
-
-    void aMessageIsCutAtItsLongest();
-    void aMessageHasTheProgramsTitle();
-    void aRealMessageHasAnOkButton();
-    void aRealQuestionHasYesAndNo_data();
-    void aRealQuestionHasYesAndNo();
-    void closingARealQuestionIsANo();
-    void aRealCriticalMessageHasItsIcon();
+    void whatComesBehindAWaitIsLeftOutWhenTheWindowWasClosed();
+    void cancellingPressesWaitsAndCloses();
 
 private:
     std::optional<Testbank> bank_;
 };
 
-void TestForm::init()
+void tst_Form::init()
 {
     // The offscreen platform itself warns of windows of a fixed size.
     QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
@@ -95,7 +124,7 @@ void TestForm::init()
 
 // --- the window and its controls ---
 
-void TestForm::theWindowHasItsNameAndTitle()
+void tst_Form::theWindowHasItsNameAndTitle()
 {
     const TestVenster venster;
     QCOMPARE(venster.objectName(), u"TestVenster"_s);
@@ -105,7 +134,7 @@ void TestForm::theWindowHasItsNameAndTitle()
     QCOMPARE(venster.MenuBalk(), nullptr);
 }
 
-void TestForm::theClientAreaIsTheSizeLessTheFrame()
+void tst_Form::theClientAreaIsTheSizeLessTheFrame()
 {
     TestVenster venster(4590, 3450);
     QCOMPARE(venster.size(), QSize(300, 200));
@@ -117,7 +146,7 @@ void TestForm::theClientAreaIsTheSizeLessTheFrame()
     QCOMPARE(venster.grab().toImage().pixel(299, 199), qRgb(10, 200, 30));
 }
 
-void TestForm::aMenuBarTakesAPartOfTheHeight()
+void tst_Form::aMenuBarTakesAPartOfTheHeight()
 {
     TestVenster venster(4590, 3750, true);
     QVERIFY(venster.MenuBalk());
@@ -130,7 +159,7 @@ void TestForm::aMenuBarTakesAPartOfTheHeight()
     QCOMPARE(inhoud.mapTo(&venster, QPoint(0, 0)), QPoint(0, venster.MenuBalk()->height()));
 }
 
-void TestForm::aWindowWithAMenuBarFitsTheScreen()
+void tst_Form::aWindowWithAMenuBarFitsTheScreen()
 {
     TestVenster venster(60000, 60000, true);
     venster.MenuBalk()->addMenu(u"Bestand"_s);
@@ -140,7 +169,7 @@ void TestForm::aWindowWithAMenuBarFitsTheScreen()
     QCOMPARE(venster.Knop->parentWidget()->size(), QSize(59910 / 15, 59250 / 15)); // it scrolls
 }
 
-void TestForm::aControlHasItsNames()
+void tst_Form::aControlHasItsNames()
 {
     TestVenster venster;
     QCOMPARE(venster.Knop->objectName(), u"ZoekKnop"_s);
@@ -151,7 +180,7 @@ void TestForm::aControlHasItsNames()
     QCOMPARE(label->Caption(), u"Woord:"_s);
 }
 
-void TestForm::aLabelIsReadAsWhatItShows()
+void tst_Form::aLabelIsReadAsWhatItShows()
 {
     TestVenster venster;
     Label *label = venster.MaakLabel("Label1", u"Woord:"_s);
@@ -161,7 +190,7 @@ void TestForm::aLabelIsReadAsWhatItShows()
     QCOMPARE(gelezen(), u"Letter:"_s);
 }
 
-void TestForm::aControlIsMadeOnAnotherControl()
+void tst_Form::aControlIsMadeOnAnotherControl()
 {
     TestVenster venster;
     auto *paneel = venster.Maak<QWidget>("Frame1", u"Paneel"_s, nullptr);
@@ -171,7 +200,7 @@ void TestForm::aControlIsMadeOnAnotherControl()
     QCOMPARE(paneel->parentWidget(), venster.Knop->parentWidget());
 }
 
-void TestForm::aControlStandsWhereItIsPlaced()
+void tst_Form::aControlStandsWhereItIsPlaced()
 {
     TestVenster venster;
     venster.Zet(venster.Knop, 120, 187, 1207, 368);
@@ -183,7 +212,7 @@ void TestForm::aControlStandsWhereItIsPlaced()
     QCOMPARE(venster.Vak->geometry(), QRect(-10, 0, 1, 1));
 }
 
-void TestForm::aControlPlacedWithoutASizeTakesItsOwn()
+void tst_Form::aControlPlacedWithoutASizeTakesItsOwn()
 {
     TestVenster venster;
     venster.Zet(venster.Knop, 300, 450);
@@ -195,7 +224,7 @@ void TestForm::aControlPlacedWithoutASizeTakesItsOwn()
     QVERIFY(label->AutoSize);
 }
 
-void TestForm::aLabelPlacedWithASizeKeepsIt()
+void tst_Form::aLabelPlacedWithASizeKeepsIt()
 {
     TestVenster venster;
     Label *label = venster.MaakLabel("Label1", u"Woord:"_s);
@@ -204,7 +233,7 @@ void TestForm::aLabelPlacedWithASizeKeepsIt()
     QCOMPARE(label->geometry(), QRect(10, 20, 100, 20));
 }
 
-void TestForm::theColoursOfABoxAreSet()
+void tst_Form::theColoursOfABoxAreSet()
 {
     TestVenster venster;
     venster.Kleur(venster.Vak, qRgb(1, 2, 3), qRgb(250, 251, 252));
@@ -216,7 +245,7 @@ void TestForm::theColoursOfABoxAreSet()
 
 // --- handlers ---
 
-void TestForm::aHandlerRunsOnItsSignal()
+void tst_Form::aHandlerRunsOnItsSignal()
 {
     TestVenster venster;
     int gedaan = 0;
@@ -226,7 +255,7 @@ void TestForm::aHandlerRunsOnItsSignal()
     QCOMPARE(gedaan, 1);
 }
 
-void TestForm::aHandlerMayTakeTheArguments()
+void tst_Form::aHandlerMayTakeTheArguments()
 {
     TestVenster venster;
     auto *combo = venster.Maak<QComboBox>("Combo1", u"Keuze"_s, nullptr);
@@ -241,7 +270,7 @@ void TestForm::aHandlerMayTakeTheArguments()
     QCOMPARE(getypt, QStringList{u"aap"_s});
 }
 
-void TestForm::aFailureIsShownOnceAndTheWindowStays()
+void tst_Form::aFailureIsShownOnceAndTheWindowStays()
 {
     TestVenster venster;
     venster.show();
@@ -263,7 +292,7 @@ void TestForm::aFailureIsShownOnceAndTheWindowStays()
     QVERIFY(!venster.Unloaded());
 }
 
-void TestForm::aFailureNamesWhatItIsAbout()
+void tst_Form::aFailureNamesWhatItIsAbout()
 {
     Form::Voer(u"het lezen"_s, [] { throw Fout(Fout::BestandNietGevonden, u"aap.lst"_s); });
     QCOMPARE(bank_->Script.Gezien.size(), 1);
@@ -273,7 +302,7 @@ void TestForm::aFailureNamesWhatItIsAbout()
     QVERIFY(tekst.contains("53"_L1));
 }
 
-void TestForm::theSenderIsCalledWhatAPersonCallsIt()
+void tst_Form::theSenderIsCalledWhatAPersonCallsIt()
 {
     const TestVenster venster;
     QCOMPARE(Form::Wat(venster.Knop), u"'Zoeken'"_s);
@@ -288,7 +317,7 @@ void TestForm::theSenderIsCalledWhatAPersonCallsIt()
     QCOMPARE(Form::Wat(&timer), u"'Timer1'"_s);
 }
 
-void TestForm::anAbortedHandlerSaysNothing()
+void tst_Form::anAbortedHandlerSaysNothing()
 {
     TestVenster venster;
     bool begonnen = false;
@@ -301,7 +330,7 @@ void TestForm::anAbortedHandlerSaysNothing()
     QVERIFY(bank_->Script.Gezien.isEmpty());
 }
 
-void TestForm::aLackOfMemoryIsShown()
+void tst_Form::aLackOfMemoryIsShown()
 {
     TestVenster venster;
     venster.bij(venster.Knop, &QPushButton::clicked, [] { throw std::bad_alloc(); });
@@ -314,7 +343,7 @@ void TestForm::aLackOfMemoryIsShown()
     QVERIFY(bericht.Plaatje == Icoon::Kritiek);
 }
 
-void TestForm::aHandlerThatSucceedsSaysNothing()
+void tst_Form::aHandlerThatSucceedsSaysNothing()
 {
     bool gedaan = false;
     Form::Voer(u"niets"_s, [&] { gedaan = true; });
@@ -322,7 +351,7 @@ void TestForm::aHandlerThatSucceedsSaysNothing()
     QVERIFY(bank_->Script.Gezien.isEmpty());
 }
 
-void TestForm::theNextHandlerRunsAfterAFailure()
+void tst_Form::theNextHandlerRunsAfterAFailure()
 {
     TestVenster venster;
     bool gedaan = false;
@@ -334,9 +363,186 @@ void TestForm::theNextHandlerRunsAfterAFailure()
     QCOMPARE(bank_->Script.Gezien.size(), 2);
 }
 
+void tst_Form::aHandlerOfTheWindowItself()
+{
+    TestVenster venster;
+    venster.bij(venster.Knop, &QPushButton::clicked, &TestVenster::Knop_Click); // without the signal's argument
+    venster.bij(venster.Vak, &QLineEdit::textChanged, &TestVenster::Vak_Change);
+    venster.Knop->click();
+    venster.Vak->setText(u"aap"_s);
+    QCOMPARE(venster.Geklikt, 1);
+    QCOMPARE(venster.Getypt, QStringList{u"aap"_s});
+}
+
+void tst_Form::anOptionTellsItsIndexWhenItIsChosen()
+{
+    TestVenster venster;
+    const QList<QRadioButton *> opties = venster.MaakOpties({u"een"_s, u"twee"_s, u"drie"_s});
+    venster.bij(opties, &TestVenster::Optie_Click);
+    opties[2]->click();
+    opties[2]->click(); // is chosen already
+    opties[1]->click();
+    QCOMPARE(venster.Gekozen_, (QList{2, 1}));
+}
+
+void tst_Form::anyOtherExceptionIsShown()
+{
+    Form::Voer(u"het lezen"_s, [] { throw std::length_error("te lang"); });
+    QCOMPARE(bank_->Script.Gezien.size(), 1);
+    const QString tekst = bank_->Script.Gezien[0].Tekst;
+    QVERIFY2(tekst.contains("het lezen"_L1) && tekst.contains("te lang"_L1), qPrintable(tekst));
+    QVERIFY(bank_->Script.Gezien[0].Plaatje == Icoon::Kritiek);
+}
+
+// --- the controls that many windows have ---
+
+void tst_Form::aDialogHasNothingToMinimiseOrMaximiseIt()
+{
+    const TestVenster venster;
+    QVERIFY(venster.windowFlags() & Qt::WindowCloseButtonHint);
+    QVERIFY(!(venster.windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
+    QCOMPARE(venster.windowType(), Qt::Dialog);
+}
+
+void tst_Form::aTipIsAlsoTheNameForAScreenReader()
+{
+    TestVenster venster;
+    const ImageButton *knop = venster.MaakKnopMetTip("DelKnop", u" Puzzel verwijderen "_s, u"knop-wissen"_s);
+    QCOMPARE(knop->objectName(), u"DelKnop"_s);
+    QCOMPARE(knop->toolTip(), u" Puzzel verwijderen "_s);
+    QCOMPARE(knop->accessibleName(), u"Puzzel verwijderen"_s);
+    QCOMPARE(venster.MaakKnop("SaveKnop", u"Opslaan"_s, u"knop-opslaan"_s)->toolTip(), QString());
+}
+
+void tst_Form::anExplanationIsWrappedFromTheTopLeft()
+{
+    TestVenster venster;
+    const Label *uitleg = venster.MaakUitleg("Label5", u"Maak een keus."_s);
+    QVERIFY(uitleg->wordWrap());
+    QCOMPARE(uitleg->alignment(), Qt::AlignLeft | Qt::AlignTop);
+    QCOMPARE(uitleg->Caption(), u"Maak een keus."_s);
+}
+
+void tst_Form::aPictureIsAsLargeAsItsPlace()
+{
+    TestVenster venster;
+    ImageBox *beeld = venster.MaakBeeld("Image1", u"Richting"_s, u"richting-h"_s);
+    TestVenster::Zet(beeld, 150, 150, 480, 720);
+    QImage verwacht(32, 48, QImage::Format_ARGB32_Premultiplied);
+    verwacht.fill(qRgb(10, 200, 30));
+    {
+        QPainter painter(&verwacht);
+        painter.drawPixmap(0, 0, Plaatjes::Pixmap(u"richting-h"_s, QSize(32, 48), 1));
+    }
+    const auto getoond = [&] { return beeld->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied); };
+    QCOMPARE(getoond(), verwacht);
+    beeld->SetPicture(u"richting-v"_s);
+    QCOMPARE(beeld->Picture(), u"richting-v"_s);
+    QVERIFY(getoond() != verwacht);
+    beeld->SetPicture(QString());
+    verwacht.fill(qRgb(10, 200, 30));
+    QCOMPARE(getoond(), verwacht);
+}
+
+void tst_Form::theFirstOptionIsChosen()
+{
+    TestVenster venster;
+    const QList<QRadioButton *> opties = venster.MaakOpties({u"een"_s, u"twee"_s});
+    QCOMPARE(opties[0]->objectName(), u"Option1"_s);
+    QCOMPARE(opties[1]->objectName(), u"Option2"_s);
+    QCOMPARE(opties[1]->text(), u"twee"_s);
+    QCOMPARE(TestVenster::Gekozen(opties), 0);
+    opties[1]->click();
+    QCOMPARE(TestVenster::Gekozen(opties), 1);
+}
+
+void tst_Form::theListOfANumberBoxStandsAtItsText_data()
+{
+    QTest::addColumn<int>("nu");
+    QTest::addColumn<QString>("omlaag");
+    QTest::addColumn<QString>("omhoog");
+    QTest::newRow("in the middle") << 12 << u"13"_s << u"11"_s;
+    QTest::newRow("the first") << 9 << u"10"_s << u"9"_s;
+    QTest::newRow("the last") << 16 << u"16"_s << u"15"_s;
+}
+
+void tst_Form::theListOfANumberBoxStandsAtItsText()
+{
+    QFETCH(int, nu);
+    TestVenster venster;
+    QComboBox *combo = venster.MaakNummers("Combo1", u"Getal"_s, 9, 16, nu);
+    QCOMPARE(combo->currentText(), QString::number(nu));
+    QTest::keyClick(combo, Qt::Key_Down);
+    QTEST(combo->currentText(), "omlaag");
+    combo->setEditText(QString::number(nu));
+    QTest::keyClick(combo, Qt::Key_Up);
+    QTEST(combo->currentText(), "omhoog");
+}
+
+void tst_Form::anyTextMayBeTypedInANumberBox()
+{
+    TestVenster venster;
+    QComboBox *combo = venster.MaakNummers("Combo1", u"Getal"_s, 9, 16, 40);
+    QCOMPARE(combo->currentText(), u"40"_s);
+    QCOMPARE(combo->count(), 8);
+    combo->setEditText(u"twaalf"_s);
+    QTest::keyClick(combo, Qt::Key_Return);
+    QCOMPARE(combo->currentText(), u"twaalf"_s);
+    QCOMPARE(combo->count(), 8);
+}
+
+void tst_Form::theListFollowsWhatIsTyped()
+{
+    TestVenster venster;
+    QComboBox *combo = venster.MaakNummers("Combo1", u"Getal"_s, 9, 16, 9);
+    combo->lineEdit()->selectAll();
+    QTest::keyClicks(combo->lineEdit(), u"12"_s);
+    combo->lineEdit()->setCursorPosition(1);
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Delete);
+    QTest::keyClicks(combo->lineEdit(), u"4"_s);
+    QCOMPARE(combo->currentText(), u"14"_s);
+    QTest::keyClick(combo, Qt::Key_Down);
+    QCOMPARE(combo->currentText(), u"15"_s);
+    combo->setEditText(u"102"_s);
+    combo->lineEdit()->setCursorPosition(2);
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Delete); // "10" is in the list: the cursor stays all the same
+    QCOMPARE(combo->lineEdit()->cursorPosition(), 2);
+    combo->setEditText(u"1x1"_s);
+    combo->lineEdit()->setCursorPosition(1);
+    QTest::keyClick(combo->lineEdit(), Qt::Key_Delete);
+    QCOMPARE(combo->currentText(), u"11"_s);
+    QCOMPARE(combo->lineEdit()->cursorPosition(), 1);
+}
+
+void tst_Form::aScrollBarMovesOneAtATimeAndTakesTheFocus()
+{
+    TestVenster venster;
+    QScrollBar *schuif = venster.MaakSchuif("HScroll1", u"Soort"_s, 2, 19);
+    QCOMPARE(schuif->value(), 2);
+    QCOMPARE(schuif->maximum(), 19);
+    QCOMPARE(schuif->orientation(), Qt::Horizontal);
+    venster.show();
+    venster.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&venster));
+    schuif->setFocus();
+    QTest::keyClick(schuif, Qt::Key_Right);
+    QCOMPARE(schuif->value(), 3);
+    for (const auto &[toets, waarde] :
+         {std::pair(Qt::Key_Down, 4), std::pair(Qt::Key_PageDown, 5), std::pair(Qt::Key_Left, 4),
+          std::pair(Qt::Key_Up, 3), std::pair(Qt::Key_PageUp, 2), std::pair(Qt::Key_End, 19)}) {
+        QTest::keyClick(schuif, toets);
+        QCOMPARE(schuif->value(), waarde);
+    }
+    venster.Vak->setFocus();
+    const QImage zonder = schuif->grab().toImage();
+    QTest::keyClick(&venster, Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(), schuif);
+    QVERIFY(schuif->grab().toImage() != zonder); // and shows it
+}
+
 // --- closing ---
 
-void TestForm::unloadClosesForGood()
+void tst_Form::unloadClosesForGood()
 {
     TestVenster venster;
     venster.show();
@@ -346,7 +552,7 @@ void TestForm::unloadClosesForGood()
     QVERIFY(!venster.isVisible());
 }
 
-void TestForm::closingByThePersonIsUnloading()
+void tst_Form::closingByThePersonIsUnloading()
 {
     TestVenster metKruis, metEscape;
     metKruis.show();
@@ -359,7 +565,7 @@ void TestForm::closingByThePersonIsUnloading()
     QVERIFY(metEscape.Unloaded());
 }
 
-void TestForm::toonOpensUntilTheFormIsClosed()
+void tst_Form::toonOpensUntilTheFormIsClosed()
 {
     bool zichtbaar = false;
     QTimer::singleShot(0, this, [&] {
@@ -374,124 +580,36 @@ void TestForm::toonOpensUntilTheFormIsClosed()
     QCOMPARE(QApplication::activeModalWidget(), nullptr);
 }
 
-// --- messages ---
-
-void TestForm::aMessageIsCutAtItsLongest()
+void tst_Form::whatComesBehindAWaitIsLeftOutWhenTheWindowWasClosed()
 {
-    MsgBox(QString(1024, u'a') + u"b"_s);
-    MsgBox(QString(1024, u'c'));
-    QCOMPARE(bank_->Script.Gezien.size(), 2);
-    QCOMPARE(bank_->Script.Gezien[0].Tekst, QString(1024, u'a'));
-    QCOMPARE(bank_->Script.Gezien[1].Tekst, QString(1024, u'c'));
+    TestVenster venster;
+    venster.show();
+    venster.Wacht(0.5); // nothing happens
+    QCOMPARE(bank_->TestKlok.Gewacht(), 0.5);
+    QTimer::singleShot(0, &venster, [&] { venster.close(); });
+    QVERIFY_EXCEPTION_THROWN(venster.Wacht(0.5), Afgebroken);
+    venster.Wacht(0.5); // a window that was closed before
 }
 
-void TestForm::aMessageHasTheProgramsTitle()
+void tst_Form::cancellingPressesWaitsAndCloses()
 {
-    bank_->Script.Antwoorden = {Antwoord::Ja, Antwoord::Nee};
-    QVERIFY(MsgBox(u"Klaar"_s) == Antwoord::Ok);
-    QVERIFY(MsgBox(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s) == Antwoord::Ja);
-    QVERIFY(MsgBox(u"Zeker?"_s, Knoppen::JaNee) == Antwoord::Nee);
-    QCOMPARE(bank_->Script.Gezien.size(), 3);
-    QCOMPARE(bank_->Script.Gezien[0].Titel, u"Rasteratelier"_s);
-    QVERIFY(bank_->Script.Gezien[0].Plaatje == Icoon::Geen);
-    QCOMPARE(bank_->Script.Gezien[1].Titel, u"Delete"_s);
-    QVERIFY(bank_->Script.Gezien[1].Soort == Knoppen::JaNee);
+    TestVenster venster;
+    ImageButton *knop = venster.MaakKnop("CancelKnop", u"Annuleren"_s, u"knop-annuleren"_s);
+    const QPoint plaats = knop->pos();
+    QPoint ingedrukt;
+    venster.show();
+    QTimer::singleShot(0, &venster, [&] { ingedrukt = knop->pos(); });
+    venster.Sluit(knop, 0.2);
+    QCOMPARE(ingedrukt, plaats + QPoint(2, 2));
+    QCOMPARE(knop->pos(), plaats);
+    QCOMPARE(bank_->TestKlok.Gewacht(), 0.4);
+    QVERIFY(venster.Unloaded());
+
+    TestVenster zonder;
+    zonder.Sluit(zonder.MaakKnop("CancelKnop", u"Annuleren"_s, u"knop-annuleren"_s));
+    QCOMPARE(bank_->TestKlok.Gewacht(), 0.6);
+    QVERIFY(zonder.Unloaded());
 }
 
-/// Shows a real message, notes how it looks and then handles it.
-struct EchtBericht
-{
-    EchtBericht(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel,
-                const std::function<void(QMessageBox &)> &doe)
-    {
-        Berichten::Gebruik(nullptr);
-        QTimer::singleShot(0, qApp, [&] {
-            auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
-            if (!box)
-                return;
-            Tekst = box->text();
-            Vorm = box->textFormat();
-            Titel = box->windowTitle();
-            Plaatje = box->icon();
-            for (const QAbstractButton *knop : box->buttons())
-                Opschriften += knop->text().remove(u'&');
-            Opschriften.sort();
-            doe(*box);
-        });
-        Gegeven = MsgBox(tekst, knoppen, icoon, titel);
-    }
-
-    static void Klik(QMessageBox &box, const QString &opschrift)
-    {
-        for (QAbstractButton *knop : box.buttons())
-            if (knop->text().remove(u'&') == opschrift)
-                knop->click();
-    }
-
-    QString Tekst, Titel;
-    Qt::TextFormat Vorm = Qt::AutoText;
-    QMessageBox::Icon Plaatje = QMessageBox::NoIcon;
-    QStringList Opschriften;
-    Antwoord Gegeven;
-};
-
-void TestForm::aRealMessageHasAnOkButton()
-{
-    const QString tekst = u"<b>Klaar</b> & wel"_s;
-    const auto klik = [](QMessageBox &box) { EchtBericht::Klik(box, u"OK"_s); };
-    const EchtBericht bericht(tekst, Knoppen::Ok, Icoon::Geen, u"Een titel"_s, klik);
-    QCOMPARE(bericht.Tekst, tekst);
-    QCOMPARE(bericht.Vorm, Qt::PlainText);
-    QCOMPARE(bericht.Titel, u"Een titel"_s);
-    QCOMPARE(bericht.Opschriften, QStringList{u"OK"_s});
-    QCOMPARE(bericht.Plaatje, QMessageBox::NoIcon);
-    QVERIFY(bericht.Gegeven == Antwoord::Ok);
-
-    const auto escape = [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); };
-    const EchtBericht gesloten(tekst, Knoppen::Ok, Icoon::Geen, QString(), escape);
-    QCOMPARE(gesloten.Tekst, tekst);
-    QVERIFY(gesloten.Gegeven == Antwoord::Ok);
-}
-
-void TestForm::aRealQuestionHasYesAndNo_data()
-{
-    QTest::addColumn<QString>("opschrift");
-    QTest::addColumn<int>("antwoord");
-    QTest::newRow("yes") << u"Ja"_s << int(Antwoord::Ja);
-    QTest::newRow("no") << u"Nee"_s << int(Antwoord::Nee);
-}
-
-void TestForm::aRealQuestionHasYesAndNo()
-{
-    QFETCH(QString, opschrift);
-    const EchtBericht bericht(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s,
-                              [&](QMessageBox &box) { EchtBericht::Klik(box, opschrift); });
-    QCOMPARE(bericht.Opschriften, (QStringList{u"Ja"_s, u"Nee"_s}));
-    QCOMPARE(bericht.Titel, u"Delete"_s);
-    QTEST(int(bericht.Gegeven), "antwoord");
-}
-
-void TestForm::closingARealQuestionIsANo()
-{
-    const EchtBericht metEscape(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
-                                [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    QCOMPARE(metEscape.Opschriften.size(), 2);
-    QVERIFY(metEscape.Gegeven == Antwoord::Nee);
-    const EchtBericht metKruis(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
-                               [](QMessageBox &box) { box.close(); });
-    QCOMPARE(metKruis.Opschriften.size(), 2);
-    QVERIFY(metKruis.Gegeven == Antwoord::Nee);
-    const EchtBericht metEnter(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
-                               [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
-    QVERIFY(metEnter.Gegeven == Antwoord::Ja);
-}
-
-void TestForm::aRealCriticalMessageHasItsIcon()
-{
-    const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Kritiek, QString(), [](QMessageBox &box) { box.close(); });
-    QCOMPARE(bericht.Plaatje, QMessageBox::Critical);
-    QVERIFY(bericht.Gegeven == Antwoord::Ok);
-}
-
-RASTER_TEST(TestForm)
+RASTER_TEST(tst_Form)
 #include "tst_Form.moc"

@@ -19,7 +19,7 @@ class PixelBox : public PictureBox
 public:
     explicit PixelBox(int breedte = 100, int hoogte = 60) : PictureBox(nullptr)
     {
-        ScaleMode = ScaleModes::Pixels;
+        SetScaleMode(ScaleModes::Pixels);
         Maat(breedte, hoogte);
         Cls();
     }
@@ -81,6 +81,8 @@ private slots:
     void anImpossibleSizeChangesNothing_data();
     void anImpossibleSizeChangesNothing();
     void theLargestPictureFits();
+    void whatIsHiddenCountsToo();
+    void paintingMakesNoPicture();
     void aBoxWithoutASideTakesDrawing_data();
     void aBoxWithoutASideTakesDrawing();
 
@@ -191,7 +193,7 @@ void TestPictureBox::whatFallsOutsideIsLeftOut()
     }();
     for (const ScaleModes mode : {ScaleModes::Pixels, ScaleModes::Twips}) {
         PixelBox box;
-        box.ScaleMode = mode;
+        box.SetScaleMode(mode);
         box.Line(-Ver, -5 * 15, Ver, -5 * 15, Zwart);
         box.Line(-5 * 15, -Ver, -5 * 15, Ver, Zwart);
         box.Line(-Ver, 0, 0, -Ver, Zwart);
@@ -201,8 +203,8 @@ void TestPictureBox::whatFallsOutsideIsLeftOut()
         box.BoxFull(Ver, Ver, 2 * Ver, 2 * Ver, Zwart);
         for (const double x : {-Ver, 0.0, Ver})
             for (const double y : {-Ver, Ver}) {
-                box.PaintPicture(beeld, x, y, 150, 150, 0, 0, PlakWijze::Kopie);
-                box.PaintPicture(beeld, y, x, 150, 150, 0, 0, PlakWijze::En);
+                box.PaintPicture(beeld, QRectF(x, y, 10, 10), QRectF(0, 0, 150, 150));
+                box.PaintPicture(beeld, QRectF(y, x, 10, 10), QRectF(0, 0, 150, 150), PlakWijze::En);
             }
         QCOMPARE(box.Inkt(), QRect());
         box.BoxFull(-Ver, Ver, Ver, -Ver, Rood);
@@ -267,7 +269,7 @@ void TestPictureBox::twipsGoToTheNearestPixel()
     QCOMPARE(inkt(), plek);
     QImage punt(1, 1, QImage::Format_RGB32);
     punt.fill(Rood);
-    box.PaintPicture(punt, twips, twips, 15, 15, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(punt, QRectF(twips, twips, 15, 15), QRectF(0, 0, 15, 15));
     QCOMPARE(inkt(), plek);
     box.Line(twips, twips, 60 * 15, 40 * 15, Rood);
     QCOMPARE(inkt(), QRect(QPoint(std::min(pixel, 60), std::min(pixel, 40)), QPoint(60, 40)));
@@ -276,11 +278,11 @@ void TestPictureBox::twipsGoToTheNearestPixel()
 void TestPictureBox::theScaleModeSetsTheUnits()
 {
     PixelBox box;
-    QCOMPARE(PictureBox(nullptr).ScaleMode, ScaleModes::Twips);
+    QCOMPARE(PictureBox(nullptr).ScaleMode(), ScaleModes::Twips);
     box.BoxFull(30, 30, 30, 30, Rood);
     QCOMPARE(box.Inkt(), QRect(30, 30, 1, 1));
     box.Cls();
-    box.ScaleMode = ScaleModes::Twips;
+    box.SetScaleMode(ScaleModes::Twips);
     box.BoxFull(30, 30, 30, 30, Rood);
     QCOMPARE(box.Inkt(), QRect(2, 2, 1, 1));
 }
@@ -300,7 +302,7 @@ static QImage Bont(int breedte, int hoogte)
 void TestPictureBox::aPictureIsPaintedAtItsPlace()
 {
     PixelBox box;
-    box.PaintPicture(Bont(20, 10), 30, 40, 20 * 15, 10 * 15, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(Bont(20, 10), QRectF(30, 40, 20, 10), QRectF(0, 0, 20 * 15, 10 * 15));
     QCOMPARE(box.Inkt(), QRect(30, 40, 20, 10));
     QCOMPARE(box.Image().copy(30, 40, 20, 10), Bont(20, 10));
 }
@@ -308,7 +310,7 @@ void TestPictureBox::aPictureIsPaintedAtItsPlace()
 void TestPictureBox::aPartOfAPictureIsPainted()
 {
     PixelBox box;
-    box.PaintPicture(Bont(20, 10), 30, 40, 6 * 15, 3 * 15, 5 * 15, 2 * 15, PlakWijze::Kopie);
+    box.PaintPicture(Bont(20, 10), QRectF(30, 40, 6, 3), QRectF(5 * 15, 2 * 15, 6 * 15, 3 * 15));
     QCOMPARE(box.Inkt(), QRect(30, 40, 6, 3));
     QCOMPARE(box.Image().copy(30, 40, 6, 3), Bont(20, 10).copy(5, 2, 6, 3));
 }
@@ -321,7 +323,7 @@ void TestPictureBox::andIsBitwise()
     bron.setPixel(1, 0, Wit);
     bron.setPixel(2, 0, Zwart);
     box.BoxFull(0, 0, 2, 0, qRgb(0xE5, 0x3C, 0x0F));
-    box.PaintPicture(bron, 0, 0, 3 * 15, 15, 0, 0, PlakWijze::En);
+    box.PaintPicture(bron, QRectF(0, 0, 3, 1), QRectF(0, 0, 3 * 15, 15), PlakWijze::En);
     QCOMPARE(box.GetPixel(0, 0), qRgb(0x84, 0x18, 0x00));
     QCOMPARE(box.GetPixel(1, 0), qRgb(0xE5, 0x3C, 0x0F));
     QCOMPARE(box.GetPixel(2, 0), Zwart);
@@ -346,7 +348,7 @@ void TestPictureBox::aPictureIsClippedAtTheEdges()
     QFETCH(QPoint, plaats);
     for (const PlakWijze wijze : {PlakWijze::Kopie, PlakWijze::En}) {
         PixelBox box;
-        box.PaintPicture(Bont(20, 10), plaats.x(), plaats.y(), 20 * 15, 10 * 15, 0, 0, wijze);
+        box.PaintPicture(Bont(20, 10), QRectF(plaats.x(), plaats.y(), 20, 10), QRectF(0, 0, 20 * 15, 10 * 15), wijze);
         const QRect zichtbaar = QRect(plaats, QSize(20, 10)) & box.rect();
         QCOMPARE(box.Inkt(), zichtbaar.isEmpty() ? QRect() : zichtbaar);
         if (!zichtbaar.isEmpty())
@@ -369,8 +371,8 @@ void TestPictureBox::aPartBeyondThePictureIsLeftOut()
 {
     QFETCH(QRect, deel);
     PixelBox box;
-    box.PaintPicture(Bont(20, 10), 10, 10, deel.width() * 15, deel.height() * 15, deel.x() * 15, deel.y() * 15,
-                     PlakWijze::Kopie);
+    box.PaintPicture(Bont(20, 10), QRectF(10, 10, deel.width(), deel.height()),
+                     QRectF(deel.x() * 15, deel.y() * 15, deel.width() * 15, deel.height() * 15));
     const QRect bron = deel & QRect(0, 0, 20, 10);
     const QRect doel = bron.translated(QPoint(10, 10) - deel.topLeft());
     QCOMPARE(box.Inkt(), bron.isEmpty() ? QRect() : doel);
@@ -383,18 +385,18 @@ void TestPictureBox::aPictureOfAnotherFormatIsPaintedToo()
     QImage grijs(4, 4, QImage::Format_Grayscale8);
     grijs.fill(100);
     PixelBox box;
-    box.PaintPicture(grijs, 1, 1, 60, 60, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(grijs, QRectF(1, 1, 4, 4), QRectF(0, 0, 60, 60));
     QCOMPARE(box.Inkt(), QRect(1, 1, 4, 4));
     QCOMPARE(box.Aantal(qRgb(100, 100, 100)), 16);
-    box.PaintPicture({}, 0, 0, 60, 60, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(QImage(), QRectF(0, 0, 4, 4), QRectF(0, 0, 60, 60));
     QCOMPARE(box.Inkt(), QRect(1, 1, 4, 4));
 }
 
 void TestPictureBox::aBoxCanBePaintedOnItself()
 {
     PixelBox box;
-    box.PaintPicture(Bont(20, 10), 0, 0, 300, 150, 0, 0, PlakWijze::Kopie);
-    box.PaintPicture(box.Image(), 5, 3, 300, 150, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(Bont(20, 10), QRectF(0, 0, 20, 10), QRectF(0, 0, 300, 150));
+    box.PaintPicture(box.Image(), QRectF(5, 3, 20, 10), QRectF(0, 0, 300, 150));
     QCOMPARE(box.Image().copy(5, 3, 20, 10), Bont(20, 10));
     QCOMPARE(box.GetPixel(0, 0), Bont(1, 1).pixel(0, 0));
 }
@@ -417,7 +419,7 @@ void TestPictureBox::growingShowsWhatWasDrawnBefore()
 void TestPictureBox::shrinkingHidesWithoutWiping()
 {
     PixelBox box(40, 30);
-    box.PaintPicture(Bont(40, 30), 0, 0, 600, 450, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(Bont(40, 30), QRectF(0, 0, 40, 30), QRectF(0, 0, 600, 450));
     box.Maat(10, 5);
     QCOMPARE(box.Image(), Bont(40, 30).copy(0, 0, 10, 5));
     box.Maat(40, 5);
@@ -434,7 +436,7 @@ void TestPictureBox::drawingOutsideWhileShrunkIsLost()
     box.Line(0, 0, 39, 29, Rood);
     box.Line(0, 29, 39, 29, Rood);
     box.Box(5, 5, 39, 29, Rood);
-    box.PaintPicture(Bont(40, 30), 15, 0, 600, 450, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(Bont(40, 30), QRectF(15, 0, 40, 30), QRectF(0, 0, 600, 450));
     box.SetPixel(20, 20, Rood);
     box.CurrentX = 12;
     box.Print(u"Raster"_s);
@@ -518,7 +520,7 @@ void TestPictureBox::theImageIsNotDrawnOnLater()
 void TestPictureBox::theWidgetShowsTheImage()
 {
     PixelBox box(30, 20);
-    box.PaintPicture(Bont(20, 10), 5, 5, 300, 150, 0, 0, PlakWijze::Kopie);
+    box.PaintPicture(Bont(20, 10), QRectF(5, 5, 20, 10), QRectF(0, 0, 300, 150));
     QCOMPARE(box.grab().toImage().convertToFormat(QImage::Format_RGB32), box.Image());
     box.Maat(10, 8);
     QCOMPARE(box.grab().toImage().convertToFormat(QImage::Format_RGB32), box.Image());
@@ -540,7 +542,7 @@ void TestPictureBox::aPixelOutsideHasNoColour()
 void TestPictureBox::aPixelCanBeSet()
 {
     PixelBox box;
-    box.ScaleMode = ScaleModes::Twips;
+    box.SetScaleMode(ScaleModes::Twips);
     box.SetPixel(30, 20, Rood);
     QCOMPARE(box.GetPixel(30, 20), Rood);
     QCOMPARE(box.Inkt(), QRect(30, 20, 1, 1));
@@ -583,15 +585,40 @@ void TestPictureBox::anImpossibleSizeChangesNothing()
     box.BoxFull(2, 2, 4, 4, Rood);
     const QImage voor = box.Image();
     QCOMPARE(FoutVan([&] { box.SetSize(breedte, hoogte); }), fout);
-    QCOMPARE(FoutVan([&] { PictureBox::ControleerMaat(breedte, hoogte); }), fout);
+    QCOMPARE(FoutVan([&] { box.ControleerMaat(breedte, hoogte); }), fout);
     QCOMPARE(box.size(), QSize(20, 10));
     QCOMPARE(box.Image(), voor);
 }
 
 void TestPictureBox::theLargestPictureFits()
 {
-    QCOMPARE(FoutVan([] { PictureBox::ControleerMaat(8192.0 * 15, 8192.0 * 15); }), 0);
-    QCOMPARE(FoutVan([] { PictureBox::ControleerMaat(0, 0); }), 0);
+    const PictureBox box(nullptr);
+    QCOMPARE(FoutVan([&] { box.ControleerMaat(8192.0 * 15, 8192.0 * 15); }), 0);
+    QCOMPARE(FoutVan([&] { box.ControleerMaat(0, 0); }), 0);
+}
+
+// Growing shows what was there before, so a box holds its largest width and its largest height at once.
+void TestPictureBox::whatIsHiddenCountsToo()
+{
+    PixelBox box(1000, 10);
+    box.Maat(10, 10);
+    QCOMPARE(FoutVan([&] { box.Maat(10, 67108); }), 0);
+    QCOMPARE(FoutVan([&] { box.Maat(10, 67109); }), int{Fout::GeheugenVol}); // a thousand times that is above 256 MiB
+    QCOMPARE(box.height(), 67108);
+    QCOMPARE(FoutVan([&] { PixelBox(10, 10).Maat(10, 67109); }), 0);
+}
+
+void TestPictureBox::paintingMakesNoPicture()
+{
+    PictureBox box(nullptr);
+    box.BackColor = Blauw;
+    box.resize(60000, 60000); // no picture can be as large
+    const QImage getoond = [&box] {
+        QImage beeld(20, 20, QImage::Format_RGB32);
+        box.render(&beeld, QPoint(), QRegion(0, 0, 20, 20));
+        return beeld;
+    }();
+    QCOMPARE(InktVlak(getoond, getoond.rect(), Blauw), QRect());
 }
 
 void TestPictureBox::aBoxWithoutASideTakesDrawing_data()
@@ -613,7 +640,7 @@ void TestPictureBox::aBoxWithoutASideTakesDrawing()
         box.Line(0, 0, 300, 150, Rood);
         box.BoxFull(0, 0, 300, 300, Rood);
         box.Print(u"Raster"_s);
-        box.PaintPicture(Bont(5, 5), 0, 0, 75, 75, 0, 0, PlakWijze::En);
+        box.PaintPicture(Bont(5, 5), QRectF(0, 0, 5, 5), QRectF(0, 0, 75, 75), PlakWijze::En);
         box.SetPicture(Bont(5, 5));
         box.SetPixel(0, 0, Rood);
     });
@@ -638,7 +665,7 @@ void TestPictureBox::movesAreToldInTwips()
     std::vector<QPointF> gemeld;
     connect(&box, &PictureBox::MouseMove, this, [&](double x, double y) { gemeld.emplace_back(x, y); });
     for (const ScaleModes mode : {ScaleModes::Twips, ScaleModes::Pixels}) {
-        box.ScaleMode = mode;
+        box.SetScaleMode(mode);
         gemeld.clear();
         Muis(box, QEvent::MouseMove, QPointF(0, 0));
         Muis(box, QEvent::MouseMove, QPointF(30, 20));

@@ -17,8 +17,7 @@ struct Bord
     {
         AppPath = Bank.Map();
         BeginWaarden();
-        TekenRaster(BoardWidth, BoardHeight);
-        TekenGroot(BoardWidth, BoardHeight);
+        TekenBord(BoardWidth, BoardHeight);
     }
 
     /// An empty board of this kind and size.
@@ -27,8 +26,7 @@ struct Bord
         PuzzelType = soort;
         BoardWidth = breedte;
         BoardHeight = hoogte;
-        TekenRaster(breedte, hoogte);
-        TekenGroot(breedte, hoogte);
+        TekenBord(breedte, hoogte);
     }
 
     /// Moves the pointer to the middle of a cell, counted from 0.
@@ -69,7 +67,7 @@ inline QImage Gedrukt(QSize maat, const QString &tekst, int x, int y, const QStr
     QWidget venster;
     PictureBox box(&venster);
     box.resize(maat);
-    box.ScaleMode = ScaleModes::Pixels;
+    box.SetScaleMode(ScaleModes::Pixels);
     box.FontName = font;
     box.FontSize = punten;
     box.FontBold = vet;

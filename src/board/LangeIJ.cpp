@@ -1,0 +1,20 @@
+#include "board/LangeIJ.h"
+
+#include "platform/Teksten.h"
+
+using namespace Qt::StringLiterals;
+
+QString MetCode(QString woord)
+{
+    return woord.replace("ij"_L1, "?"_L1);
+}
+
+QString ZonderCode(QString woord)
+{
+    return woord.replace(u'?', "ij"_L1);
+}
+
+qsizetype AantalVakjes(const QString &oplossing)
+{
+    return Hoofdletters(oplossing).replace("IJ"_L1, "?"_L1).size();
+}
