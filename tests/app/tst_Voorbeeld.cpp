@@ -1,0 +1,147 @@
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+
+/// How a run of the program ended, and what it said.
+struct Afloop
+{
+    int Code;
+    bool Gewoon; ///< it ended by itself, not by a crash or because the test gave up on it
+    QString Tekst;
+};
+
+/// Runs the program on a description in a folder of its own.
+class Werkplaats
+{
+public:
+    Werkplaats() { QDir(map_.path()).mkdir(u"Puzzels"_s); }
+    QString Map() const { return map_.path(); }
+    QStringList Puzzels() const { return QDir(Map() + u"/Puzzels"_s).entryList(QDir::Files, QDir::Name); }
+    Afloop Voer(const QString &wat, const QByteArray &beschrijving) const
+    {
+        QFile bron(Map() + u"/bron.txt"_s);
+        if (!bron.open(QIODevice::WriteOnly) || bron.write(beschrijving) != beschrijving.size())
+            return {-1, false, u"no description"_s};
+        bron.close();
+        QProcess programma;
+        programma.setProcessChannelMode(QProcess::MergedChannels);
+        programma.start(QStringLiteral(VOORBEELD), {wat, bron.fileName(), Map()});
+        const bool klaar = programma.waitForFinished();
+        return {programma.exitCode(), klaar && programma.exitStatus() == QProcess::NormalExit,
+                QString::fromUtf8(programma.readAll())};
+    }
+
+private:
+    QTemporaryDir map_;
+};
+
+class tst_Voorbeeld : public QObject
+{
+    Q_OBJECT
+private slots:
+    void aWrongDescriptionIsRefusedWithItsLine_data()
+    {
+        QTest::addColumn<QByteArray>("beschrijving");
+        QTest::addColumn<int>("regel");
+        QTest::addColumn<QString>("waarom");
+        const QByteArray begin = "naam|Proef\nmaat|10|11\n";
+        QTest::newRow("empty") << QByteArray() << 1 << u"naam|NAAM"_s;
+        QTest::newRow("blank lines only") << QByteArray("\n  \n\n") << 4 << u"naam|NAAM"_s;
+        QTest::newRow("no fields") << QByteArray("naam") << 1 << u"naam|NAAM"_s;
+        QTest::newRow("only a name") << QByteArray("naam|Proef") << 2 << u"maat|KOLOMMEN|RIJEN"_s;
+        QTest::newRow("only a name and a line end") << QByteArray("naam|Proef\n") << 2 << u"maat|KOLOMMEN|RIJEN"_s;
+        QTest::newRow("size first") << QByteArray("maat|10|11\nnaam|Proef\n") << 1 << u"naam|NAAM"_s;
+        QTest::newRow("no size") << QByteArray("naam|Proef\nvak|A-01|1|x\n") << 2 << u"maat|KOLOMMEN|RIJEN"_s;
+        QTest::newRow("empty name") << QByteArray("naam|\nmaat|10|11\n") << 1 << u"\"\""_s;
+        QTest::newRow("name of a path") << QByteArray("naam|../Proef\nmaat|10|11\n") << 1 << u"../Proef"_s;
+        QTest::newRow("name as it is not saved") << QByteArray("naam|proeF\nmaat|10|11\n") << 1 << u"proeF"_s;
+        QTest::newRow("endless name") << "naam|P" + QByteArray(300, 'a') + "\nmaat|10|11\n" << 1 << u"aaa"_s;
+        QTest::newRow("half a size") << QByteArray("naam|Proef\nmaat|10\n") << 2 << u"maat|KOLOMMEN|RIJEN"_s;
+        QTest::newRow("size of words") << QByteArray("naam|Proef\nmaat|tien|11\n") << 2 << u"tien"_s;
+        QTest::newRow("columns too few") << QByteArray("naam|Proef\nmaat|8|11\n") << 2 << u"9 tot en met 16"_s;
+        QTest::newRow("columns too many") << QByteArray("naam|Proef\nmaat|17|11\n") << 2 << u"9 tot en met 16"_s;
+        QTest::newRow("rows too few") << QByteArray("naam|Proef\nmaat|10|8\n") << 2 << u"9 tot en met 19"_s;
+        QTest::newRow("rows too many") << QByteArray("naam|Proef\nmaat|10|20\n") << 2 << u"9 tot en met 19"_s;
+        QTest::newRow("huge size") << QByteArray("naam|Proef\nmaat|99999999999|11\n") << 2 << u"99999999999"_s;
+        QTest::newRow("unknown word") << begin + "vlak|A-01|1|x\n" << 3 << u"vlak"_s;
+        QTest::newRow("a second size") << begin + "maat|10|11\n" << 3 << u"maat"_s;
+        QTest::newRow("cell without fields") << begin + "vak\n" << 3 << u"vak|PLAATS|SOORT|OMSCHRIJVING"_s;
+        QTest::newRow("cell cut short") << begin + "vak|A-01|1\n" << 3 << u"vak|PLAATS|SOORT|OMSCHRIJVING"_s;
+        QTest::newRow("cell too long") << begin + "vak|A-01|1|x|y\n" << 3 << u"vak|PLAATS|SOORT|OMSCHRIJVING"_s;
+        QTest::newRow("kind 0") << begin + "vak|A-01|0|x\n" << 3 << u"1 tot en met 8"_s;
+        QTest::newRow("kind 9") << begin + "vak|A-01|9|x\n" << 3 << u"1 tot en met 8"_s;
+        QTest::newRow("kind of a letter") << begin + "vak|A-01|x|x\n" << 3 << u"1 tot en met 8"_s;
+        QTest::newRow("kind empty") << begin + "vak|A-01||x\n" << 3 << u"1 tot en met 8"_s;
+        for (const char *plaats : {"", "A", "A-", "A-00", "A-12", "K-01", "Z-99", "a-01", "A-1", "A_01", "A-011"})
+            QTest::addRow("place \"%s\"", plaats) << begin + "vak|B-02|1|x\nvak|" + plaats + "|1|x\n"
+                                                  << 4 << u"\"%1\""_s.arg(QLatin1String(plaats));
+        QTest::newRow("word cut short") << begin + "woord|A-01|H|aap\n" << 3 << u"woord|PLAATS|"_s;
+        QTest::newRow("word off the board") << begin + "woord|K-01|H|aap|dier\n" << 3 << u"\"K-01\""_s;
+        QTest::newRow("direction X") << begin + "woord|A-01|X|aap|dier\n" << 3 << u"\"X\""_s;
+        QTest::newRow("no solution") << begin + "woord|A-01|H||dier\n" << 3 << u"oplossing"_s;
+        QTest::newRow("blank solution") << begin + "woord|A-01|H|  |dier\n" << 3 << u"oplossing"_s;
+        QTest::newRow("no clue") << begin + "woord|A-01|H|aap|\n" << 3 << u"omschrijving"_s;
+        QTest::newRow("too wide") << begin + "woord|I-01|H|aap|dier\n" << 3 << u"aap"_s;
+        QTest::newRow("too high") << begin + "woord|A-10|V|aap|dier\n" << 3 << u"aap"_s;
+        QTest::newRow("endless word") << begin + "woord|A-01|V|" + QByteArray(100000, 'a') + "|x\n" << 3 << u"aaa"_s;
+        QTest::newRow("binary") << QByteArray("naam|Pro\0ef\nmaat|10|11\n", 22) << 1 << u"teken"_s;
+        QTest::newRow("line end within") << begin + "woord|A-01|H|\u2028aap|dier\n" << 3 << u"teken"_s;
+        QTest::newRow("blank lines count") << "\r\n\r\n" + begin + " \n\nvak|A-01|9|x\n" << 7 << u"1 tot en met 8"_s;
+    }
+    void aWrongDescriptionIsRefusedWithItsLine()
+    {
+        QFETCH(QByteArray, beschrijving);
+        QFETCH(int, regel);
+        QFETCH(QString, waarom);
+        const Werkplaats werk;
+        const Afloop afloop = werk.Voer(u"bewaar"_s, beschrijving);
+        QVERIFY2(afloop.Gewoon, qPrintable(afloop.Tekst));
+        QCOMPARE(afloop.Code, 1);
+        QVERIFY2(afloop.Tekst.contains(u"regel %1: "_s.arg(regel)), qPrintable(afloop.Tekst));
+        QVERIFY2(afloop.Tekst.contains(waarom), qPrintable(afloop.Tekst));
+        QCOMPARE(QDir(werk.Map()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Name),
+                 (QStringList{u"Puzzels"_s, u"bron.txt"_s}));
+        QVERIFY(werk.Puzzels().isEmpty());
+    }
+
+    void aGoodDescriptionBecomesAPuzzle()
+    {
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\r\n\r\nmaat|9|19\r\nvak|A-01|3|twee\\regels\r\nvak|I-19|8|\r\n"
+                                "woord|B-01|H|ijspegels|lang\r\nwoord|C-19|H|ij ijs|in de hoek\r\n"
+                                "woord|B-11|V|IJSBERGEND|tot onderaan \xE2\x80\xA6\r\n";
+        const Afloop gemaakt = werk.Voer(u"bewaar"_s, bron);
+        QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        QCOMPARE(werk.Puzzels(), (QStringList{u"Proef.lst"_s, u"Proef1.bmp"_s, u"Proef2.bmp"_s}));
+        const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
+        QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
+        QVERIFY2(gelijk.Tekst.contains(u"lijst van 3 woorden"_s), qPrintable(gelijk.Tekst));
+    }
+
+    void aPuzzleThatWasNotSavedIsToldSo()
+    {
+        const Werkplaats werk;
+        QVERIFY(QDir(werk.Map()).rmdir(u"Puzzels"_s));
+        const Afloop afloop = werk.Voer(u"maak"_s, "naam|Proef\nmaat|10|11\n");
+        QVERIFY(afloop.Gewoon);
+        QCOMPARE(afloop.Code, 1);
+        QVERIFY2(afloop.Tekst.contains(u"Proef.lst"_s), qPrintable(afloop.Tekst));
+    }
+
+    void anUnknownCommandIsRefused()
+    {
+        const Werkplaats werk;
+        const Afloop afloop = werk.Voer(u"probeer"_s, "naam|Proef\nmaat|10|11\n");
+        QVERIFY(afloop.Gewoon);
+        QCOMPARE(afloop.Code, 1);
+        QVERIFY2(afloop.Tekst.contains(u"maak|bewaar|controleer"_s), qPrintable(afloop.Tekst));
+        QVERIFY(werk.Puzzels().isEmpty());
+    }
+};
+
+QTEST_GUILESS_MAIN(tst_Voorbeeld)
+#include "tst_Voorbeeld.moc"
