@@ -83,7 +83,9 @@ void OpenFile::OkKnop_Click()
 void OpenFile::LoadPuzzel(const QString &Naam)
 {
     PuzzelLijst lijst;
-    negeer([&] { lijst = LeesPuzzelLijst(Files::Lees(Files::Pad(PuzzelMap(), {Naam + u".lst"_s}))); });
+    negeer([&] {
+        lijst = LeesPuzzelLijst(Files::LeesBegin(Files::Pad(PuzzelMap(), {Naam + u".lst"_s}), GrootsteLijst + 1));
+    });
     const qint32 breedte = lijst.Breedte.value_or(BoardWidth);
     const qint32 hoogte = lijst.Hoogte.value_or(BoardHeight);
     ControleerBord(breedte, hoogte);
@@ -96,7 +98,7 @@ void OpenFile::LoadPuzzel(const QString &Naam)
     for (const QStringList &r : lijst.Rijen)
         rijen += {r[0], r[1], r[2], r[3]};
     Main().VoegRijenToe(rijen);
-    if (lijst.KopHeel)
+    if (lijst.Heel)
         Main().ToonSoort();
 }
 

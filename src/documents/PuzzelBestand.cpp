@@ -10,26 +10,33 @@ using namespace Qt::StringLiterals;
 static const QString Banner = u"Tessel Hoeksma Software ® 2018"_s;
 static const QString Streep(28, u'-');
 
+static void LeesRijen(Files::VeldLezer &lezer, bool teGroot, QList<QStringList> &rijen)
+{
+    while (!lezer.Einde()) {
+        QStringList rij;
+        for (int i = 0; i < 4; ++i)
+            rij += lezer.Tekst();
+        if (teGroot && lezer.Einde()) // the last field may be cut
+            throw Fout(Fout::GeheugenVol);
+        if (!Trim(rij[0]).isEmpty())
+            rijen += rij;
+        lezer.Tekst();
+    }
+    if (teGroot)
+        throw Fout(Fout::GeheugenVol);
+}
+
 PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud)
 {
     PuzzelLijst lijst;
-    Files::VeldLezer lezer(inhoud);
-    lijst.KopHeel = negeer([&] {
+    lijst.Heel = negeer([&] {
+        Files::VeldLezer lezer(QByteArrayView(inhoud).first(std::min(inhoud.size(), GrootsteLijst)));
         lezer.Tekst();
         lijst.Soort = lezer.Byte();
         lijst.Breedte = lezer.Int32();
         lijst.Hoogte = lezer.Int32();
         lezer.Tekst();
-    });
-    negeer([&] { // the data may end within a row: a comma in a clue has moved all fields behind it
-        while (lijst.KopHeel && !lezer.Einde()) {
-            QStringList rij;
-            for (int i = 0; i < 4; ++i)
-                rij += lezer.Tekst();
-            if (!Trim(rij[0]).isEmpty())
-                lijst.Rijen += rij;
-            lezer.Tekst();
-        }
+        LeesRijen(lezer, inhoud.size() > GrootsteLijst, lijst.Rijen);
     });
     return lijst;
 }

@@ -75,19 +75,24 @@ void MkDir(const QString &pad)
 
 // --- contents ---
 
-QByteArray Lees(const QString &pad)
+QByteArray LeesBegin(const QString &pad, qint64 hoogstens)
 {
     if (!FileExists(pad))
         throw Fout(Fout::BestandNietGevonden, pad);
     QFile bestand(pad);
     if (!bestand.open(QIODevice::ReadOnly))
         throw Fout(Fout::GeenToegang, pad);
-    if (bestand.size() > GrootsteBestand)
-        throw Fout(Fout::GeheugenVol, pad);
-    QByteArray inhoud = bestand.readAll();
+    QByteArray inhoud = bestand.read(std::min(bestand.size(), hoogstens));
     if (bestand.error() != QFileDevice::NoError)
         throw Fout(Fout::SchijfFout, pad);
     return inhoud;
+}
+
+QByteArray Lees(const QString &pad)
+{
+    if (QFileInfo(pad).size() > GrootsteBestand)
+        throw Fout(Fout::GeheugenVol, pad);
+    return LeesBegin(pad, GrootsteBestand);
 }
 
 static bool Verplaats(const QString &van, const QString &naar)

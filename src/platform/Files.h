@@ -31,6 +31,8 @@ void MkDir(const QString &pad);
 
 /// The whole content. Raises Fout::GeheugenVol above GrootsteBestand.
 QByteArray Lees(const QString &pad);
+/// The first bytes of a file, however large it is. @param hoogstens how many there are at most
+QByteArray LeesBegin(const QString &pad, qint64 hoogstens);
 /// Makes the file anew with this content, all or nothing: when the writing fails, the old file stays.
 void Schrijf(const QString &pad, const QByteArray &inhoud);
 void Schrijf(const QString &pad, std::initializer_list<QByteArrayView> delen); ///< parts, one behind the other

@@ -283,13 +283,21 @@ private slots:
         QTest::addColumn<QByteArray>("inhoud");
         QTest::addColumn<QSize>("maat");
         QTest::addColumn<int>("soort");
-        QTest::addColumn<int>("rijen");
+        QTest::addColumn<int>("rijen"); // that stand
+        const QByteArray kop = "b\r\n2\r\n10\r\n11\r\n-\r\n", rij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n-\r\n";
+        const QSize maat(10, 11);
         QTest::newRow("empty") << QByteArray() << QSize(16, 19) << 3 << 0;
         QTest::newRow("binary") << QByteArray(3000, '\xFE') << QSize(16, 19) << 3 << 0;
         QTest::newRow("width no number") << QByteArray("b\r\n2\r\nnegen\r\n9\r\n-\r\n") << QSize(16, 19) << 2 << 0;
         QTest::newRow("cut behind the width") << QByteArray("b\r\n2\r\n10\r\n") << QSize(10, 19) << 2 << 0;
-        QTest::newRow("size 0") << QByteArray("b\r\n2\r\n0\r\n0\r\n-\r\n") << QSize(0, 0) << 2 << 0;
-        QTest::newRow("commas") << QByteArray("b,2,10,11,-,A-01 / 1-H,dier,aap,-,-,,,,,") << QSize(10, 11) << 2 << 1;
+        QTest::newRow("without the header's end") << kop.chopped(3) << maat << 2 << 0;
+        QTest::newRow("commas") << QByteArray("b,2,10,11,-,A-01 / 1-H,dier,aap,-,-,,,,,") << maat << 2 << 1;
+        QTest::newRow("cut in a row") << kop + rij + "B-02 / 11-V\r\n" << maat << 2 << 1;
+        QTest::newRow("cut before a separator") << kop + rij.chopped(3) << maat << 2 << 1;
+        QTest::newRow("comma in a clue") << kop + QByteArray(rij).replace("dier", "wild, dier") << maat << 2 << 1;
+        // Every record is whole, but there is a byte too much.
+        const QByteArray leeg(GrootsteLijst / 5 * 5 - 1000, ','), begin = kop + rij + leeg;
+        QTest::newRow("too large") << QByteArray(GrootsteLijst - begin.size(), 'x') + begin + ',' << maat << 2 << 1;
     }
     void damagedListsOpenQuietly()
     {
@@ -308,10 +316,18 @@ private slots:
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), rijen);
         QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (%1x%2)"_s.arg(maat.width()).arg(maat.height()));
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
-        // A header that was damaged leaves the caption as it stood.
-        const bool kopHeel = inhoud.contains('-');
-        QCOMPARE(bord.Venster.Label12->Caption(),
-                 SoortVan(kopHeel && !inhoud.contains("negen") ? quint8(soort) : Kruiswoord)->Opschrift);
+        QCOMPARE(bord.Venster.Label12->Caption(), SoortVan(Kruiswoord)->Opschrift); // it stays as it stood
+    }
+
+    void aBoardWithoutCellsOpens()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Niets"_s, Woordzoeker, 0, 0, {});
+        Open(u"Niets"_s);
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(0, 0));
+        QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (0x0)"_s);
+        QCOMPARE(bord.Venster.Label12->Caption(), SoortVan(Woordzoeker)->Opschrift);
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
     void aFileThatVanishedOpensQuietly()

@@ -6,6 +6,8 @@ using namespace Qt::StringLiterals;
 static const QByteArray Streep(28, '-');
 static const QByteArray Kop = "Tessel Hoeksma Software \xAE 2018\r\n1\r\n16\r\n19\r\n" + Streep + "\r\n";
 
+static const QByteArray Rij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" + Streep + "\r\n";
+
 static QString Rijen(const PuzzelLijst &lijst)
 {
     QStringList tekst;
@@ -36,7 +38,7 @@ private slots:
                                        {u"B-02 / 18-V"_s, QString(), u"wijn"_s, u"-"_s},
                                        {u"-"_s, u"-"_s, u"zee"_s, u"-"_s}};
         const PuzzelLijst lijst = LeesPuzzelLijst(SchrijfPuzzelLijst(2, 12, 13, rijen));
-        QVERIFY(lijst.KopHeel);
+        QVERIFY(lijst.Heel);
         QCOMPARE(*lijst.Soort, quint8(2));
         QCOMPARE(*lijst.Breedte, 12);
         QCOMPARE(*lijst.Hoogte, 13);
@@ -47,32 +49,34 @@ private slots:
     {
         QTest::addColumn<QByteArray>("inhoud");
         QTest::addColumn<QString>("rijen");
+        QTest::addColumn<bool>("heel");
         const QByteArray einde = "\r\n" + Streep + "\r\n";
-        QTest::newRow("header only") << Kop << "";
+        const QByteArray aap = "A-01 / 1-H\r\ndier\r\naap\r\n-" + einde,
+                         mies = "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde;
+        const char alleenAap[] = "A-01 / 1-H|dier|aap|-", alleenMies[] = "B-01 / 2-H|noot|mies|-";
+        QTest::newRow("header only") << Kop << "" << true;
         QTest::newRow("empty clue keeps its place")
-            << Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde
-            << "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-";
+            << Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + mies << "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-" << true;
         QTest::newRow("blank first field is skipped")
-            << Kop + "   \r\nx\r\ny\r\nz" + einde + "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde
-            << "B-01 / 2-H|noot|mies|-";
-        QTest::newRow("empty first field is skipped")
-            << Kop + "\r\nx\r\ny\r\nz" + einde + "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde << "B-01 / 2-H|noot|mies|-";
-        // A comma in the clue moves every later field up one; the record's separator begins the next record.
-        QTest::newRow("comma shifts") << Kop + "A-01 / 1-H\r\nrood, wit\r\nvlag\r\n-" + einde +
-                                             "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde
+            << Kop + "   \r\nx\r\ny\r\nz" + einde + mies << alleenMies << true;
+        QTest::newRow("empty first field is skipped") << Kop + "\r\nx\r\ny\r\nz" + einde + mies << alleenMies << true;
+        // A comma in the clue moves every later field up one; the record's separator begins the next record, and in the
+        // end the fields run out within one.
+        QTest::newRow("comma shifts") << Kop + "A-01 / 1-H\r\nrood, wit\r\nvlag\r\n-" + einde + mies
                                       << QString::fromLatin1("A-01 / 1-H|rood|wit|vlag/" + Streep +
-                                                             "|B-01 / 2-H|noot|mies");
+                                                             "|B-01 / 2-H|noot|mies")
+                                      << false;
+        QTest::newRow("five commas fill a record")
+            << Kop + "A-01 / 1-H\r\na,b,c,d,e,f\r\nvlag\r\n-" + einde << "A-01 / 1-H|a|b|c/e|f|vlag|-" << true;
         QTest::newRow("quoted clue with a comma")
-            << Kop + "A-01 / 1-H\r\n\"rood, wit\"\r\nvlag\r\n-" + einde << "A-01 / 1-H|rood, wit|vlag|-";
-        QTest::newRow("leading blanks") << Kop + "A-01 / 1-H\r\n   dier\r\naap\r\n-" + einde << "A-01 / 1-H|dier|aap|-";
-        QTest::newRow("cut in a row") << Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-" + einde + "B-01 / 2-H\r\nno"
-                                      << "A-01 / 1-H|dier|aap|-";
-        QTest::newRow("without the last separator") << Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n"
-                                                    << "A-01 / 1-H|dier|aap|-";
-        QTest::newRow("line feeds only")
-            << QByteArray(Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-" + einde).replace("\r\n", "\n")
-            << "A-01 / 1-H|dier|aap|-";
-        QTest::newRow("only commas behind the header") << Kop + QByteArray(1000, ',') << "";
+            << Kop + "A-01 / 1-H\r\n\"rood, wit\"\r\nvlag\r\n-" + einde << "A-01 / 1-H|rood, wit|vlag|-" << true;
+        QTest::newRow("leading blanks") << Kop + "A-01 / 1-H\r\n   dier\r\naap\r\n-" + einde << alleenAap << true;
+        QTest::newRow("cut in a row") << Kop + aap + "B-01 / 2-H\r\nno" << alleenAap << false;
+        QTest::newRow("without the last separator") << Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" << alleenAap << false;
+        QTest::newRow("a blank line at the end") << Kop + aap + "\r\n" << alleenAap << false;
+        QTest::newRow("line feeds only") << QByteArray(Kop + aap).replace("\r\n", "\n") << alleenAap << true;
+        QTest::newRow("records of commas") << Kop + QByteArray(1000, ',') << "" << true;
+        QTest::newRow("commas that end within a record") << Kop + QByteArray(1001, ',') << "" << false;
     }
     void reading()
     {
@@ -80,7 +84,7 @@ private slots:
         QFETCH(QString, rijen);
         const PuzzelLijst lijst = LeesPuzzelLijst(inhoud);
         QCOMPARE(Rijen(lijst), rijen);
-        QVERIFY(lijst.KopHeel);
+        QTEST(lijst.Heel, "heel");
     }
 
     void aDamagedHeaderKeepsWhatWasReadSoFar_data()
@@ -103,24 +107,48 @@ private slots:
         QFETCH(int, gelezen);
         const PuzzelLijst lijst = LeesPuzzelLijst(inhoud);
         QCOMPARE(lijst.Soort.has_value() + lijst.Breedte.has_value() + lijst.Hoogte.has_value(), gelezen);
-        QVERIFY(!lijst.KopHeel);
+        QVERIFY(!lijst.Heel);
         QVERIFY(lijst.Rijen.isEmpty());
     }
 
-    void whereverAFileIsCutItReadsQuietly()
+    void whereverAFileIsCutWhatIsBeforeItStands()
     {
-        const QByteArray heel =
-            SchrijfPuzzelLijst(1, 16, 19, QList<QStringList>(3, {u"A-01 / 1-H"_s, u"x"_s, u"y"_s, u"-"_s}));
-        for (qsizetype lengte = 0; lengte < heel.size(); ++lengte)
-            QVERIFY(LeesPuzzelLijst(heel.first(lengte)).Rijen.size() <= 3);
+        const QList<QStringList> rijen(3, {u"A-01 / 1-H"_s, u"x"_s, u"y"_s, u"-"_s});
+        const QByteArray heel = SchrijfPuzzelLijst(1, 16, 19, rijen).replace("\r\n", "\n");
+        for (qsizetype lengte = 0; lengte <= heel.size(); ++lengte) {
+            const PuzzelLijst lijst = LeesPuzzelLijst(heel.first(lengte));
+            const qsizetype velden = heel.first(lengte).count('\n') + (lengte > 0 && heel[lengte - 1] != '\n');
+            QCOMPARE(lijst.Rijen.size(),
+                     std::max(qsizetype(0), (velden - 4) / 5)); // a row stands with its fourth field
+            QCOMPARE(lijst.Heel, velden > 0 && velden % 5 == 0);
+        }
     }
 
-    void aHugeFileIsReadWhole()
+    void aLargeFileIsReadWhole()
     {
-        const QByteArray rij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" + Streep + "\r\n";
-        const PuzzelLijst lijst = LeesPuzzelLijst(Kop + rij.repeated(100000));
-        QVERIFY(lijst.KopHeel);
+        const PuzzelLijst lijst = LeesPuzzelLijst(Kop + Rij.repeated(100000));
+        QVERIFY(lijst.Heel);
         QCOMPARE(lijst.Rijen.size(), 100000);
+    }
+
+    void whatIsBeyondTheLargestFileIsAFailure()
+    {
+        const qsizetype passen = (GrootsteLijst - Kop.size()) / Rij.size();
+        QByteArray inhoud = Kop + Rij.repeated(passen);
+        inhoud.prepend(QByteArray(GrootsteLijst - inhoud.size(), 'x')); // a longer first line, to end where it may
+        QVERIFY(LeesPuzzelLijst(inhoud).Heel);
+        const PuzzelLijst lijst = LeesPuzzelLijst(inhoud + Rij.repeated(3));
+        QVERIFY(!lijst.Heel);
+        QCOMPARE(lijst.Rijen.size(), passen); // those before it stand
+        QCOMPARE(*lijst.Hoogte, 19);
+    }
+
+    void aFieldThatRunsBeyondTheLargestFileIsNotTaken()
+    {
+        const PuzzelLijst lijst =
+            LeesPuzzelLijst(Kop + Rij + "B-01 / 2-H\r\nnoot\r\nmies\r\n" + QByteArray(GrootsteLijst, 'x'));
+        QVERIFY(!lijst.Heel);
+        QCOMPARE(lijst.Rijen.size(), 1);
     }
 
     void anyBytesAreReadQuietly()
@@ -128,7 +156,7 @@ private slots:
         QByteArray bytes;
         for (quint32 i = 0; i < 100000; ++i)
             bytes += static_cast<char>((i * 2654435761u) >> 24);
-        QVERIFY(!LeesPuzzelLijst(bytes).KopHeel);
+        QVERIFY(!LeesPuzzelLijst(bytes).Heel);
         QVERIFY(LeesPuzzelLijst(Kop + bytes).Breedte.has_value());
     }
 };

@@ -57,6 +57,7 @@ private slots:
     void aFileIsReadWhole();
     void whatIsNoFileCannotBeRead();
     void aFileThatIsTooLargeIsNotTakenIn();
+    void theBeginOfAFileIsRead();
     void aFileIsWrittenByteForByte();
     void aWrittenFileReplacesTheOldOne();
     void aFileInAMissingFolderCannotBeWritten();
@@ -201,6 +202,16 @@ void TestFiles::aFileThatIsTooLargeIsNotTakenIn()
     QVERIFY(bestand.resize(2 * GrootsteBeeld)); // takes no room: nothing is written in it
     bestand.close();
     QCOMPARE(FoutVan([&] { Files::Lees(bestand.fileName()); }), int{Fout::GeheugenVol});
+    QCOMPARE(Files::LeesBegin(bestand.fileName(), 5), QByteArray(5, 0));
+}
+
+void TestFiles::theBeginOfAFileIsRead()
+{
+    bank_->Schrijf(u"a.txt"_s, "0123456789");
+    QCOMPARE(Files::LeesBegin(Volledig("a.txt"), 4), QByteArray("0123"));
+    QCOMPARE(Files::LeesBegin(Volledig("a.txt"), 10), QByteArray("0123456789"));
+    QCOMPARE(Files::LeesBegin(Volledig("a.txt"), 1000), QByteArray("0123456789"));
+    QCOMPARE(FoutVan([&] { Files::LeesBegin(Volledig("b.txt"), 4); }), int{Fout::BestandNietGevonden});
 }
 
 void TestFiles::aFileIsWrittenByteForByte()
