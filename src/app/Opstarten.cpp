@@ -25,15 +25,15 @@ void LaadMain()
 {
     BeginWaarden();
     TekenBord(BoardWidth, BoardHeight);
-    if (!Files::FileExists(InstellingenPad())) {
-        BewaarInstellingen();
-        return;
-    }
+    const QString pad = InstellingenPad();
     Instellingen gelezen;
     try {
-        gelezen = LeesInstellingen(Files::Lees(InstellingenPad()));
+        gelezen = LeesInstellingen(Files::Lees(pad));
     } catch (const Fout &fout) {
-        throw Fout(fout.nummer(), u"het instellingenbestand "_s + InstellingenPad());
+        if (fout.nummer() != Fout::BestandNietGevonden && fout.nummer() != Fout::GeenToegang)
+            throw Fout(fout.nummer(), u"het instellingenbestand "_s + pad);
+        negeer(BewaarInstellingen); // not there, or not to be opened
+        return;
     }
     OrgineelRood = gelezen.Rood;
     OrgineelGroen = gelezen.Groen;

@@ -2,6 +2,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "support/Bord.h"
+#include "support/Onbevoegd.h"
 
 #include <QDir>
 
@@ -72,6 +73,55 @@ private slots:
         QVERIFY(tekst.contains(u"Rasteratelier.ini"_s));
         QCOMPARE(start.Instellingen(), inhoud);
         QCOMPARE(OrgineelRood, qint16(230)); // nothing half-read
+    }
+
+    void aFileThatCannotBeOpenedIsWrittenAnew()
+    {
+        Start start;
+        const QByteArray bewaard = Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n";
+        start.Bank.Schrijf(u"Rasteratelier.ini"_s, bewaard);
+        QVERIFY(QFile::setPermissions(start.Bank.Map() + u"/Rasteratelier.ini"_s, QFile::WriteOwner));
+        {
+            const Onbevoegd onbevoegd(start.Bank, {});
+            LaadMain();
+        }
+        QCOMPARE(OrgineelRood, qint16(230));
+        QCOMPARE(KleurVakjes, quint8(1));
+        QCOMPARE(start.Instellingen(), Begin + "230,250,190\r\n1\r\n\"" + PaginaTekst.toLatin1() + "\"\r\n");
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
+    void aStartThatCannotWriteItsSettingsGoesOn_data()
+    {
+        QTest::addColumn<bool>("bestaat");
+        QTest::newRow("missing") << false;
+        QTest::newRow("closed") << true;
+    }
+    void aStartThatCannotWriteItsSettingsGoesOn()
+    {
+        QFETCH(bool, bestaat);
+        Start start;
+        const QByteArray bewaard = bestaat ? Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n" : QByteArray();
+        if (bestaat) {
+            start.Bank.Schrijf(u"Rasteratelier.ini"_s, bewaard);
+            QVERIFY(QFile::setPermissions(start.Bank.Map() + u"/Rasteratelier.ini"_s, QFile::WriteOwner));
+        }
+        {
+            const Onbevoegd onbevoegd(start.Bank, {u""_s});
+            LaadMain();
+        }
+        QCOMPARE(OrgineelRood, qint16(230));
+        QCOMPARE(start.Instellingen(), bewaard);
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
+    void aFolderInThePlaceOfTheSettingsIsPassedOver()
+    {
+        Start start;
+        QVERIFY(QDir(start.Bank.Map()).mkdir(u"Rasteratelier.ini"_s));
+        LaadMain();
+        QCOMPARE(OrgineelRood, qint16(230));
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
     }
 
     void anUnchangedPuzzleEndsWithoutAQuestion()

@@ -2,13 +2,13 @@
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
 #include "support/Bord.h"
+#include "support/Onbevoegd.h"
 
 #include <QDir>
 #include <QGuiApplication>
 
 #include <csignal>
 #include <sys/resource.h>
-#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -308,19 +308,10 @@ private slots:
     {
         Bord bord;
         Vul(bord);
-        const QString puzzels = bord.Bank.Map() + u"/Puzzels"_s;
-        QFile::setPermissions(puzzels, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther);
-        // The superuser writes everywhere: as such the test goes on as somebody else.
-        const bool isRoot = geteuid() == 0;
-        if (isRoot) {
-            QFile::setPermissions(bord.Bank.Map() + u"/.."_s, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                                                  QFile::ReadOther | QFile::ExeOther);
-            QCOMPARE(seteuid(65534), 0);
+        {
+            const Onbevoegd onbevoegd(bord.Bank, {u"Puzzels"_s});
+            Bewaar(u"reis"_s);
         }
-        Bewaar(u"reis"_s);
-        if (isRoot)
-            QCOMPARE(seteuid(0), 0);
-        QFile::setPermissions(puzzels, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
         QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
