@@ -37,7 +37,8 @@ int main(int argc, char *argv[])
         VerbindOpdrachten();
         main.show();
         return QApplication::exec();
-    } catch (const Fout &fout) {
+    } catch (const std::exception &exception) {
+        const Fout fout = Fout::Van(exception);
         MsgBox(u"Fout %1 bij het starten: %2."_s.arg(fout.nummer()).arg(fout.tekst()), Knoppen::Ok, Icoon::Kritiek);
         return 1;
     }

@@ -14,10 +14,18 @@ namespace Files {
 
 static bool IsGoedeNaam(const QString &naam)
 {
+    if (!naam.isValidUtf16()) // half a pair of code units: no file system takes it
+        return false;
     for (const QChar c : naam)
         if (c.unicode() < 32 || c.unicode() == 127 || u"<>:\"/\\|?*"_s.contains(c))
             return false;
     return !naam.isEmpty() && naam != "."_L1 && naam != ".."_L1;
+}
+
+static void ControleerNaam(const QString &naam)
+{
+    if (!IsGoedeNaam(naam))
+        throw Fout(Fout::OngeldigeNaam, naam.left(60).simplified());
 }
 
 static QString EigenSpelling(const QString &map, const QString &naam)
@@ -36,8 +44,7 @@ QString Pad(const QString &map, const QStringList &namen)
 {
     QString pad = map;
     for (const QString &naam : namen) {
-        if (!IsGoedeNaam(naam))
-            throw Fout(Fout::OngeldigeNaam, naam.left(60).simplified());
+        ControleerNaam(naam);
         pad += u'/' + EigenSpelling(pad, naam);
     }
     return pad;
@@ -97,13 +104,12 @@ QByteArray Lees(const QString &pad)
 
 static bool Verplaats(const QString &van, const QString &naar)
 {
-    std::error_code mislukt;
-    std::filesystem::rename(QFile(van).filesystemFileName(), QFile(naar).filesystemFileName(), mislukt);
-    return !mislukt;
+    return negeer([&] { std::filesystem::rename(QFile(van).filesystemFileName(), QFile(naar).filesystemFileName()); });
 }
 
 void Hernoem(const QString &pad, const QString &naam)
 {
+    ControleerNaam(naam);
     if (!Verplaats(pad, QFileInfo(pad).path() + u'/' + naam))
         throw Fout(Fout::GeenToegang, pad);
 }

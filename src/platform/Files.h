@@ -15,8 +15,8 @@ inline constexpr qint64 GrootsteBestand =
 
 /// The path of a file below an existing folder. Each name is one file name; where a file of that name, ignoring case,
 /// exists, its own spelling is taken, otherwise the spelling given.
-/// Raises Fout::OngeldigeNaam for an empty name or one with < > : " / \ | ? * or a control character: nothing is ever
-/// read or written outside the folder.
+/// Raises Fout::OngeldigeNaam for an empty name, one with < > : " / \ | ? * or a control character, and one that is no
+/// text: nothing is ever read or written outside the folder.
 QString Pad(const QString &map, const QStringList &namen);
 
 bool FileExists(const QString &pad);
@@ -36,7 +36,7 @@ QByteArray LeesBegin(const QString &pad, qint64 hoogstens);
 /// Makes the file anew with this content, all or nothing: when the writing fails, the old file stays.
 void Schrijf(const QString &pad, const QByteArray &inhoud);
 void Schrijf(const QString &pad, std::initializer_list<QByteArrayView> delen); ///< parts, one behind the other
-/// Gives a file another name in its folder; the name's own case is taken over.
+/// Gives a file another name in its folder; the name's own case is taken over. Raises Fout::OngeldigeNaam as Pad does.
 void Hernoem(const QString &pad, const QString &naam);
 
 } // namespace Files

@@ -1,5 +1,7 @@
 #include "platform/Fout.h"
 
+#include <new>
+
 using namespace Qt::StringLiterals;
 
 static QString DutchText(Fout::Nummer nummer)
@@ -15,6 +17,8 @@ static QString DutchText(Fout::Nummer nummer)
         return u"Index valt buiten het bereik"_s;
     case Fout::TypeOnjuist:
         return u"Typen komen niet overeen: hier hoort een getal"_s;
+    case Fout::InterneFout:
+        return u"Interne fout"_s;
     case Fout::OngeldigeNaam:
         return u"Ongeldige bestandsnaam"_s;
     case Fout::BestandNietGevonden:
@@ -34,6 +38,15 @@ static QString DutchText(Fout::Nummer nummer)
 }
 
 Fout::Fout(Nummer nummer, QString waarbij) : nummer_(nummer), waarbij_(std::move(waarbij)) {}
+
+Fout Fout::Van(const std::exception &exception)
+{
+    if (const auto *fout = dynamic_cast<const Fout *>(&exception))
+        return *fout;
+    if (dynamic_cast<const std::bad_alloc *>(&exception))
+        return Fout(GeheugenVol);
+    return Fout(InterneFout, QString::fromLocal8Bit(exception.what()));
+}
 
 QString Fout::tekst() const
 {

@@ -15,6 +15,7 @@ public:
         GeheugenVol = 7,
         IndexBuitenBereik = 9,
         TypeOnjuist = 13,
+        InterneFout = 51,
         OngeldigeNaam = 52,
         BestandNietGevonden = 53,
         SchijfFout = 57,
@@ -26,6 +27,9 @@ public:
 
     /// @param waarbij what the failure is about, such as a file's name; shown behind the text, may be empty.
     explicit Fout(Nummer nummer, QString waarbij = {});
+
+    /// The failure that an exception amounts to: a Fout is itself, one of the standard library gets its number.
+    static Fout Van(const std::exception &exception);
 
     Nummer nummer() const { return nummer_; }
     /// The Dutch text of the number, with what it is about.
@@ -49,7 +53,7 @@ template <class Opdracht> bool negeer(Opdracht &&opdracht)
     try {
         std::forward<Opdracht>(opdracht)();
         return true;
-    } catch (const Fout &) {
+    } catch (const std::exception &) { // a Fout, or what the standard library raised: out of memory is one of these
         return false;
     }
 }

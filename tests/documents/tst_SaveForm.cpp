@@ -251,6 +251,7 @@ private slots:
         QTest::newRow("star") << "a*";
         QTest::newRow("too long") << QString(400, u'x');
         QTest::newRow("zero") << QString(QChar(0)) + u'a';
+        QTest::newRow("half a pair") << u"a"_s + QChar(0xD800);
     }
     void namesThatTheFileSystemRefuses()
     {

@@ -109,6 +109,8 @@ void TestFiles::aNameThatCouldLeaveTheFolderIsRefused_data()
     for (int code = 0; code < 32; ++code)
         QTest::addRow("control character %d", code) << u"a"_s + QChar(code) + u"b"_s;
     QTest::newRow("control character 127") << u"a"_s + QChar(127);
+    QTest::newRow("first half of a pair") << u"a"_s + QChar(0xD83D) + u"b"_s;
+    QTest::newRow("second half of a pair") << QString(QChar(0xDE00));
 }
 
 void TestFiles::aNameThatCouldLeaveTheFolderIsRefused()
@@ -125,6 +127,7 @@ void TestFiles::anOrdinaryNameIsTaken_data()
     for (const char *naam : {"a", "a b", "a.b.c", "...", ".a", "a'b", "a & b, (c) [d] {e} #1 100% ~$!@^+=;"})
         QTest::newRow(naam) << QString::fromLatin1(naam);
     QTest::newRow("accents") << u"caf\u00E9 \u20AC"_s;
+    QTest::newRow("a whole pair") << u"\U0001F600"_s;
 }
 
 void TestFiles::anOrdinaryNameIsTaken()
@@ -281,7 +284,10 @@ void TestFiles::renamingCanChangeTheCaseAlone()
 void TestFiles::renamingAMissingFileFails()
 {
     QCOMPARE(FoutVan([&] { Files::Hernoem(Volledig("er niet"), u"b"_s); }), int{Fout::GeenToegang});
-    QCOMPARE(bank_->Bestanden({}), QStringList());
+    bank_->Schrijf(u"a.txt"_s, "x");
+    for (const QString &naam : {u"../b.txt"_s, QString(), QString(QChar(0xD800))})
+        QCOMPARE(FoutVan([&] { Files::Hernoem(Volledig("a.txt"), naam); }), int{Fout::OngeldigeNaam});
+    QCOMPARE(bank_->Bestanden({}), QStringList{"a.txt"});
 }
 
 RASTER_TEST(TestFiles)
