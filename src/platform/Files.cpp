@@ -63,7 +63,9 @@ QString Dir(const QString &pad)
 
 QStringList Lijst(const QString &map, const QString &patroon)
 {
-    return QDir(map).entryList({patroon}, QDir::Files | QDir::Hidden, QDir::Name | QDir::IgnoreCase);
+    QStringList namen = QDir(map).entryList({patroon}, QDir::Files | QDir::Hidden, QDir::Name | QDir::IgnoreCase);
+    namen.removeIf([](const QString &naam) { return !IsGoedeNaam(naam); });
+    return namen;
 }
 
 void Kill(const QString &pad)

@@ -23,7 +23,7 @@ bool FileExists(const QString &pad);
 /// The file's own name as it is stored, empty when there is no such file.
 QString Dir(const QString &pad);
 /// The names of the files in a folder that match a pattern such as "*.lst", ignoring case, sorted; empty when there is
-/// no such folder.
+/// no such folder. A file whose name Pad refuses is left out.
 QStringList Lijst(const QString &map, const QString &patroon);
 
 void Kill(const QString &pad);

@@ -92,6 +92,15 @@ private slots:
         QCOMPARE(form.List1->ListIndex(), -1);
     }
 
+    void aPuzzleThatCannotBeOpenedIsNotShown()
+    {
+        Bord bord;
+        for (const char *naam : {"Wie?", "a:b", "regel\nregel", "goed"})
+            SchrijfPuzzel(bord, QLatin1String(naam), Zweeds, 9, 9);
+        OpenFile form;
+        QCOMPARE(Namen(form), QStringList{u"goed"_s});
+    }
+
     void choosingANameTakesItAtOnce()
     {
         Bord bord;

@@ -51,6 +51,7 @@ private slots:
     void anOrdinaryNameIsTaken();
     void aFolderIsNoFile();
     void theListMatchesAndSortsIgnoringCase();
+    void theListLeavesOutWhatCannotBeOpened();
     void killRemovesAFile();
     void mkDirMakesAFolder();
 
@@ -159,6 +160,14 @@ void TestFiles::theListMatchesAndSortsIgnoringCase()
     QCOMPARE(Files::Lijst(Map(), u"*.LST"_s), (QStringList{"A.LST", "b.lst", "C.Lst"}));
     QCOMPARE(Files::Lijst(Map(), u"*.frt"_s), QStringList());
     QCOMPARE(Files::Lijst(Map() + u"/er niet"_s, u"*"_s), QStringList());
+}
+
+void TestFiles::theListLeavesOutWhatCannotBeOpened()
+{
+    bank_->Schrijf(u"goed.lst"_s, "");
+    for (const char *naam : {"a?.lst", "b\\.lst", "c:d.lst", "e\n.lst", "\"f\".lst", "*.lst", "<.lst", "|.lst"})
+        bank_->Schrijf(QLatin1String(naam), "");
+    QCOMPARE(Files::Lijst(Map(), u"*.lst"_s), QStringList{"goed.lst"});
 }
 
 void TestFiles::killRemovesAFile()
