@@ -15,6 +15,7 @@
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
 #include "platform/Berichten.h"
+#include "platform/Files.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -23,7 +24,7 @@ using namespace Qt::StringLiterals;
 
 static QString DataBestand(const QString &naam)
 {
-    return AppPath + u"/Data/"_s + naam;
+    return Files::Pad(AppPath, {u"Data"_s, naam});
 }
 
 static void OpenHelp()

@@ -4,6 +4,7 @@
 
 #include "platform/Berichten.h"
 #include "platform/Files.h"
+#include "platform/Gebruiker.h"
 #include "platform/Klok.h"
 
 #include <QDesktopServices>
@@ -58,8 +59,7 @@ void Wachten(double seconden, QEventLoop::ProcessEventsFlags welke)
 
 QString HaalGebruiker()
 {
-    const QString naam = qEnvironmentVariable("USER");
-    return naam.isEmpty() ? qEnvironmentVariable("USERNAME") : naam;
+    return UserName();
 }
 
 bool BestandBestaat(const QString &pad)

@@ -7,6 +7,7 @@
 
 #include <QClipboard>
 #include <QDesktopServices>
+#include <QDir>
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QRegularExpression>
@@ -58,6 +59,16 @@ class tst_Opdrachten : public QObject
 {
     Q_OBJECT
 private slots:
+    void aDocumentIsFoundIgnoringCase()
+    {
+        Programma programma;
+        QVERIFY(QDir(programma.Scherm.Bank.Map()).mkdir(u"DATA"_s));
+        programma.Scherm.Bank.Schrijf(u"DATA/Help.PDF"_s, "x");
+        programma.Main().HelpHelp->trigger();
+        QCOMPARE(programma.Shell.Geopend.size(), 1);
+        QCOMPARE(programma.Shell.Geopend[0].toLocalFile(), programma.Scherm.Bank.Map() + u"/DATA/Help.PDF"_s);
+    }
+
     void menuItemsWithoutACommandAreDisabled()
     {
         Programma programma;

@@ -2,6 +2,7 @@
 #include "support/Bord.h"
 
 #include <QDesktopServices>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -82,6 +83,9 @@ private slots:
         qunsetenv("USER");
         qputenv("USERNAME", "jan");
         QCOMPARE(HaalGebruiker(), u"jan"_s);
+        qunsetenv("USERNAME"); // now the system is asked
+        QCOMPARE(HaalGebruiker(), QFileInfo(u"/proc/self"_s).owner());
+        QVERIFY(!HaalGebruiker().isEmpty());
     }
 
     void aFileExistsOrNot()
