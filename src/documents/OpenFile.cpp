@@ -4,6 +4,7 @@
 #include "board/MainForm.h"
 #include "board/Raster.h"
 #include "documents/PuzzelBestand.h"
+#include "documents/PuzzelMap.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Kleur.h"
@@ -11,11 +12,6 @@
 #include "platform/Plaatjes.h"
 
 using namespace Qt::StringLiterals;
-
-static QString PuzzelMap()
-{
-    return Files::Pad(AppPath, {u"Puzzels"_s});
-}
 
 OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, RGB(190, 240, 240))
 {
@@ -83,9 +79,7 @@ void OpenFile::OkKnop_Click()
 void OpenFile::LoadPuzzel(const QString &Naam)
 {
     PuzzelLijst lijst;
-    negeer([&] {
-        lijst = LeesPuzzelLijst(Files::LeesBegin(Files::Pad(PuzzelMap(), {Naam + u".lst"_s}), GrootsteLijst + 1));
-    });
+    negeer([&] { lijst = LeesPuzzelLijst(Files::LeesBegin(PuzzelPad(Naam + u".lst"_s), GrootsteLijst + 1)); });
     const qint32 breedte = lijst.Breedte.value_or(BoardWidth);
     const qint32 hoogte = lijst.Hoogte.value_or(BoardHeight);
     ControleerBord(breedte, hoogte);
@@ -105,7 +99,7 @@ void OpenFile::LoadPuzzel(const QString &Naam)
 void OpenFile::LaadBeelden()
 {
     const auto laad = [](PictureBox &pic, const QString &bestand) {
-        negeer([&] { pic.SetPicture(Files::LoadPicture(Files::Pad(PuzzelMap(), {PuzzelNaam + bestand}))); });
+        negeer([&] { pic.SetPicture(Files::LoadPicture(PuzzelPad(PuzzelNaam + bestand))); });
     };
     laad(*Main().Pic, u"1.bmp"_s);
     laad(*Main().PicGroot, u"2.bmp"_s);
@@ -120,6 +114,6 @@ void OpenFile::DelKnop_Click()
     if (!JaNee(u"Wilt je deze puzzel '"_s + naam + u"' verwijderen?"_s, u"Delete"_s))
         return;
     for (const char *deel : {".lst", "1.bmp", "2.bmp"})
-        negeer([&] { Files::Kill(Files::Pad(PuzzelMap(), {naam + QLatin1String(deel)})); });
+        negeer([&] { Files::Kill(PuzzelPad(naam + QLatin1String(deel))); });
     List1->RemoveItem(List1->ListIndex());
 }

@@ -3,6 +3,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "documents/PuzzelBestand.h"
+#include "documents/PuzzelMap.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Getallen.h"
@@ -14,11 +15,6 @@
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
-
-static QString PuzzelPad(const QString &bestand)
-{
-    return Files::Pad(AppPath, {u"Puzzels"_s, bestand});
-}
 
 SaveForm::SaveForm() : Form(u"SaveForm"_s, u"Puzzel opslaan"_s, 4800, 1560, RGB(170, 240, 240))
 {

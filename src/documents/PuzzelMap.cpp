@@ -1,0 +1,16 @@
+#include "documents/PuzzelMap.h"
+
+#include "board/Algemeen.h"
+#include "platform/Files.h"
+
+using namespace Qt::StringLiterals;
+
+QString PuzzelMap()
+{
+    return Files::Pad(AppPath, {u"Puzzels"_s});
+}
+
+QString PuzzelPad(const QString &bestand)
+{
+    return Files::Pad(PuzzelMap(), {bestand});
+}
