@@ -88,10 +88,7 @@ void OpenFile::LoadPuzzel(const QString &Naam)
     BoardWidth = breedte;
     BoardHeight = hoogte;
     Main().WisRijen();
-    QList<Rij> rijen;
-    for (const QStringList &r : lijst.Rijen)
-        rijen += {r[0], r[1], r[2], r[3]};
-    Main().VoegRijenToe(rijen);
+    Main().VoegRijenToe(lijst.Rijen);
     if (lijst.Heel)
         Main().ToonSoort();
 }

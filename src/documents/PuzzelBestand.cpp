@@ -10,15 +10,15 @@ using namespace Qt::StringLiterals;
 static const QString Banner = u"Tessel Hoeksma Software ® 2018"_s;
 static const QString Streep(28, u'-');
 
-static void LeesRijen(Files::VeldLezer &lezer, bool teGroot, QList<QStringList> &rijen)
+static void LeesRijen(Files::VeldLezer &lezer, bool teGroot, QList<Rij> &rijen)
 {
     while (!lezer.Einde()) {
-        QStringList rij;
-        for (int i = 0; i < 4; ++i)
-            rij += lezer.Tekst();
+        Rij rij;
+        for (QString *veld : {&rij.Vaknummer, &rij.Omschrijving, &rij.Oplossing, &rij.Nr})
+            *veld = lezer.Tekst();
         if (teGroot && lezer.Einde()) // the last field may be cut
             throw Fout(Fout::GeheugenVol);
-        if (!Trim(rij[0]).isEmpty())
+        if (!Trim(rij.Vaknummer).isEmpty())
             rijen += rij;
         lezer.Tekst();
     }
@@ -41,11 +41,11 @@ PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud)
     return lijst;
 }
 
-QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const QList<QStringList> &rijen)
+QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const QList<Rij> &rijen)
 {
     QStringList regels{Banner, QString::number(soort), QString::number(breedte), QString::number(hoogte), Streep};
-    for (const QStringList &rij : rijen)
-        regels += QStringList{Trim(rij[0]), rij[1], rij[2], rij[3], Streep};
+    for (const Rij &rij : rijen)
+        regels += {Trim(rij.Vaknummer), rij.Omschrijving, rij.Oplossing, rij.Nr, Streep};
     const QString einde = u"\r\n"_s;
     return Files::NaarBytes(regels.join(einde) + einde);
 }

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "board/Rij.h"
+
 #include <QByteArray>
-#include <QStringList>
+#include <QList>
 
 #include <optional>
 
@@ -12,8 +14,8 @@ struct PuzzelLijst
 {
     std::optional<quint8> Soort;
     std::optional<qint32> Breedte, Hoogte;
-    QList<QStringList> Rijen; ///< each row: position, clue, solution, number
-    bool Heel = false;        ///< it was read to its end without a failure
+    QList<Rij> Rijen;
+    bool Heel = false; ///< it was read to its end without a failure
 };
 
 /// Reads a puzzle file. It never fails: from damage on, nothing more is taken; what was read up to there stands. What
@@ -22,4 +24,4 @@ struct PuzzelLijst
 PuzzelLijst LeesPuzzelLijst(const QByteArray &inhoud);
 
 /// The puzzle file's bytes, in code page 1252: five lines of header, then five lines a row. Nothing is quoted.
-QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const QList<QStringList> &rijen);
+QByteArray SchrijfPuzzelLijst(quint8 soort, qint32 breedte, qint32 hoogte, const QList<Rij> &rijen);

@@ -82,13 +82,10 @@ void SaveForm::OpslaanPuzzel(QString &Naam)
 void SaveForm::SaveLijstPuzzel(QString &Naam)
 {
     Naam = EersteHoofdletter(Naam);
-    QList<QStringList> rijen;
-    for (const Rij &rij : Main().Rijen())
-        rijen += QStringList{rij.Vaknummer, rij.Omschrijving, rij.Oplossing, rij.Nr};
     negeer([&] {
         const QString bestand = Naam + u".lst"_s;
         const QString pad = PuzzelPad(bestand);
-        Files::Schrijf(pad, SchrijfPuzzelLijst(PuzzelType, BoardWidth, BoardHeight, rijen));
+        Files::Schrijf(pad, SchrijfPuzzelLijst(PuzzelType, BoardWidth, BoardHeight, Main().Rijen()));
         Files::Hernoem(pad, bestand); // an older file of the name may be spelled otherwise
     });
 }

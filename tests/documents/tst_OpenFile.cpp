@@ -10,23 +10,15 @@
 
 using namespace Qt::StringLiterals;
 
-static const QList<QStringList> TweeRijen{{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s},
-                                          {u"B-02 / 11-V"_s, QString(), u"wijn"_s, u"7"_s}};
-
-static QList<Rij> AlsRijen(const QList<QStringList> &rijen)
-{
-    QList<Rij> alle;
-    for (const QStringList &r : rijen)
-        alle += {r[0], r[1], r[2], r[3]};
-    return alle;
-}
+static const QList<Rij> TweeRijen{{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s},
+                                  {u"B-02 / 11-V"_s, QString(), u"wijn"_s, u"7"_s}};
 
 class tst_OpenFile : public QObject
 {
     Q_OBJECT
 
     static void SchrijfPuzzel(const Bord &bord, const QString &naam, quint8 soort, int breedte, int hoogte,
-                              const QList<QStringList> &rijen = TweeRijen)
+                              const QList<Rij> &rijen = TweeRijen)
     {
         bord.Bank.Schrijf(u"Puzzels/"_s + naam + u".lst"_s, SchrijfPuzzelLijst(soort, breedte, hoogte, rijen));
     }
@@ -123,7 +115,7 @@ private slots:
     {
         Bord bord;
         bord.Begin(Kruiswoord, 9, 12);
-        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
+        bord.Venster.VoegRijenToe(TweeRijen);
         bord.Klik(Qt::RightButton, 3, 4);
         SaveForm bewaar;
         bewaar.Text1->setText(u"mijn PUZZEL"_s);
@@ -141,8 +133,7 @@ private slots:
         QVERIFY(bord.Groot() == groot);
         QCOMPARE(PuzzelType, Kruiswoord);
         QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(9, 12));
-        QCOMPARE(bord.Rij(0), TweeRijen[0].join(u'|'));
-        QCOMPARE(bord.Rij(1), TweeRijen[1].join(u'|'));
+        QCOMPARE(bord.Venster.Rijen(), TweeRijen);
         QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
         QCOMPARE(bord.Venster.Label12->Caption(), u"Soortpuzzel : Kruiswoord"_s);
         QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (9x12)"_s);
@@ -186,7 +177,7 @@ private slots:
     void fiveHeaderLinesGiveAnEmptyList()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
+        bord.Venster.VoegRijenToe(TweeRijen);
         SchrijfPuzzel(bord, u"Leeg"_s, Zweeds, 10, 11, {});
         Open(u"Leeg"_s);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
@@ -317,7 +308,7 @@ private slots:
         Bord bord;
         PuzzelType = Kruiswoord;
         bord.Venster.ToonSoort();
-        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
+        bord.Venster.VoegRijenToe(TweeRijen);
         bord.Bank.Schrijf(u"Puzzels/Stuk.lst"_s, inhoud);
         Open(u"Stuk"_s);
         QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
@@ -365,7 +356,7 @@ private slots:
         QFETCH(QByteArray, breedte);
         QFETCH(int, fout);
         Bord bord;
-        bord.Venster.VoegRijenToe(AlsRijen(TweeRijen));
+        bord.Venster.VoegRijenToe(TweeRijen);
         bord.Klik(Qt::RightButton, 1, 1);
         const QImage pic = bord.Pic(), groot = bord.Groot();
         bord.Bank.Schrijf(u"Puzzels/Groot.lst"_s, "b\r\n2\r\n" + breedte + "\r\n19\r\n-\r\nx\r\ny\r\nz\r\n-\r\n-\r\n");
@@ -377,13 +368,13 @@ private slots:
         QVERIFY(bord.Groot() == groot);
         QCOMPARE(PuzzelType, Zweeds);
         QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(16, 19));
-        QCOMPARE(bord.Rij(0), TweeRijen[0].join(u'|'));
+        QCOMPARE(bord.Venster.Rijen(), TweeRijen);
     }
 
     void aHugeListOpens()
     {
         Bord bord;
-        SchrijfPuzzel(bord, u"Reus"_s, Zweeds, 9, 9, QList<QStringList>(100000, TweeRijen[0]));
+        SchrijfPuzzel(bord, u"Reus"_s, Zweeds, 9, 9, QList<Rij>(100000, TweeRijen[0]));
         Open(u"Reus"_s);
         QCOMPARE(bord.Venster.Label11->Caption(), u"100000 Items"_s);
     }

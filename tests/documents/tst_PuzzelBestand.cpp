@@ -6,13 +6,13 @@ using namespace Qt::StringLiterals;
 static const QByteArray Streep(28, '-');
 static const QByteArray Kop = "Tessel Hoeksma Software \xAE 2018\r\n1\r\n16\r\n19\r\n" + Streep + "\r\n";
 
-static const QByteArray Rij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" + Streep + "\r\n";
+static const QByteArray EenRij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" + Streep + "\r\n";
 
 static QString Rijen(const PuzzelLijst &lijst)
 {
     QStringList tekst;
-    for (const QStringList &rij : lijst.Rijen)
-        tekst += rij.join(u'|');
+    for (const Rij &rij : lijst.Rijen)
+        tekst += QStringList{rij.Vaknummer, rij.Omschrijving, rij.Oplossing, rij.Nr}.join(u'|');
     return tekst.join(u'/');
 }
 
@@ -24,8 +24,8 @@ private slots:
 
     void everyRowIsFiveLines()
     {
-        const QList<QStringList> rijen{{u"  A-01 / 1-H "_s, u"dier, groot \"grijs\""_s, u"olifant"_s, u"-"_s},
-                                       {u"B-02 / 18-V"_s, QString(), u"één€"_s, u"12"_s}};
+        const QList<Rij> rijen{{u"  A-01 / 1-H "_s, u"dier, groot \"grijs\""_s, u"olifant"_s, u"-"_s},
+                               {u"B-02 / 18-V"_s, QString(), u"één€"_s, u"12"_s}};
         QCOMPARE(SchrijfPuzzelLijst(3, 9, 10, rijen),
                  QByteArray("Tessel Hoeksma Software \xAE 2018\r\n3\r\n9\r\n10\r\n" + Streep +
                             "\r\nA-01 / 1-H\r\ndier, groot \"grijs\"\r\nolifant\r\n-\r\n" + Streep +
@@ -34,9 +34,9 @@ private slots:
 
     void whatIsWrittenComesBack()
     {
-        const QList<QStringList> rijen{{u"A-01 / 1-H"_s, u"dier: ä ç µ"_s, u"olifant"_s, u"-"_s},
-                                       {u"B-02 / 18-V"_s, QString(), u"wijn"_s, u"-"_s},
-                                       {u"-"_s, u"-"_s, u"zee"_s, u"-"_s}};
+        const QList<Rij> rijen{{u"A-01 / 1-H"_s, u"dier: ä ç µ"_s, u"olifant"_s, u"-"_s},
+                               {u"B-02 / 18-V"_s, QString(), u"wijn"_s, u"-"_s},
+                               {u"-"_s, u"-"_s, u"zee"_s, u"-"_s}};
         const PuzzelLijst lijst = LeesPuzzelLijst(SchrijfPuzzelLijst(2, 12, 13, rijen));
         QVERIFY(lijst.Heel);
         QCOMPARE(*lijst.Soort, quint8(2));
@@ -113,7 +113,7 @@ private slots:
 
     void whereverAFileIsCutWhatIsBeforeItStands()
     {
-        const QList<QStringList> rijen(3, {u"A-01 / 1-H"_s, u"x"_s, u"y"_s, u"-"_s});
+        const QList<Rij> rijen(3, {u"A-01 / 1-H"_s, u"x"_s, u"y"_s, u"-"_s});
         const QByteArray heel = SchrijfPuzzelLijst(1, 16, 19, rijen).replace("\r\n", "\n");
         for (qsizetype lengte = 0; lengte <= heel.size(); ++lengte) {
             const PuzzelLijst lijst = LeesPuzzelLijst(heel.first(lengte));
@@ -126,18 +126,18 @@ private slots:
 
     void aLargeFileIsReadWhole()
     {
-        const PuzzelLijst lijst = LeesPuzzelLijst(Kop + Rij.repeated(100000));
+        const PuzzelLijst lijst = LeesPuzzelLijst(Kop + EenRij.repeated(100000));
         QVERIFY(lijst.Heel);
         QCOMPARE(lijst.Rijen.size(), 100000);
     }
 
     void whatIsBeyondTheLargestFileIsAFailure()
     {
-        const qsizetype passen = (GrootsteLijst - Kop.size()) / Rij.size();
-        QByteArray inhoud = Kop + Rij.repeated(passen);
+        const qsizetype passen = (GrootsteLijst - Kop.size()) / EenRij.size();
+        QByteArray inhoud = Kop + EenRij.repeated(passen);
         inhoud.prepend(QByteArray(GrootsteLijst - inhoud.size(), 'x')); // a longer first line, to end where it may
         QVERIFY(LeesPuzzelLijst(inhoud).Heel);
-        const PuzzelLijst lijst = LeesPuzzelLijst(inhoud + Rij.repeated(3));
+        const PuzzelLijst lijst = LeesPuzzelLijst(inhoud + EenRij.repeated(3));
         QVERIFY(!lijst.Heel);
         QCOMPARE(lijst.Rijen.size(), passen); // those before it stand
         QCOMPARE(*lijst.Hoogte, 19);
@@ -146,7 +146,7 @@ private slots:
     void aFieldThatRunsBeyondTheLargestFileIsNotTaken()
     {
         const PuzzelLijst lijst =
-            LeesPuzzelLijst(Kop + Rij + "B-01 / 2-H\r\nnoot\r\nmies\r\n" + QByteArray(GrootsteLijst, 'x'));
+            LeesPuzzelLijst(Kop + EenRij + "B-01 / 2-H\r\nnoot\r\nmies\r\n" + QByteArray(GrootsteLijst, 'x'));
         QVERIFY(!lijst.Heel);
         QCOMPARE(lijst.Rijen.size(), 1);
     }
