@@ -2,10 +2,10 @@
 
 #include "app/Instellingen.h"
 #include "board/Algemeen.h"
-#include "board/MainForm.h"
 #include "board/Raster.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/Klok.h"
 
 using namespace Qt::StringLiterals;

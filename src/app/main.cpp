@@ -4,6 +4,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "platform/Berichten.h"
+#include "platform/Fout.h"
 #include "platform/Uiterlijk.h"
 
 #include <QApplication>

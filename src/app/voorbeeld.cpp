@@ -19,6 +19,7 @@
 #include "editors/VakForm.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/Klok.h"
 #include "platform/Teksten.h"
 #include "platform/Uiterlijk.h"

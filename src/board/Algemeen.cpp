@@ -6,6 +6,7 @@
 #include "platform/Files.h"
 #include "platform/Gebruiker.h"
 #include "platform/Klok.h"
+#include "platform/Teksten.h"
 
 #include <QDesktopServices>
 #include <QUrl>

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/Teksten.h"
-
 #include <QEventLoop>
 #include <QString>
 

@@ -9,7 +9,6 @@
 #include "platform/Files.h"
 #include "platform/Kleur.h"
 #include "platform/PictureFiles.h"
-#include "platform/Plaatjes.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,7 @@
 #include "platform/Files.h"
 
+#include "platform/Fout.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>

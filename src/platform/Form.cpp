@@ -1,6 +1,7 @@
 #include "platform/Form.h"
 
 #include "platform/Berichten.h"
+#include "platform/Fout.h"
 #include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 #include "platform/ScrollBar.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Fout.h"
 #include "platform/Label.h"
 
 #include <QDialog>

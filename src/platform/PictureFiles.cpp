@@ -2,6 +2,7 @@
 
 #include "platform/Bitmap.h"
 #include "platform/Files.h"
+#include "platform/Fout.h"
 
 #include <QBuffer>
 #include <QImageReader>
