@@ -1,8 +1,8 @@
+#include "support/Testbank.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -21,6 +21,11 @@ public:
     Werkplaats() { QDir(map_.path()).mkdir(u"Puzzels"_s); }
     QString Map() const { return map_.path(); }
     QStringList Puzzels() const { return QDir(Map() + u"/Puzzels"_s).entryList(QDir::Files, QDir::Name); }
+    QByteArray Inhoud(const QString &naam) const
+    {
+        QFile bestand(Map() + u'/' + naam);
+        return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
+    }
     Afloop Voer(const QString &wat, const QByteArray &beschrijving) const
     {
         QFile bron(Map() + u"/bron.txt"_s);
@@ -111,15 +116,56 @@ private slots:
     void aGoodDescriptionBecomesAPuzzle()
     {
         const Werkplaats werk;
-        const QByteArray bron = "naam|Proef\r\n\r\nmaat|9|19\r\nvak|A-01|3|twee\\regels\r\nvak|I-19|8|\r\n"
+        const QByteArray bron = "naam|Proef\r\n\r\nmaat|9|19\r\nvak|A-05|3|twee\\regels\r\nvak|E-07|8|\r\n"
                                 "woord|B-01|H|ijspegels|lang\r\nwoord|C-19|H|ij ijs|in de hoek\r\n"
                                 "woord|B-11|V|IJSBERGEND|tot onderaan \xE2\x80\xA6\r\n";
         const Afloop gemaakt = werk.Voer(u"bewaar"_s, bron);
         QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
         QCOMPARE(werk.Puzzels(), (QStringList{u"Proef.lst"_s, u"Proef1.bmp"_s, u"Proef2.bmp"_s}));
+        const QByteArray streep = QByteArray(28, '-') + "\r\n";
+        QCOMPARE(werk.Inhoud(u"Puzzels/Proef.lst"_s), "Tessel Hoeksma Software \xAE 2018\r\n1\r\n9\r\n19\r\n" + streep +
+                                                          "B-01 / 2-H\r\nlang\r\nijspegels\r\n-\r\n" + streep +
+                                                          "C-19 / 165-H\r\nin de hoek\r\nijijs\r\n-\r\n" + streep +
+                                                          "B-11 / 92-V\r\ntot onderaan \x85\r\nijsbergend\r\n-\r\n" +
+                                                          streep);
+        QCOMPARE(werk.Inhoud(u"controle/lijst.txt"_s),
+                 QByteArray("B-01 / 2-H\tlang\tijspegels\t-\nC-19 / 165-H\tin de hoek\tijijs\t-\n"
+                            "B-11 / 92-V\ttot onderaan \xE2\x80\xA6\tijsbergend\t-\n"));
+
         const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
         QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
         QVERIFY2(gelijk.Tekst.contains(u"lijst van 3 woorden"_s), qPrintable(gelijk.Tekst));
+    }
+
+    void cellsAndWordsAreDrawnWhereTheyBelong()
+    {
+        const Werkplaats werk;
+        const Afloop gemaakt = werk.Voer(u"maak"_s, "naam|Proef\nmaat|9|18\nvak|A-05|3|twee\\regels\nvak|E-07|8|\n"
+                                                    "woord|B-11|V|aap|dier\nwoord|G-02|H|bij|dier\n");
+        QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        const QImage pic(werk.Map() + u"/Puzzels/Proef1.bmp"_s), groot(werk.Map() + u"/Puzzels/Proef2.bmp"_s);
+        QCOMPARE(pic.size(), QSize(9 * 30 + 1, 18 * 30 + 1));
+        QCOMPARE(groot.size(), QSize(9 * 120 + 3, 18 * 120 + 3));
+
+        const QList<QPoint> vakjes{{0, 4}, {4, 6}}, letters{{1, 10}, {1, 11}, {1, 12}, {6, 1}, {7, 1}};
+        const QList<QPoint> pijlen{{1, 4}, {5, 6}, {4, 7}}; // of kind 3 to the right, of kind 8 to the right and down
+        for (int rij = 0; rij < 18; ++rij)
+            for (int kolom = 0; kolom < 9; ++kolom) {
+                const QPoint plaats(kolom, rij);
+                const QRect binnen(kolom * 30 + 1, rij * 30 + 1, 29, 29);
+                if (vakjes.contains(plaats))
+                    QVERIFY(!HeeftInkt(pic, binnen, qRgb(229, 248, 194)));
+                else
+                    QCOMPARE(HeeftInkt(pic, binnen), letters.contains(plaats) || pijlen.contains(plaats));
+            }
+        QVERIFY(InktVlak(pic, QRect(31, 121, 29, 29)).bottom() < 121 + 12); // kind 3 leaves near the top of the cell
+
+        const QRgb kleur = qRgb(230, 250, 190);
+        QVERIFY(HeeftInkt(groot, QRect(3, 4 * 120 + 3, 117, 19), kleur));           // the clue: a line,
+        QVERIFY(HeeftInkt(groot, QRect(3, 4 * 120 + 23, 117, 19), kleur));          // another one,
+        QVERIFY(!HeeftInkt(groot, QRect(3, 4 * 120 + 48, 117, 72), kleur));         // and no more
+        QCOMPARE(InktVlak(groot, QRect(4 * 120 + 3, 6 * 120 + 3, 117, 117), kleur), // a split cell without a clue
+                 QRect(4 * 120 + 3, 6 * 120 + 3 + 58, 117, 3));
     }
 
     void aPuzzleThatWasNotSavedIsToldSo()
