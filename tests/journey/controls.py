@@ -2,6 +2,8 @@
 
 To be imported when the desktop has started: the connection is made at once.
 """
+import os
+
 import pyatspi
 from gi.repository import GLib
 
@@ -19,8 +21,10 @@ def quietly(question):
 
 
 class Control:
-    def __init__(self, accessible):
-        self.accessible = accessible
+    """On a scaled screen the tree tells of logical pixels; here all is in those of the screen."""
+
+    def __init__(self, program, accessible):
+        self.program, self.accessible = program, accessible
 
     @property
     def name(self):
@@ -33,7 +37,7 @@ class Control:
     def box(self):
         """Left, top, width, height on the screen."""
         extents = self.accessible.queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
-        return extents.x, extents.y, extents.width, extents.height
+        return tuple(round(one * self.program.scale) for one in (extents.x, extents.y, extents.width, extents.height))
 
     def has(self, state):
         return self.accessible.getState().contains(state)
@@ -45,7 +49,14 @@ class Control:
         return self.accessible.queryValue().currentValue
 
     def children(self):
-        return [Control(child) for child in self.accessible if child]
+        return [Control(self.program, child) for child in self.accessible if child]
+
+    def cells(self):
+        """The rows of a table, each the controls of its cells."""
+        self.accessible.clear_cache()
+        table = self.accessible.queryTable()
+        return [[Control(self.program, table.getAccessibleAt(row, column)) for column in range(table.nColumns)]
+                for row in range(table.nRows)]
 
     def tree(self):
         """This control and all below it, from top to bottom."""
@@ -53,10 +64,14 @@ class Control:
         for child in self.children():
             yield from child.tree()
 
+    def shown(self):
+        """This control and all below it that are shown, from top to bottom."""
+        self.accessible.clear_cache()
+        return [one for one in self.tree() if one.has(pyatspi.STATE_SHOWING)]
+
     def all(self, role):
         """All of a role that are shown, from top to bottom."""
-        self.accessible.clear_cache()
-        return [one for one in self.tree() if one.role == role and one.has(pyatspi.STATE_SHOWING)]
+        return [one for one in self.shown() if one.role == role]
 
     def names(self, role="label"):
         return [one.name for one in self.all(role)]
@@ -68,6 +83,15 @@ class Control:
             return found[0] if found and len(found) == 1 else None
         return until(f"one {role} '{name}'", look)
 
+    def middle(self):
+        """Of its box on the screen."""
+        left, top, width, height = self.box()
+        return left + width // 2, top + height // 2
+
+    def click(self, times=1):
+        """With the pointer, in its middle."""
+        self.program.desktop.click(*self.middle(), times=times)
+
     def describe(self, depth=0):
         line = "  " * depth + f"{self.role} '{self.name}' {quietly(self.box)}\n"
         return line + "".join(child.describe(depth + 1) for child in self.children())
@@ -76,12 +100,13 @@ class Control:
 class Program:
     """A started program on a desktop."""
 
-    def __init__(self, desktop, command, log):
-        self.desktop = desktop
+    def __init__(self, desktop, command, log, scale):
+        self.desktop, self.scale = desktop, scale
         self.focused = []  # what got the focus, the last one at the end
         pyatspi.Registry.registerEventListener(self.on_focus, "object:state-changed:focused")
-        self.process = desktop.start(command, stdout=log, stderr=log)
-        self.root = Control(until("the program on the accessibility bus", self.find_root))
+        scaled = {} if scale == 1 else {"QT_SCALE_FACTOR": str(scale)}
+        self.process = desktop.start(command, stdout=log, stderr=log, env=os.environ | scaled)
+        self.root = Control(self, until("the program on the accessibility bus", self.find_root))
 
     def on_focus(self, event):
         if event.detail1:
@@ -109,7 +134,9 @@ class Program:
         def look():
             name, *place = self.desktop.active_window()
             for one in self.windows():
-                if one.name == name == title and one.has(pyatspi.STATE_ACTIVE) and list(one.box()) == place:
+                # Exactly there, as far as whole logical pixels go.
+                is_there = all(abs(told - real) < self.scale for told, real in zip(one.box(), place))
+                if title == bare(one.name) == bare(name) and one.has(pyatspi.STATE_ACTIVE) and is_there:
                     return one
             return None
         found = until(f"window '{title}'", lambda: quietly(look))
@@ -119,7 +146,7 @@ class Program:
 
     def until_closed(self, title):
         until(f"window '{title}' is closed",
-              lambda: title not in (quietly(lambda: [one.name for one in self.windows()]) or [title]))
+              lambda: bare(title) not in (quietly(lambda: [bare(one.name) for one in self.windows()]) or [bare(title)]))
 
     def ended(self):
         """The exit code, once the program has ended."""
@@ -131,11 +158,11 @@ class Program:
     def menu(self, menu, item, shot=None):
         """Chooses an item of the menu bar with the pointer."""
         bar = self.windows()[0].find("menu item", menu)
-        self.desktop.click(*middle(bar.box()))
+        bar.click()
         found = bar.find("menu item", item)
         if shot:
             self.desktop.shot(shot)
-        self.desktop.click(*middle(found.box()))
+        found.click()
 
     def popup(self, item, shot=None):
         """Chooses an item of the pop-up that is open, with the pointer. Its items tell themselves when pointed at."""
@@ -145,9 +172,9 @@ class Program:
         self.focused.clear()
         self.desktop.point(left + width // 2, top + 8)
         first = until("the first item of the pop-up", self.focused_item)
-        wanted = [one for one in Control(first.parent).children() if one.name == item]
+        wanted = [one for one in Control(self, first.parent).children() if one.name == item]
         assert len(wanted) == 1, f"{len(wanted)} items '{item}' in the pop-up"
-        place = middle(wanted[0].box())
+        place = wanted[0].middle()
         self.desktop.point(*place)
         until(f"the item '{item}' under the pointer", lambda: self.focused_item().name == item)
         self.desktop.click(*place)
@@ -158,6 +185,6 @@ class Program:
         return self.focused[-1] if self.focused else None
 
 
-def middle(box):
-    left, top, width, height = box
-    return left + width // 2, top + height // 2
+def bare(title):
+    """Without the blanks round it: a window manager may leave them away."""
+    return title.strip()

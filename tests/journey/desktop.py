@@ -11,7 +11,6 @@ import time
 
 from picture import Picture
 
-WIDTH, HEIGHT = 1400, 1000
 DEADLINE = 40  # seconds; a sign that something went wrong, never a pace
 
 PR_SET_PDEATHSIG, PR_SET_CHILD_SUBREAPER = 1, 36
@@ -57,8 +56,8 @@ def descendants(root):
 class Desktop:
     """As a context: everything runs inside, everything has ended outside."""
 
-    def __init__(self, output):
-        self.output = output
+    def __init__(self, output, width, height):
+        self.output, self.width, self.height = output, width, height
         self.shots = 0
         self.temp = pathlib.Path(tempfile.mkdtemp(prefix="journey-"))
         self.home = self.temp / "home"
@@ -89,7 +88,7 @@ class Desktop:
         os.environ.setdefault("ASAN_OPTIONS", "detect_leaks=0")
         # Without -noreset the screen would start anew each time that its only client leaves.
         display = self.start_telling(
-            lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-nocursor",
+            lambda fd: ["Xvfb", "-displayfd", str(fd), "-screen", "0", f"{self.width}x{self.height}x24", "-nocursor",
                         "-noreset", "-nolisten", "tcp", "-fbdir", str(self.temp / "screen")])
         os.environ["DISPLAY"] = ":" + display
         os.environ["DBUS_SESSION_BUS_ADDRESS"] = self.start_telling(
@@ -159,8 +158,8 @@ class Desktop:
     def point(self, x, y):
         self.xdotool("mousemove", x, y)
 
-    def click(self, x, y, button=1):
-        self.xdotool("mousemove", x, y, "click", button)
+    def click(self, x, y, button=1, times=1):
+        self.xdotool("mousemove", x, y, "click", "--repeat", times, "--delay", 20, button)
 
     def key(self, *names):
         self.xdotool("key", *names)

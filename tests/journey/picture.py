@@ -27,11 +27,15 @@ class Picture:
 
     @classmethod
     def from_bmp(cls, data):
-        """An uncompressed bitmap file of 24 or 32 bits a pixel; a negative height has the top row first."""
+        """An uncompressed bitmap file of 24 or 32 bits a pixel; a negative height has the top row first. Raises ValueError
+        when it isn't a whole one."""
+        if data[:2] != b"BM" or len(data) < 54:
+            raise ValueError("no bitmap")
         start, = struct.unpack_from("<I", data, 10)
         width, height, _, bits, compression = struct.unpack_from("<iiHHI", data, 18)
-        assert data[:2] == b"BM" and bits in (24, 32) and compression in (0, 3), "another kind of bitmap"
         stride = (width * bits + 31) // 32 * 4
+        if bits not in (24, 32) or compression not in (0, 3) or len(data) < start + stride * abs(height):
+            raise ValueError("another kind of bitmap, or a part of one")
         return cls.from_bgr(width, abs(height), data, start, stride, bits // 8, bottom_up=height > 0)
 
     def pixel(self, x, y):
@@ -49,6 +53,16 @@ class Picture:
         """How many pixels are so: wanted(red, green, blue)."""
         return sum(map(wanted, self.rgb[0::3], self.rgb[1::3], self.rgb[2::3]))
 
+    def bmp(self):
+        """As a bitmap file of 24 bits a pixel with the bottom row first, the kind that most programs write."""
+        bgr = bytearray(len(self.rgb))
+        for channel in range(3):
+            bgr[channel::3] = self.rgb[2 - channel :: 3]
+        row, fill = self.width * 3, b"\0" * (-self.width * 3 % 4)
+        rows = b"".join(bgr[at - row : at] + fill for at in range(len(bgr), 0, -row))
+        info = struct.pack("<IiiHHIIiiII", 40, self.width, self.height, 1, 24, 0, len(rows), 3780, 3780, 0, 0)
+        return b"BM" + struct.pack("<IHHI", 54 + len(rows), 0, 0, 54) + info + rows
+
     def png(self):
         def chunk(kind, body):
             return struct.pack(">I", len(body)) + kind + body + struct.pack(">I", zlib.crc32(kind + body))
@@ -59,7 +73,7 @@ class Picture:
         return b"\x89PNG\r\n\x1a\n" + chunk(b"IHDR", head) + chunk(b"IDAT", zlib.compress(raw, 6)) + chunk(b"IEND", b"")
 
     def __eq__(self, other):
-        return (self.width, self.height, self.rgb) == (other.width, other.height, other.rgb)
+        return isinstance(other, Picture) and (self.width, self.rgb) == (other.width, other.rgb)
 
     def __repr__(self):
         return f"picture of {self.width}x{self.height} with checksum {zlib.crc32(self.rgb):08x}"
