@@ -144,6 +144,13 @@ class Program:
             self.desktop.shot(shot)
         return found
 
+    def until_focus(self, role, name):
+        """Waits until the focus is in this control."""
+        def look():
+            return any(one.role == role and one.name == name and one.has(pyatspi.STATE_FOCUSED)
+                       for window in self.windows() for one in window.tree())
+        until(f"the focus in {role} '{name}'", lambda: quietly(look))
+
     def until_closed(self, title):
         until(f"window '{title}' is closed",
               lambda: bare(title) not in (quietly(lambda: [bare(one.name) for one in self.windows()]) or [bare(title)]))

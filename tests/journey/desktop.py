@@ -164,6 +164,11 @@ class Desktop:
     def key(self, *names):
         self.xdotool("key", *names)
 
+    def hold(self, name):
+        """A key that works when it is let go of. The accessibility bus delays what keys do: let go of at once, it could
+        be up before it is down."""
+        self.xdotool("keydown", name, "sleep", 0.2, "keyup", name)
+
     def type(self, text):
         for number, line in enumerate(text.split("\n")):
             if number:
