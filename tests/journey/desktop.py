@@ -187,6 +187,11 @@ class Desktop:
         title = re.search(r'Window id: \S+ "(.*)"$', told, re.MULTILINE)
         return title[1] if title else "", *(int(value[1]) if value else -1 for value in values)
 
+    def active_frame(self):
+        """What the window manager puts round the window with the focus: left, right, top, bottom."""
+        told = self.tell(["xprop", "-id", self.tell(["xdotool", "getactivewindow"]), "-notype", "_NET_FRAME_EXTENTS"])
+        return [int(number) for number in re.findall(r"\d+", told)]
+
     def popup_box(self):
         """Left, top, width, height of the window that no window manager has a hold on; None when there is none."""
         tree = self.tell(["xwininfo", "-root", "-children"])
