@@ -192,6 +192,10 @@ class Desktop:
         told = self.tell(["xprop", "-id", self.tell(["xdotool", "getactivewindow"]), "-notype", "_NET_FRAME_EXTENTS"])
         return [int(number) for number in re.findall(r"\d+", told)]
 
+    def move_active(self, left, top):
+        """Moves the window with the focus."""
+        self.xdotool("getactivewindow", "windowmove", "--sync", left, top)
+
     def popup_box(self):
         """Left, top, width, height of the window that no window manager has a hold on; None when there is none."""
         tree = self.tell(["xwininfo", "-root", "-children"])
