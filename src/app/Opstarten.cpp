@@ -5,6 +5,7 @@
 #include "board/Raster.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
+#include "platform/Form.h"
 #include "platform/Fout.h"
 #include "platform/Klok.h"
 

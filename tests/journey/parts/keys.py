@@ -130,8 +130,8 @@ def delete_row(keys):
 
 
 def leave(keys):
-    stops = [("list", "Gevonden woorden"), ("list", "Woorden van de lijst"), ("combo box", "Alles"),
-             ("list", "Woordlijsten"), ("push button", "Uitleg en Hulp"), ("push button", "Over de ontwerper"),
+    stops = [("list", "Gevonden woorden"), ("scroll bar", "Woordlengte"), ("list", "Woorden van de lijst"),
+             ("combo box", "Alles"), ("list", "Woordlijsten"), ("push button", "Uitleg en Hulp"), ("push button", "Over de ontwerper"),
              ("push button", "Programma Stoppen")]
     keys.tab_to(*stops)
     keys.desktop.shot("stop-focused")
