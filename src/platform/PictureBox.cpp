@@ -144,10 +144,11 @@ void PictureBox::Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wij
 void PictureBox::paintEvent(QPaintEvent *event)
 {
     QPainter painter(this);
-    const QRect getekend = event->rect() & beeld_.rect();
-    if (getekend != event->rect())
+    if (!beeld_.rect().contains(event->rect()))
         painter.fillRect(event->rect(), QColor(BackColor));
-    painter.drawImage(getekend, beeld_, getekend);
+    const double ratio = devicePixelRatioF();
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, ratio != std::floor(ratio));
+    painter.drawImage(0, 0, beeld_); // the whole, so that a part that is shown anew fits to the rest at any scale
 }
 
 void PictureBox::mouseMoveEvent(QMouseEvent *event)

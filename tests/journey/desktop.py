@@ -196,6 +196,13 @@ class Desktop:
         """Moves the window with the focus."""
         self.xdotool("getactivewindow", "windowmove", "--sync", left, top)
 
+    def can_be_iconified_or_maximised(self):
+        """Whether the window with the focus asks its window manager for these two buttons."""
+        told = self.tell(["xprop", "-id", self.tell(["xdotool", "getactivewindow"]), "-notype", "_MOTIF_WM_HINTS"])
+        asked, functions, decorations = [int(number, 0) for number in re.findall(r"0x\w+|\d+", told)][:3]
+        assert asked & 3 == 3, f"the window leaves its buttons to the window manager: {told}"
+        return bool(functions & 0x19 or decorations & 0x61)  # iconify, maximise, or all there is
+
     def popup_box(self):
         """Left, top, width, height of the window that no window manager has a hold on; None when there is none."""
         tree = self.tell(["xwininfo", "-root", "-children"])

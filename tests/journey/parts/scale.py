@@ -58,6 +58,8 @@ def dialogs(run):
 
     def look(window, button):
         wrong.extend(outside(window))
+        if run.desktop.can_be_iconified_or_maximised():
+            wrong.append(f"'{window.name}' has a button to minimise or to maximise it")
         run.push(window, button)
         run.program.until_closed(window.name)
 
