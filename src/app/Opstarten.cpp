@@ -3,6 +3,7 @@
 #include "app/Instellingen.h"
 #include "board/Algemeen.h"
 #include "board/Raster.h"
+#include "documents/PuzzelMap.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Form.h"
@@ -24,6 +25,7 @@ static void BewaarInstellingen()
 
 void LaadMain()
 {
+    HerstelBestanden();
     BeginWaarden();
     TekenBord(BoardWidth, BoardHeight);
     const QString pad = InstellingenPad();

@@ -6,6 +6,7 @@
 #include "documents/PuzzelBestand.h"
 #include "documents/PuzzelMap.h"
 #include "platform/Berichten.h"
+#include "platform/Bewaren.h"
 #include "platform/Files.h"
 #include "platform/Kleur.h"
 #include "platform/PictureFiles.h"
@@ -30,6 +31,7 @@ OpenFile::OpenFile() : Form(u"OpenFile"_s, u"Puzzel openen"_s, 5160, 4395, RGB(1
 
     Kleur(List1, RGB(30, 0, 0), RGB(250, 250, 250));
     DelKnop->setEnabled(false);
+    MaakAf(PuzzelMap());
     QStringList namen = Files::Lijst(PuzzelMap(), u"*.lst"_s);
     for (QString &naam : namen)
         naam.chop(4);
@@ -78,6 +80,7 @@ void OpenFile::OkKnop_Click()
 void OpenFile::LoadPuzzel(const QString &Naam)
 {
     PuzzelLijst lijst;
+    MaakAf(PuzzelMap());
     negeer([&] { lijst = LeesPuzzelLijst(Files::LeesBegin(PuzzelPad(Naam + u".lst"_s), GrootsteLijst + 1)); });
     const qint32 breedte = lijst.Breedte.value_or(BoardWidth);
     const qint32 hoogte = lijst.Hoogte.value_or(BoardHeight);
@@ -109,6 +112,7 @@ void OpenFile::DelKnop_Click()
         return;
     if (!JaNee(u"Wilt je deze puzzel '"_s + naam + u"' verwijderen?"_s, u"Delete"_s))
         return;
+    MaakAf(PuzzelMap());
     for (const char *deel : {".lst", "1.bmp", "2.bmp"})
         negeer([&] { Files::Kill(PuzzelPad(naam + QLatin1String(deel))); });
     List1->RemoveItem(List1->ListIndex());

@@ -1,6 +1,8 @@
 #include "documents/PuzzelMap.h"
 
 #include "board/Algemeen.h"
+#include "documents/PuzzelJpeg.h"
+#include "platform/Bewaren.h"
 #include "platform/Files.h"
 
 using namespace Qt::StringLiterals;
@@ -13,4 +15,11 @@ QString PuzzelMap()
 QString PuzzelPad(const QString &bestand)
 {
     return Files::Pad(PuzzelMap(), {bestand});
+}
+
+void HerstelBestanden()
+{
+    for (const QString &map : {AppPath, PuzzelMap(), FotoMap()})
+        MaakAf(map);
+    RuimTussenBeeldOp();
 }

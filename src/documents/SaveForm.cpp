@@ -3,16 +3,16 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "documents/PuzzelBestand.h"
+#include "documents/PuzzelJpeg.h"
 #include "documents/PuzzelMap.h"
 #include "platform/Berichten.h"
+#include "platform/Bewaren.h"
 #include "platform/Files.h"
 #include "platform/Getallen.h"
 #include "platform/Kleur.h"
 #include "platform/PictureFiles.h"
 #include "platform/Screen.h"
 #include "platform/Teksten.h"
-
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -61,9 +61,20 @@ void SaveForm::SaveKnop_Click()
     Unload();
 }
 
+/// Writes the text file as one of a set. A failure passes in silence.
+static void ZetLijst(const QString &naam, BestandenSet &set)
+{
+    negeer([&] {
+        const QString bestand = naam + u".lst"_s; // an older file of the name may be spelled otherwise
+        const QByteArray inhoud = SchrijfPuzzelLijst(PuzzelType, BoardWidth, BoardHeight, Main().Rijen());
+        set.Zet(PuzzelPad(bestand), {inhoud}, bestand);
+    });
+}
+
 void SaveForm::OpslaanPuzzel(QString &Naam)
 {
     GebruikersNaam = HaalGebruiker();
+    MaakAf(PuzzelMap());
     bool bestaat = false;
     negeer([&] { bestaat = BestandBestaat(PuzzelPad(Naam + u".lst"_s)); });
     if (bestaat && !JaNee(u"Naam puzzel bestaat al, overschrijven?"_s, u" Exist"_s))
@@ -71,39 +82,25 @@ void SaveForm::OpslaanPuzzel(QString &Naam)
     Screen::MousePointer(Screen::Hourglass);
     Text1->hide();
     Bar->show();
-    negeer([&] { Files::SavePicture(Main().Pic->Image(), PuzzelPad(Naam + u"1.bmp"_s)); });
-    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), PuzzelPad(Naam + u"2.bmp"_s)); });
-    SaveLijstPuzzel(Naam);
-    if (!MaakJpeg(Naam))
+    BestandenSet set;
+    negeer([&] { Files::SavePicture(Main().Pic->Image(), PuzzelPad(Naam + u"1.bmp"_s), set); });
+    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), PuzzelPad(Naam + u"2.bmp"_s), set); });
+    Naam = EersteHoofdletter(Naam);
+    ZetLijst(Naam, set);
+    negeer([&] { set.PlaatsAlles(); });
+    if (!MaakPuzzelJpeg(Naam)) {
+        MsgBox(u"Fout bij opslaan als JPG!"_s);
         return; // the hourglass stays on
+    }
     ToonVoortgang();
 }
 
 void SaveForm::SaveLijstPuzzel(QString &Naam)
 {
     Naam = EersteHoofdletter(Naam);
-    negeer([&] {
-        const QString bestand = Naam + u".lst"_s;
-        const QString pad = PuzzelPad(bestand);
-        Files::Schrijf(pad, SchrijfPuzzelLijst(PuzzelType, BoardWidth, BoardHeight, Main().Rijen()));
-        Files::Hernoem(pad, bestand); // an older file of the name may be spelled otherwise
-    });
-}
-
-/// @return false when there was no bitmap to make it of
-bool SaveForm::MaakJpeg(const QString &naam)
-{
-    const QString tussenNaam = u"mydummy.bmp"_s;
-    const QString tussen = Files::Pad(AppPath, {tussenNaam});
-    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), tussen); });
-    if (Files::Dir(tussen) != tussenNaam) {
-        MsgBox(u"Fout bij opslaan als JPG!"_s);
-        return false;
-    }
-    const QString map = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-    negeer([&] { Files::BmpToJpeg(tussen, Files::Pad(map, {naam + u".jpg"_s}), 100); });
-    negeer([&] { Files::Kill(tussen); });
-    return true;
+    BestandenSet set;
+    ZetLijst(Naam, set);
+    negeer([&] { set.PlaatsAlles(); });
 }
 
 // It comes when all is written, and reports no work: some three seconds, whatever the puzzle. Clicks and keys wait, so

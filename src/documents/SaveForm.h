@@ -25,6 +25,5 @@ public:
     ImageButton *CancelKnop, *SaveKnop;
 
 private:
-    bool MaakJpeg(const QString &naam);
     void ToonVoortgang();
 };

@@ -1,12 +1,12 @@
 #include "platform/Files.h"
 
+#include "platform/Bewaren.h"
 #include "platform/Fout.h"
+#include "platform/Schijf.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <filesystem>
 
 using namespace Qt::StringLiterals;
 
@@ -14,7 +14,7 @@ namespace Files {
 
 // --- names ---
 
-static bool IsGoedeNaam(const QString &naam)
+bool IsGoedeNaam(const QString &naam)
 {
     if (!naam.isValidUtf16()) // half a pair of code units: no file system takes it
         return false;
@@ -74,13 +74,13 @@ void Kill(const QString &pad)
 {
     if (!QFileInfo::exists(pad))
         throw Fout(Fout::BestandNietGevonden, pad);
-    if (!QFile::remove(pad))
+    if (!Schijf::Huidig().Verwijder(pad))
         throw Fout(Fout::GeenToegang, pad);
 }
 
 void MkDir(const QString &pad)
 {
-    if (!QDir().mkdir(pad))
+    if (!Schijf::Huidig().MaakMap(pad))
         throw Fout(Fout::GeenToegang, pad);
 }
 
@@ -91,10 +91,10 @@ QByteArray LeesBegin(const QString &pad, qint64 hoogstens)
     if (!FileExists(pad))
         throw Fout(Fout::BestandNietGevonden, pad);
     QFile bestand(pad);
-    if (!bestand.open(QIODevice::ReadOnly))
+    if (!Schijf::Huidig().Open(bestand, Schijf::Lezend))
         throw Fout(Fout::GeenToegang, pad);
-    QByteArray inhoud = bestand.read(std::min(bestand.size(), hoogstens));
-    if (bestand.error() != QFileDevice::NoError)
+    QByteArray inhoud;
+    if (!Schijf::Huidig().Lees(bestand, std::min(bestand.size(), hoogstens), inhoud))
         throw Fout(Fout::SchijfFout, pad);
     return inhoud;
 }
@@ -106,32 +106,18 @@ QByteArray Lees(const QString &pad)
     return LeesBegin(pad, GrootsteBestand);
 }
 
-static bool Verplaats(const QString &van, const QString &naar)
-{
-    return negeer([&] { std::filesystem::rename(QFile(van).filesystemFileName(), QFile(naar).filesystemFileName()); });
-}
-
 void Hernoem(const QString &pad, const QString &naam)
 {
     ControleerNaam(naam);
-    if (!Verplaats(pad, QFileInfo(pad).path() + u'/' + naam))
+    if (!Schijf::Huidig().Verplaats(pad, QFileInfo(pad).path() + u'/' + naam))
         throw Fout(Fout::GeenToegang, pad);
 }
 
-// It is written beside the old file and put in its place at the end, so that a full disk spares the old one.
 void Schrijf(const QString &pad, std::initializer_list<QByteArrayView> delen)
 {
-    QFile nieuw(QFileInfo(pad).path() + u"/.rasteratelier~"_s); // no longer than any name
-    if (!nieuw.open(QIODevice::WriteOnly | QIODevice::Unbuffered))
-        throw Fout(Fout::GeenToegang, pad);
-    bool geschreven = true;
-    for (const QByteArrayView deel : delen)
-        geschreven = geschreven && nieuw.write(deel.data(), deel.size()) == deel.size();
-    nieuw.close();
-    if (!geschreven || !Verplaats(nieuw.fileName(), pad)) {
-        nieuw.remove();
-        throw Fout(Fout::SchijfFout, pad);
-    }
+    BestandenSet set;
+    set.Zet(pad, delen);
+    set.PlaatsAlles();
 }
 
 void Schrijf(const QString &pad, const QByteArray &inhoud)

@@ -18,6 +18,9 @@ inline constexpr qint64 GrootsteBestand =
 /// text: nothing is ever read or written outside the folder.
 QString Pad(const QString &map, const QStringList &namen);
 
+/// Whether Pad takes a name.
+bool IsGoedeNaam(const QString &naam);
+
 bool FileExists(const QString &pad);
 /// The file's own name as it is stored, empty when there is no such file.
 QString Dir(const QString &pad);
@@ -32,7 +35,8 @@ void MkDir(const QString &pad);
 QByteArray Lees(const QString &pad);
 /// The first bytes of a file, however large it is. @param hoogstens how many there are at most
 QByteArray LeesBegin(const QString &pad, qint64 hoogstens);
-/// Makes the file anew with this content, all or nothing: when the writing fails, the old file stays.
+/// Makes the file anew with this content and brings it to the disk, all or nothing: when that fails, the old file
+/// stays. The rights of the old file are kept.
 void Schrijf(const QString &pad, const QByteArray &inhoud);
 void Schrijf(const QString &pad, std::initializer_list<QByteArrayView> delen); ///< parts, one behind the other
 /// Gives a file another name in its folder; the name's own case is taken over. Raises Fout::OngeldigeNaam as Pad does.

@@ -1,5 +1,6 @@
 #include "platform/PictureFiles.h"
 
+#include "platform/Bewaren.h"
 #include "platform/Bitmap.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
@@ -38,10 +39,17 @@ QImage LoadPicture(const QString &pad)
 
 void SavePicture(const QImage &beeld, const QString &pad)
 {
+    BestandenSet set;
+    SavePicture(beeld, pad, set);
+    set.PlaatsAlles();
+}
+
+void SavePicture(const QImage &beeld, const QString &pad, BestandenSet &set)
+{
     if (beeld.isNull())
         throw Fout(Fout::OngeldigeAfbeelding, pad);
     const QImage pixels = beeld.convertToFormat(QImage::Format_RGB32);
-    Schrijf(pad,
+    set.Zet(pad,
             {QByteArrayView(Bitmap::Kop(pixels.size())), QByteArrayView(pixels.constBits(), pixels.sizeInBytes())});
 }
 

@@ -1,0 +1,49 @@
+#include "documents/PuzzelJpeg.h"
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+#include "platform/Files.h"
+#include "platform/PictureFiles.h"
+
+#include <QLockFile>
+#include <QStandardPaths>
+
+using namespace Qt::StringLiterals;
+
+static const QString TussenNaam = u"mydummy.bmp"_s;
+static constexpr int Geduld = 5000; // milliseconds; a turn takes some tenths of a second
+
+/// The file that says whose turn it is.
+static QString BeurtPad()
+{
+    return Files::Pad(AppPath, {u".mydummy.slot"_s});
+}
+
+QString FotoMap()
+{
+    return QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
+}
+
+bool MaakPuzzelJpeg(const QString &naam)
+{
+    QLockFile beurt(BeurtPad());
+    if (!beurt.tryLock(Geduld))
+        return false;
+    const QString tussen = Files::Pad(AppPath, {TussenNaam});
+    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), tussen); });
+    if (Files::Dir(tussen) != TussenNaam)
+        return false;
+    negeer([&] { Files::BmpToJpeg(tussen, Files::Pad(FotoMap(), {naam + u".jpg"_s}), 100); });
+    negeer([&] { Files::Kill(tussen); });
+    return true;
+}
+
+void RuimTussenBeeldOp()
+{
+    const QString tussen = Files::Pad(AppPath, {TussenNaam});
+    if (!Files::FileExists(tussen) && !Files::FileExists(BeurtPad()))
+        return;
+    QLockFile beurt(BeurtPad());
+    if (beurt.tryLock(0))
+        negeer([&] { Files::Kill(tussen); });
+}
