@@ -1,26 +1,60 @@
 #include "app/AppMap.h"
 
-#include "platform/Fout.h"
+#include "platform/Files.h"
+#include "platform/Schijf.h"
 
 #include <QDir>
 #include <QDirIterator>
+#include <QFileInfo>
+#include <QLockFile>
 
 using namespace Qt::StringLiterals;
 
+/// The file that says whose turn it is.
+static QString BeurtPad(const QString &gebruiker)
+{
+    return gebruiker + u".slot"_s;
+}
+
+// What is installed may be read-only; the copy is the user's.
+static void KopieerBestand(const QString &van, const QString &naar)
+{
+    QFile bestand(naar);
+    Schijf &schijf = Schijf::Huidig();
+    if (!schijf.Open(bestand, Schijf::Nieuw) || !schijf.Schrijf(bestand, Files::Lees(van)) || !schijf.Spoel(bestand))
+        throw Fout(Fout::SchijfFout, naar);
+}
+
 static void Kopieer(const QString &van, const QString &naar)
 {
-    if (!QDir().mkpath(naar))
-        throw Fout(Fout::GeenToegang, naar);
+    Files::MkDir(naar);
     QDirIterator lus(van, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot, QDirIterator::Subdirectories);
     while (lus.hasNext()) {
         const QString pad = lus.next();
         const QString doel = naar + u'/' + QDir(van).relativeFilePath(pad);
-        const bool gelukt = lus.fileInfo().isDir() ? QDir().mkpath(doel) : QFile::copy(pad, doel);
-        if (!gelukt)
-            throw Fout(Fout::GeenToegang, doel);
-        if (lus.fileInfo().isFile()) // what is installed may be read-only; the copy is the user's
-            QFile::setPermissions(doel, QFile::permissions(doel) | QFile::WriteOwner);
+        if (lus.fileInfo().isDir())
+            Files::MkDir(doel);
+        else
+            KopieerBestand(pad, doel);
     }
+}
+
+/// Fills the user's folder, unless another start was first. They take turns, and the folder gets its name when it is
+/// whole: what a start that failed or was killed has left is never taken for it.
+static void VulMap(const QString &gebruiker, const QString &installatie)
+{
+    constexpr int Geduld = 35000; // milliseconds; a turn that was never given back counts as left after 30 seconds
+    const QFileInfo plaats(gebruiker);
+    QLockFile beurt(BeurtPad(gebruiker));
+    if (!QDir().mkpath(plaats.path()) || !beurt.tryLock(Geduld))
+        throw Fout(Fout::GeenToegang, gebruiker);
+    if (QDir(gebruiker).exists())
+        return;
+    const QString nieuw = gebruiker + u".nieuw~"_s;
+    QDir(nieuw).removeRecursively();
+    Kopieer(installatie, nieuw);
+    Files::Hernoem(nieuw, plaats.fileName());
+    Schijf::Huidig().SpoelMap(plaats.path());
 }
 
 QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString &gebruiker, const QString &installatie)
@@ -32,15 +66,10 @@ QString KiesAppMap(const QString &gevraagd, const QString &eigen, const QString 
     }
     if (QDir(eigen + u"/Data"_s).exists())
         return eigen;
-    if (!QDir(gebruiker).exists()) {
-        if (!QDir(installatie).exists())
-            throw Fout(Fout::BestandNietGevonden, u"de bestanden van de installatie in "_s + installatie);
-        // Under another name until it is whole: a start that fails halfway leaves nothing that is taken for the folder.
-        const QString nieuw = gebruiker + u".nieuw~"_s;
-        QDir(nieuw).removeRecursively();
-        Kopieer(installatie, nieuw);
-        if (!QDir().rename(nieuw, gebruiker))
-            throw Fout(Fout::GeenToegang, gebruiker);
-    }
+    const bool isEr = QDir(gebruiker).exists();
+    if (!isEr && !QDir(installatie).exists())
+        throw Fout(Fout::BestandNietGevonden, u"de bestanden van de installatie in "_s + installatie);
+    if (!isEr || QFile::exists(BeurtPad(gebruiker)))
+        VulMap(gebruiker, installatie);
     return gebruiker;
 }

@@ -1,7 +1,11 @@
 #include "app/AppMap.h"
+#include "support/HaperendeSchijf.h"
 #include "support/Testbank.h"
 
 #include <QDir>
+#include <QDirIterator>
+#include <QLockFile>
+#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +22,65 @@ struct Machine
     {
         for (const QString &map : {Eigen, Installatie + u"/Data"_s, Installatie + u"/Puzzels"_s, Gevraagd})
             QDir().mkpath(map);
-        QFile puzzel(Installatie + u"/Puzzels/Kennismaking.lst"_s);
-        QVERIFY(puzzel.open(QIODevice::WriteOnly));
-        puzzel.write("inhoud");
-        puzzel.close();
-        puzzel.setPermissions(QFile::ReadOwner);
+        for (const char *naam : {"/Puzzels/Kennismaking.lst", "/Data/help.pdf", "/LICENTIE"}) {
+            QFile bestand(Installatie + QLatin1String(naam));
+            QVERIFY(bestand.open(QIODevice::WriteOnly));
+            bestand.write("inhoud");
+            bestand.close();
+            bestand.setPermissions(QFile::ReadOwner);
+        }
     }
     QString Kies(const QString &gevraagd = {}) const { return KiesAppMap(gevraagd, Eigen, Gebruiker, Installatie); }
+
+    /// Whether the user's folder is whole, with nothing beside it that should not be there.
+    bool IsHeel() const
+    {
+        QStringList alle;
+        QDirIterator lus(Map.path() + u"/thuis/share"_s, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                         QDirIterator::Subdirectories);
+        while (lus.hasNext())
+            alle += QDir(Gebruiker).relativeFilePath(lus.next());
+        alle.sort();
+        for (const char *naam : {"/Puzzels/Kennismaking.lst", "/Data/help.pdf", "/LICENTIE"}) {
+            QFile bestand(Gebruiker + QLatin1String(naam));
+            if (!bestand.open(QIODevice::ReadOnly) || bestand.readAll() != "inhoud")
+                return false;
+        }
+        return alle == QStringList{u"."_s,        u"Data"_s,    u"Data/help.pdf"_s,
+                                   u"LICENTIE"_s, u"Puzzels"_s, u"Puzzels/Kennismaking.lst"_s};
+    }
+};
+
+/// A disk that starts the program a second time when the first start writes its first file, and dawdles then.
+class TweedeStart : public Schijf
+{
+public:
+    explicit TweedeStart(std::function<void()> tweede) : tweede_(std::move(tweede)) { Gebruik(this); }
+    ~TweedeStart() override { Gebruik(nullptr); }
+    Q_DISABLE_COPY_MOVE(TweedeStart)
+
+    bool Schrijf(QFile &bestand, QByteArrayView deel) override
+    {
+        if (kind_ < 0) {
+            kind_ = fork();
+            if (kind_ == 0) {
+                Gebruik(nullptr);
+                _exit(negeer(tweede_) ? 0 : 1);
+            }
+            QThread::msleep(300);
+        }
+        return Schijf::Schrijf(bestand, deel);
+    }
+    int Einde() const
+    {
+        int einde = -1;
+        waitpid(kind_, &einde, 0);
+        return einde;
+    }
+
+private:
+    std::function<void()> tweede_;
+    pid_t kind_ = -1;
 };
 
 class tst_AppMap : public QObject
@@ -56,11 +112,72 @@ private slots:
     void theUsersFolderIsFilledOnFirstUse()
     {
         Machine machine;
+        const HaperendeSchijf schijf;
         QCOMPARE(machine.Kies(), machine.Gebruiker);
         QFile puzzel(machine.Gebruiker + u"/Puzzels/Kennismaking.lst"_s);
         QVERIFY(QDir(machine.Gebruiker + u"/Data"_s).exists());
         QVERIFY(puzzel.open(QIODevice::ReadWrite)); // the copy is the user's to change
         QCOMPARE(puzzel.readAll(), QByteArray("inhoud"));
+        QVERIFY(machine.IsHeel());
+        // Each file is on the disk before the folder gets its name, and so is that name in the end.
+        for (const char *naam : {"Kennismaking.lst", "help.pdf", "LICENTIE"})
+            QVERIFY(schijf.Logboek.contains(QLatin1String("Spoel ") + QLatin1String(naam)));
+        QCOMPARE(schijf.Logboek.last(2),
+                 (QStringList{u"Verplaats rasteratelier.nieuw~ > rasteratelier"_s, u"SpoelMap share"_s}));
+    }
+
+    void aFirstStartThatIsKilledIsDoneAgain()
+    {
+        int aanroep = 1;
+        for (bool bezig = true; bezig; ++aanroep) {
+            Machine machine;
+            bezig = SterftBij(aanroep, [&] { machine.Kies(); });
+            QVERIFY(!QDir(machine.Gebruiker).exists() || QFile::exists(machine.Gebruiker + u"/LICENTIE"_s));
+            QCOMPARE(machine.Kies(), machine.Gebruiker);
+            QVERIFY2(machine.IsHeel(), qPrintable(QString::number(aanroep)));
+        }
+        QVERIFY(aanroep > 15);
+    }
+
+    void aFirstStartThatFailsIsDoneAgain()
+    {
+        int mislukt = 0, aanroep = 1;
+        for (bool bezig = true; bezig; ++aanroep) {
+            Machine machine;
+            {
+                const HaperendeSchijf schijf(aanroep);
+                mislukt += FoutVan([&] { machine.Kies(); }) != 0;
+                bezig = schijf.Logboek.size() >= aanroep;
+            }
+            QCOMPARE(machine.Kies(), machine.Gebruiker);
+            QVERIFY2(machine.IsHeel(), qPrintable(QString::number(aanroep)));
+        }
+        QVERIFY(mislukt > 15);
+    }
+
+    void twoFirstStartsAtOnceFillOneFolder()
+    {
+        Machine machine;
+        {
+            TweedeStart schijf([&] { machine.Kies(); });
+            QCOMPARE(machine.Kies(), machine.Gebruiker);
+            QCOMPARE(schijf.Einde(), 0);
+        }
+        QVERIFY(machine.IsHeel());
+    }
+
+    void whatAKilledStartLeftBesideTheFolderIsRemoved()
+    {
+        Machine machine;
+        machine.Kies();
+        QVERIFY(SterftBij(1, [&] { // all is done but the giving back of its turn
+            QLockFile beurt(machine.Gebruiker + u".slot"_s);
+            if (beurt.tryLock())
+                Schijf::Huidig().MaakMap(machine.Gebruiker);
+        }));
+        QVERIFY(!machine.IsHeel());
+        QCOMPARE(machine.Kies(), machine.Gebruiker);
+        QVERIFY(machine.IsHeel());
     }
 
     void whatTheUserHasIsNotFilledAgain()
