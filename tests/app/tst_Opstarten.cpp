@@ -1,7 +1,9 @@
 #include "app/Opstarten.h"
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "platform/Bewaren.h"
 #include "support/Bord.h"
+#include "support/HaperendeSchijf.h"
 #include "support/Onbevoegd.h"
 
 #include <QDir>
@@ -122,6 +124,73 @@ private slots:
         LaadMain();
         QCOMPARE(OrgineelRood, qint16(230));
         QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
+    void anyCallOfAStartMayFail_data()
+    {
+        QTest::addColumn<bool>("bestaat");
+        QTest::addColumn<bool>("sterft");
+        QTest::newRow("first start, a call fails") << false << false;
+        QTest::newRow("first start, it is killed") << false << true;
+        QTest::newRow("a call fails") << true << false;
+        QTest::newRow("it is killed") << true << true;
+    }
+    void anyCallOfAStartMayFail()
+    {
+        QFETCH(bool, bestaat);
+        QFETCH(bool, sterft);
+        const QByteArray eigen = Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n";
+        bool bezig = true;
+        for (int aanroep = 1; bezig; ++aanroep) {
+            Start start;
+            BeginWaarden();
+            const QByteArray standaard = Begin + "230,250,190\r\n1\r\n\"" + PaginaTekst.toLatin1() + "\"\r\n";
+            if (bestaat)
+                start.Bank.Schrijf(u"Rasteratelier.ini"_s, eigen);
+            BestandenSet rest; // of a save that was killed
+            QVERIFY(SterftBij(13, [&] {
+                for (const char *naam : {"/Puzzels/a.lst", "/Puzzels/a1.bmp", "/Puzzels/a2.bmp"})
+                    rest.Zet(start.Bank.Map() + QLatin1String(naam), {"x"});
+                rest.PlaatsAlles();
+            }));
+            if (sterft) {
+                bezig = SterftBij(aanroep, [] { negeer(LaadMain); });
+            } else {
+                const HaperendeSchijf schijf(aanroep);
+                int nummer = FoutVan([] { LaadMain(); });
+                QVERIFY(nummer == 0 || nummer == Fout::SchijfFout); // the latter when the settings cannot be read
+                bezig = schijf.Logboek.size() >= aanroep;
+            }
+            QVERIFY(start.Bank.Script.Gezien.isEmpty());
+            const QByteArray nu = start.Instellingen();
+            QVERIFY2(nu == (bestaat ? eigen : QByteArray()) || nu == standaard, nu);
+            LaadMain();
+            QCOMPARE(start.Bank.Bestanden({}), QStringList{"Rasteratelier.ini"});
+            QCOMPARE(start.Bank.Bestanden(u"Puzzels"_s), (QStringList{"a.lst", "a1.bmp", "a2.bmp"}));
+        }
+    }
+
+    void anyCallOfAnEndMayFail()
+    {
+        bool bezig = true;
+        for (int aanroep = 1; bezig; ++aanroep) {
+            Start start;
+            LaadMain();
+            const QByteArray oud = start.Instellingen();
+            KleurVakjes = 3;
+            const QByteArray nieuw = QByteArray(oud).replace("\r\n1\r\n", "\r\n3\r\n");
+            {
+                const HaperendeSchijf schijf(aanroep);
+                QVERIFY(SluitMain());
+                bezig = schijf.Logboek.size() >= aanroep;
+            }
+            Klok::ProgrammaEindigt(false);
+            const qsizetype gezegd = start.Bank.Script.Gezien.size();
+            QCOMPARE(start.Instellingen(), gezegd == 0 ? nieuw : oud);
+            QVERIFY(gezegd <= 1);
+            LaadMain();
+            QCOMPARE(start.Bank.Bestanden({}), QStringList{"Rasteratelier.ini"});
+        }
     }
 
     void anUnchangedPuzzleEndsWithoutAQuestion()
