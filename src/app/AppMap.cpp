@@ -1,6 +1,7 @@
 #include "app/AppMap.h"
 
 #include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/Schijf.h"
 
 #include <QDir>

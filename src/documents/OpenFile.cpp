@@ -8,6 +8,7 @@
 #include "platform/Berichten.h"
 #include "platform/Bewaren.h"
 #include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/Kleur.h"
 #include "platform/PictureFiles.h"
 

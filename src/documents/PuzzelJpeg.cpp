@@ -3,6 +3,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/PictureFiles.h"
 
 #include <QLockFile>

@@ -1,6 +1,7 @@
 #include "platform/Bewaren.h"
 
 #include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/Schijf.h"
 
 #include <QCryptographicHash>

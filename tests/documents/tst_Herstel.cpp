@@ -42,7 +42,8 @@ struct TweePuzzels
         VakZwart.fill(false);
         Scherm.Klik(Qt::RightButton, zwart, zwart);
         Scherm.Venster.WisRijen();
-        Scherm.Venster.VoegRijenToe({rij.split(u'|')});
+        const QStringList velden = rij.split(u'|');
+        Scherm.Venster.VoegRijenToe({{velden[0], velden[1], velden[2], velden[3]}});
         PuzzelGewijzigd = true;
     }
     void TekenNieuw() { Teken(3, 2, 1, QLatin1String(NieuweRij)); }
