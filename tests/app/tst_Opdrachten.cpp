@@ -88,12 +88,9 @@ private slots:
     {
         QTest::addColumn<QString>("item");
         QTest::addColumn<QString>("venster");
-        QTest::newRow("FileNew") << "FileNew"
-                                 << "NieuwForm";
-        QTest::newRow("FileOpen") << "FileOpen"
-                                  << "OpenFile";
-        QTest::newRow("FileSave") << "FileSave"
-                                  << "SaveForm";
+        Geval("FileNew", "FileNew", "NieuwForm");
+        Geval("FileOpen", "FileOpen", "OpenFile");
+        Geval("FileSave", "FileSave", "SaveForm");
     }
     void menuItemsOpenTheirWindow()
     {
@@ -109,17 +106,12 @@ private slots:
     {
         QTest::addColumn<QString>("item");
         QTest::addColumn<QString>("doel");
-        QTest::newRow("dictionary") << "BiebOnlineWoordenboek"
-                                    << "https://[a-z.]+/puzzelwoordenboek/";
-        QTest::newRow("software") << "HelpMeerSoftware"
-                                  << "https://[a-z.]+/software\\.htm";
-        QTest::newRow("help") << "HelpHelp"
-                              << "file://.*/app/Data/help\\.pdf";
-        QTest::newRow("word lists") << "HelpWoordlijstAanmaken"
-                                    << "file://.*/app/Data/Woordlijst Importeren\\.pdf";
-        QTest::newRow("mail")
-            << "HelpMail"
-            << "mailto:[a-z]+@[a-z.]+\\?subject=Rasteratelier V\\d+\\.\\d+\\.\\d+ &body=Hallo Tessel,";
+        Geval("dictionary", "BiebOnlineWoordenboek", "https://[a-z.]+/puzzelwoordenboek/");
+        Geval("software", "HelpMeerSoftware", "https://[a-z.]+/software\\.htm");
+        Geval("help", "HelpHelp", "file://.*/app/Data/help\\.pdf");
+        Geval("word lists", "HelpWoordlijstAanmaken", "file://.*/app/Data/Woordlijst Importeren\\.pdf");
+        Geval("mail", "HelpMail",
+              "mailto:[a-z]+@[a-z.]+\\?subject=Rasteratelier V\\d+\\.\\d+\\.\\d+ &body=Hallo Tessel,");
     }
     void documentsAndAddresses()
     {
@@ -205,8 +197,8 @@ private slots:
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("venster");
-        QTest::newRow("1") << 1 << "VakForm";
-        QTest::newRow("2") << 2 << "TekstForm";
+        Geval("1", 1, "VakForm");
+        Geval("2", 2, "TekstForm");
     }
     void thePopUpOpensItsEditor()
     {
@@ -260,9 +252,9 @@ private slots:
     {
         QTest::addColumn<QString>("manier");
         QTest::addColumn<double>("gewacht");
-        QTest::newRow("menu") << "menu" << 0.0;
-        QTest::newRow("button") << "knop" << 0.4;
-        QTest::newRow("close box") << "kruis" << 0.0;
+        Geval("menu", "menu", 0.0);
+        Geval("button", "knop", 0.4);
+        Geval("close box", "kruis", 0.0);
     }
     void theThreeWaysToEndSaveTheSettings()
     {

@@ -11,60 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-class tst_Berichten : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init()
-    {
-        // The offscreen platform itself warns of windows of a fixed size.
-        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
-        bank_.emplace();
-    }
-    void cleanup() { bank_.reset(); }
-
-    void aMessageIsCutAtItsLongest();
-    void aMessageHasTheProgramsTitle();
-    void aRealMessageHasAnOkButton();
-    void aRealQuestionHasYesAndNo_data();
-    void aRealQuestionHasYesAndNo();
-    void closingARealQuestionIsANo();
-    void aRealCriticalMessageHasItsIcon();
-    void aMessageHasTheFrameOfADialog();
-
-private:
-    std::optional<Testbank> bank_;
-};
-
-void tst_Berichten::aMessageIsCutAtItsLongest()
-{
-    MsgBox(QString(1024, u'a') + u"b"_s);
-    MsgBox(QString(1024, u'c'));
-    QCOMPARE(bank_->Script.Gezien.size(), 2);
-    QCOMPARE(bank_->Script.Gezien[0].Tekst, QString(1024, u'a'));
-    QCOMPARE(bank_->Script.Gezien[1].Tekst, QString(1024, u'c'));
-}
-
-void tst_Berichten::aMessageHasTheProgramsTitle()
-{
-    bank_->Script.Antwoorden = {Antwoord::Ja, Antwoord::Nee};
-    QVERIFY(MsgBox(u"Klaar"_s) == Antwoord::Ok);
-    QVERIFY(MsgBox(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s) == Antwoord::Ja);
-    QVERIFY(!JaNee(u"Zeker?"_s, u"Fill"_s));
-    QCOMPARE(bank_->Script.Gezien.size(), 3);
-    QCOMPARE(bank_->Script.Gezien[0].Titel, u"Rasteratelier"_s);
-    QVERIFY(bank_->Script.Gezien[0].Plaatje == Icoon::Geen);
-    QCOMPARE(bank_->Script.Gezien[1].Titel, u"Delete"_s);
-    QVERIFY(bank_->Script.Gezien[1].Soort == Knoppen::JaNee);
-    QCOMPARE(bank_->Script.Gezien[2].Tekst, u"Zeker?"_s);
-    QCOMPARE(bank_->Script.Gezien[2].Titel, u"Fill"_s);
-    QVERIFY(bank_->Script.Gezien[2].Soort == Knoppen::JaNee);
-    QVERIFY(bank_->Script.Gezien[2].Plaatje == Icoon::Geen);
-    bank_->Script.Antwoorden = {Antwoord::Ja};
-    QVERIFY(JaNee(u"Zeker?"_s, u"Fill"_s));
-}
-
 /// Shows a real message, notes how it looks and then handles it.
 struct EchtBericht
 {
@@ -102,74 +48,118 @@ struct EchtBericht
     Antwoord Gegeven;
 };
 
-void tst_Berichten::aRealMessageHasAnOkButton()
+class tst_Berichten : public QObject
 {
-    const QString tekst = u"<b>Klaar</b> & wel"_s;
-    const auto klik = [](QMessageBox &box) { EchtBericht::Klik(box, u"OK"_s); };
-    const EchtBericht bericht(tekst, Knoppen::Ok, Icoon::Geen, u"Een titel"_s, klik);
-    QCOMPARE(bericht.Tekst, tekst);
-    QCOMPARE(bericht.Vorm, Qt::PlainText);
-    QCOMPARE(bericht.Titel, u"Een titel"_s);
-    QCOMPARE(bericht.Opschriften, QStringList{u"OK"_s});
-    QCOMPARE(bericht.Plaatje, QMessageBox::NoIcon);
-    QVERIFY(bericht.Gegeven == Antwoord::Ok);
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        // The offscreen platform itself warns of windows of a fixed size.
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+        bank_.emplace();
+    }
+    void cleanup() { bank_.reset(); }
 
-    const auto escape = [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); };
-    const EchtBericht gesloten(tekst, Knoppen::Ok, Icoon::Geen, QString(), escape);
-    QCOMPARE(gesloten.Tekst, tekst);
-    QVERIFY(gesloten.Gegeven == Antwoord::Ok);
-}
+    void aMessageIsCutAtItsLongest()
+    {
+        MsgBox(QString(1024, u'a') + u"b"_s);
+        MsgBox(QString(1024, u'c'));
+        QCOMPARE(bank_->Script.Gezien.size(), 2);
+        QCOMPARE(bank_->Script.Gezien[0].Tekst, QString(1024, u'a'));
+        QCOMPARE(bank_->Script.Gezien[1].Tekst, QString(1024, u'c'));
+    }
 
-void tst_Berichten::aRealQuestionHasYesAndNo_data()
-{
-    QTest::addColumn<QString>("opschrift");
-    QTest::addColumn<int>("antwoord");
-    QTest::newRow("yes") << u"Ja"_s << int(Antwoord::Ja);
-    QTest::newRow("no") << u"Nee"_s << int(Antwoord::Nee);
-}
+    void aMessageHasTheProgramsTitle()
+    {
+        bank_->Script.Antwoorden = {Antwoord::Ja, Antwoord::Nee};
+        QVERIFY(MsgBox(u"Klaar"_s) == Antwoord::Ok);
+        QVERIFY(MsgBox(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s) == Antwoord::Ja);
+        QVERIFY(!JaNee(u"Zeker?"_s, u"Fill"_s));
+        QCOMPARE(bank_->Script.Gezien.size(), 3);
+        QCOMPARE(bank_->Script.Gezien[0].Titel, u"Rasteratelier"_s);
+        QVERIFY(bank_->Script.Gezien[0].Plaatje == Icoon::Geen);
+        QCOMPARE(bank_->Script.Gezien[1].Titel, u"Delete"_s);
+        QVERIFY(bank_->Script.Gezien[1].Soort == Knoppen::JaNee);
+        QCOMPARE(bank_->Script.Gezien[2].Tekst, u"Zeker?"_s);
+        QCOMPARE(bank_->Script.Gezien[2].Titel, u"Fill"_s);
+        QVERIFY(bank_->Script.Gezien[2].Soort == Knoppen::JaNee);
+        QVERIFY(bank_->Script.Gezien[2].Plaatje == Icoon::Geen);
+        bank_->Script.Antwoorden = {Antwoord::Ja};
+        QVERIFY(JaNee(u"Zeker?"_s, u"Fill"_s));
+    }
 
-void tst_Berichten::aRealQuestionHasYesAndNo()
-{
-    QFETCH(QString, opschrift);
-    const EchtBericht bericht(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s,
-                              [&](QMessageBox &box) { EchtBericht::Klik(box, opschrift); });
-    QCOMPARE(bericht.Opschriften, (QStringList{u"Ja"_s, u"Nee"_s}));
-    QCOMPARE(bericht.Titel, u"Delete"_s);
-    QTEST(int(bericht.Gegeven), "antwoord");
-}
+    void aRealMessageHasAnOkButton()
+    {
+        const QString tekst = u"<b>Klaar</b> & wel"_s;
+        const auto klik = [](QMessageBox &box) { EchtBericht::Klik(box, u"OK"_s); };
+        const EchtBericht bericht(tekst, Knoppen::Ok, Icoon::Geen, u"Een titel"_s, klik);
+        QCOMPARE(bericht.Tekst, tekst);
+        QCOMPARE(bericht.Vorm, Qt::PlainText);
+        QCOMPARE(bericht.Titel, u"Een titel"_s);
+        QCOMPARE(bericht.Opschriften, QStringList{u"OK"_s});
+        QCOMPARE(bericht.Plaatje, QMessageBox::NoIcon);
+        QVERIFY(bericht.Gegeven == Antwoord::Ok);
 
-void tst_Berichten::closingARealQuestionIsANo()
-{
-    const EchtBericht metEscape(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
-                                [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
-    QCOMPARE(metEscape.Opschriften.size(), 2);
-    QVERIFY(metEscape.Gegeven == Antwoord::Nee);
-    const EchtBericht metKruis(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
-                               [](QMessageBox &box) { box.close(); });
-    QCOMPARE(metKruis.Opschriften.size(), 2);
-    QVERIFY(metKruis.Gegeven == Antwoord::Nee);
-    const EchtBericht metEnter(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
-                               [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
-    QVERIFY(metEnter.Gegeven == Antwoord::Ja);
-}
+        const auto escape = [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); };
+        const EchtBericht gesloten(tekst, Knoppen::Ok, Icoon::Geen, QString(), escape);
+        QCOMPARE(gesloten.Tekst, tekst);
+        QVERIFY(gesloten.Gegeven == Antwoord::Ok);
+    }
 
-void tst_Berichten::aRealCriticalMessageHasItsIcon()
-{
-    const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Kritiek, QString(), [](QMessageBox &box) { box.close(); });
-    QCOMPARE(bericht.Plaatje, QMessageBox::Critical);
-    QVERIFY(bericht.Gegeven == Antwoord::Ok);
-}
+    void aRealQuestionHasYesAndNo_data()
+    {
+        QTest::addColumn<QString>("opschrift");
+        QTest::addColumn<int>("antwoord");
+        Geval("yes", u"Ja"_s, int(Antwoord::Ja));
+        Geval("no", u"Nee"_s, int(Antwoord::Nee));
+    }
+    void aRealQuestionHasYesAndNo()
+    {
+        QFETCH(QString, opschrift);
+        const EchtBericht bericht(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, u"Delete"_s,
+                                  [&](QMessageBox &box) { EchtBericht::Klik(box, opschrift); });
+        QCOMPARE(bericht.Opschriften, (QStringList{u"Ja"_s, u"Nee"_s}));
+        QCOMPARE(bericht.Titel, u"Delete"_s);
+        QTEST(int(bericht.Gegeven), "antwoord");
+    }
 
-void tst_Berichten::aMessageHasTheFrameOfADialog()
-{
-    Qt::WindowFlags vlaggen;
-    const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Geen, QString(), [&](QMessageBox &box) {
-        vlaggen = box.windowFlags();
-        box.close();
-    });
-    QVERIFY(vlaggen & Qt::WindowCloseButtonHint);
-    QVERIFY(!(vlaggen & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
-}
+    void closingARealQuestionIsANo()
+    {
+        const EchtBericht metEscape(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
+                                    [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Escape); });
+        QCOMPARE(metEscape.Opschriften.size(), 2);
+        QVERIFY(metEscape.Gegeven == Antwoord::Nee);
+        const EchtBericht metKruis(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
+                                   [](QMessageBox &box) { box.close(); });
+        QCOMPARE(metKruis.Opschriften.size(), 2);
+        QVERIFY(metKruis.Gegeven == Antwoord::Nee);
+        const EchtBericht metEnter(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
+                                   [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
+        QVERIFY(metEnter.Gegeven == Antwoord::Ja);
+    }
+
+    void aRealCriticalMessageHasItsIcon()
+    {
+        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Kritiek, QString(),
+                                  [](QMessageBox &box) { box.close(); });
+        QCOMPARE(bericht.Plaatje, QMessageBox::Critical);
+        QVERIFY(bericht.Gegeven == Antwoord::Ok);
+    }
+
+    void aMessageHasTheFrameOfADialog()
+    {
+        Qt::WindowFlags vlaggen;
+        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Geen, QString(), [&](QMessageBox &box) {
+            vlaggen = box.windowFlags();
+            box.close();
+        });
+        QVERIFY(vlaggen & Qt::WindowCloseButtonHint);
+        QVERIFY(!(vlaggen & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
+    }
+
+private:
+    std::optional<Testbank> bank_;
+};
 
 RASTER_TEST(tst_Berichten)
 #include "tst_Berichten.moc"

@@ -6,228 +6,203 @@
 
 using namespace Qt::StringLiterals;
 
-class TestGetallen : public QObject
+class tst_Getallen : public QObject
 {
     Q_OBJECT
-
 private slots:
-    void theValueIsThatOfTheLeadingNumber_data();
-    void theValueIsThatOfTheLeadingNumber();
-    void theStrictConversionsTakeWholeNumbers_data();
-    void theStrictConversionsTakeWholeNumbers();
-    void whatIsNoNumberIsATypeFailure_data();
-    void whatIsNoNumberIsATypeFailure();
-    void everyTypeHasItsLimits_data();
-    void everyTypeHasItsLimits();
-    void aFailureTellsTheText();
-    void aValueOutsideSixteenBitsOverflows();
-    void halvesGoToTheEvenNeighbour_data();
-    void halvesGoToTheEvenNeighbour();
-    void aNumberKeepsABlankForItsSign_data();
-    void aNumberKeepsABlankForItsSign();
+    void theValueIsThatOfTheLeadingNumber_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        QTest::addColumn<double>("waarde");
+        const auto rij = [](const char *tekst, double waarde) { Geval(tekst, tekst, waarde); };
+        rij("", 0);
+        rij(" ", 0);
+        rij("abc", 0);
+        rij("a12", 0);
+        rij("12", 12);
+        rij("12abc", 12);
+        rij("07", 7);
+        rij("1.5", 1.5);
+        rij("1.5.5", 1.5);
+        rij("1,5", 1);
+        rij(".25", 0.25);
+        rij("3.", 3);
+        rij(".", 0);
+        rij("-", 0);
+        rij("+", 0);
+        rij("-3", -3);
+        rij("+3", 3);
+        rij(" - 3", -3);
+        rij("  4 2 x", 42);
+        rij("\t8", 8);
+        rij("--3", 0);
+        rij("3-1", 3);
+        rij("0x10", 0);
+        rij("nan", 0);
+        rij("inf", 0);
+        rij("2147483648", 2147483648.0);
+    }
+    void theValueIsThatOfTheLeadingNumber()
+    {
+        QFETCH(QString, tekst);
+        QFETCH(double, waarde);
+        QCOMPARE(Getallen::Val(tekst), waarde);
+    }
+
+    void theStrictConversionsTakeWholeNumbers_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        QTest::addColumn<int>("getal");
+        const auto rij = [](const char *tekst, int getal) { Geval(tekst, tekst, getal); };
+        rij("0", 0);
+        rij("12", 12);
+        rij("007", 7);
+        rij("+9", 9);
+        rij(" 12", 12);
+        rij("12 ", 12);
+        rij("\t12 \t", 12);
+        rij("1e2", 100);
+        rij("0.5", 0);
+        rij("0.51", 1);
+        rij("1.5", 2);
+        rij("2.5", 2);
+        rij("3.5", 4);
+        rij("-0.5", 0);
+    }
+    void theStrictConversionsTakeWholeNumbers()
+    {
+        QFETCH(QString, tekst);
+        QFETCH(int, getal);
+        QCOMPARE(int{Getallen::NaarByte(tekst)}, getal);
+        QCOMPARE(int{Getallen::NaarInt16(tekst)}, getal);
+        QCOMPARE(int{Getallen::NaarInt32(tekst)}, getal);
+    }
+
+    void whatIsNoNumberIsATypeFailure_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        for (const char *tekst :
+             {"",     " ",   "abc", "12abc", "12,5",  "1,234", "nan", "NAN", "inf", "-inf", "infinity",
+              "0x10", "1 2", "- 3", "--3",   "1.5.5", ".",     "-",   "e5",  "1e",  "'7'"})
+            Geval(tekst, tekst);
+    }
+    void whatIsNoNumberIsATypeFailure()
+    {
+        QFETCH(QString, tekst);
+        QCOMPARE(FoutVan([&] { Getallen::NaarByte(tekst); }), int{Fout::TypeOnjuist});
+        QCOMPARE(FoutVan([&] { Getallen::NaarInt16(tekst); }), int{Fout::TypeOnjuist});
+        QCOMPARE(FoutVan([&] { Getallen::NaarInt32(tekst); }), int{Fout::TypeOnjuist});
+    }
+
+    void everyTypeHasItsLimits_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        QTest::addColumn<bool>("isByte");
+        QTest::addColumn<bool>("isInt16");
+        QTest::addColumn<bool>("isInt32");
+        const auto rij = [](const char *tekst, bool isByte, bool isInt16, bool isInt32) {
+            Geval(tekst, tekst, isByte, isInt16, isInt32);
+        };
+        rij("255", true, true, true);
+        rij("255.4", true, true, true);
+        rij("255.5", false, true, true);
+        rij("256", false, true, true);
+        rij("-1", false, true, true);
+        rij("-0.6", false, true, true);
+        rij("32767", false, true, true);
+        rij("32768", false, false, true);
+        rij("-32768", false, true, true);
+        rij("-32769", false, false, true);
+        rij("2147483647", false, false, true);
+        rij("2147483648", false, false, false);
+        rij("-2147483648", false, false, true);
+        rij("-2147483649", false, false, false);
+        rij("1e400", false, false, false);
+        rij("-1e400", false, false, false);
+    }
+    void everyTypeHasItsLimits()
+    {
+        QFETCH(QString, tekst);
+        QFETCH(bool, isByte);
+        QFETCH(bool, isInt16);
+        QFETCH(bool, isInt32);
+        QCOMPARE(FoutVan([&] { Getallen::NaarByte(tekst); }), isByte ? 0 : int{Fout::Overloop});
+        QCOMPARE(FoutVan([&] { Getallen::NaarInt16(tekst); }), isInt16 ? 0 : int{Fout::Overloop});
+        QCOMPARE(FoutVan([&] { Getallen::NaarInt32(tekst); }), isInt32 ? 0 : int{Fout::Overloop});
+        const auto rond = static_cast<qint64>(std::nearbyint(tekst.toDouble()));
+        if (isByte)
+            QCOMPARE(qint64{Getallen::NaarByte(tekst)}, rond);
+        if (isInt16)
+            QCOMPARE(qint64{Getallen::NaarInt16(tekst)}, rond);
+        if (isInt32)
+            QCOMPARE(qint64{Getallen::NaarInt32(tekst)}, rond);
+    }
+
+    void aFailureTellsTheText()
+    {
+        const auto tekstVan = [](const QString &tekst) {
+            try {
+                Getallen::NaarByte(tekst);
+            } catch (const Fout &fout) {
+                return fout.tekst();
+            }
+            return QString();
+        };
+        QVERIFY(tekstVan(u"drie"_s).endsWith("(drie)"_L1));
+        QVERIFY(tekstVan(u"300"_s).endsWith("(300)"_L1));
+        QVERIFY(tekstVan(QString(1000, u'x')).size() < 150);
+    }
+
+    void aValueOutsideSixteenBitsOverflows()
+    {
+        QCOMPARE(Getallen::AlsInt16(0), qint16{0});
+        QCOMPARE(Getallen::AlsInt16(32767), qint16{32767});
+        QCOMPARE(Getallen::AlsInt16(-32768), qint16{-32768});
+        for (const qint64 waarde : {qint64{32768}, qint64{-32769}, qint64{65536}, std::numeric_limits<qint64>::max(),
+                                    std::numeric_limits<qint64>::min()})
+            QCOMPARE(FoutVan([&] { Getallen::AlsInt16(waarde); }), int{Fout::Overloop});
+    }
+
+    void halvesGoToTheEvenNeighbour_data()
+    {
+        QTest::addColumn<double>("waarde");
+        QTest::addColumn<qint64>("rond");
+        const auto rij = [](double waarde, qint64 rond) { Geval(QByteArray::number(waarde), waarde, rond); };
+        rij(0.5, 0);
+        rij(1.5, 2);
+        rij(2.5, 2);
+        rij(3.5, 4);
+        rij(-0.5, 0);
+        rij(-1.5, -2);
+        rij(-2.5, -2);
+        rij(2.4999, 2);
+        rij(2.5001, 3);
+        rij(7, 7);
+        rij(3e9, 3000000000);
+    }
+    void halvesGoToTheEvenNeighbour()
+    {
+        QFETCH(double, waarde);
+        QTEST(Getallen::RondEven(waarde), "rond");
+    }
+
+    void aNumberKeepsABlankForItsSign_data()
+    {
+        QTest::addColumn<qint64>("waarde");
+        QTest::addColumn<QString>("tekst");
+        Geval("0", qint64{0}, u" 0"_s);
+        Geval("5", qint64{5}, u" 5"_s);
+        Geval("-5", qint64{-5}, u"-5"_s);
+        Geval("1000000", qint64{1000000}, u" 1000000"_s);
+        Geval("largest", std::numeric_limits<qint64>::max(), u" 9223372036854775807"_s);
+        Geval("smallest", std::numeric_limits<qint64>::min(), u"-9223372036854775808"_s);
+    }
+    void aNumberKeepsABlankForItsSign()
+    {
+        QFETCH(qint64, waarde);
+        QTEST(Getallen::MetTeken(waarde), "tekst");
+    }
 };
 
-void TestGetallen::theValueIsThatOfTheLeadingNumber_data()
-{
-    QTest::addColumn<QString>("tekst");
-    QTest::addColumn<double>("waarde");
-    const auto rij = [](const char *tekst, double waarde) {
-        QTest::addRow("'%s'", tekst) << QString::fromLatin1(tekst) << waarde;
-    };
-    rij("", 0);
-    rij(" ", 0);
-    rij("abc", 0);
-    rij("a12", 0);
-    rij("12", 12);
-    rij("12abc", 12);
-    rij("07", 7);
-    rij("1.5", 1.5);
-    rij("1.5.5", 1.5);
-    rij("1,5", 1);
-    rij(".25", 0.25);
-    rij("3.", 3);
-    rij(".", 0);
-    rij("-", 0);
-    rij("+", 0);
-    rij("-3", -3);
-    rij("+3", 3);
-    rij(" - 3", -3);
-    rij("  4 2 x", 42);
-    rij("\t8", 8);
-    rij("--3", 0);
-    rij("3-1", 3);
-    rij("0x10", 0);
-    rij("nan", 0);
-    rij("inf", 0);
-    rij("2147483648", 2147483648.0);
-}
-
-void TestGetallen::theValueIsThatOfTheLeadingNumber()
-{
-    QFETCH(QString, tekst);
-    QFETCH(double, waarde);
-    QCOMPARE(Getallen::Val(tekst), waarde);
-}
-
-void TestGetallen::theStrictConversionsTakeWholeNumbers_data()
-{
-    QTest::addColumn<QString>("tekst");
-    QTest::addColumn<int>("getal");
-    const auto rij = [](const char *tekst, int getal) {
-        QTest::addRow("'%s'", tekst) << QString::fromLatin1(tekst) << getal;
-    };
-    rij("0", 0);
-    rij("12", 12);
-    rij("007", 7);
-    rij("+9", 9);
-    rij(" 12", 12);
-    rij("12 ", 12);
-    rij("\t12 \t", 12);
-    rij("1e2", 100);
-    rij("0.5", 0);
-    rij("0.51", 1);
-    rij("1.5", 2);
-    rij("2.5", 2);
-    rij("3.5", 4);
-    rij("-0.5", 0);
-}
-
-void TestGetallen::theStrictConversionsTakeWholeNumbers()
-{
-    QFETCH(QString, tekst);
-    QFETCH(int, getal);
-    QCOMPARE(int{Getallen::NaarByte(tekst)}, getal);
-    QCOMPARE(int{Getallen::NaarInt16(tekst)}, getal);
-    QCOMPARE(int{Getallen::NaarInt32(tekst)}, getal);
-}
-
-void TestGetallen::whatIsNoNumberIsATypeFailure_data()
-{
-    QTest::addColumn<QString>("tekst");
-    for (const char *tekst : {"",     " ",   "abc", "12abc", "12,5",  "1,234", "nan", "NAN", "inf", "-inf", "infinity",
-                              "0x10", "1 2", "- 3", "--3",   "1.5.5", ".",     "-",   "e5",  "1e",  "'7'"})
-        QTest::addRow("'%s'", tekst) << QString::fromLatin1(tekst);
-}
-
-void TestGetallen::whatIsNoNumberIsATypeFailure()
-{
-    QFETCH(QString, tekst);
-    QCOMPARE(FoutVan([&] { Getallen::NaarByte(tekst); }), int{Fout::TypeOnjuist});
-    QCOMPARE(FoutVan([&] { Getallen::NaarInt16(tekst); }), int{Fout::TypeOnjuist});
-    QCOMPARE(FoutVan([&] { Getallen::NaarInt32(tekst); }), int{Fout::TypeOnjuist});
-}
-
-void TestGetallen::everyTypeHasItsLimits_data()
-{
-    QTest::addColumn<QString>("tekst");
-    QTest::addColumn<bool>("isByte");
-    QTest::addColumn<bool>("isInt16");
-    QTest::addColumn<bool>("isInt32");
-    const auto rij = [](const char *tekst, bool isByte, bool isInt16, bool isInt32) {
-        QTest::addRow("'%s'", tekst) << QString::fromLatin1(tekst) << isByte << isInt16 << isInt32;
-    };
-    rij("255", true, true, true);
-    rij("255.4", true, true, true);
-    rij("255.5", false, true, true);
-    rij("256", false, true, true);
-    rij("-1", false, true, true);
-    rij("-0.6", false, true, true);
-    rij("32767", false, true, true);
-    rij("32768", false, false, true);
-    rij("-32768", false, true, true);
-    rij("-32769", false, false, true);
-    rij("2147483647", false, false, true);
-    rij("2147483648", false, false, false);
-    rij("-2147483648", false, false, true);
-    rij("-2147483649", false, false, false);
-    rij("1e400", false, false, false);
-    rij("-1e400", false, false, false);
-}
-
-void TestGetallen::everyTypeHasItsLimits()
-{
-    QFETCH(QString, tekst);
-    QFETCH(bool, isByte);
-    QFETCH(bool, isInt16);
-    QFETCH(bool, isInt32);
-    QCOMPARE(FoutVan([&] { Getallen::NaarByte(tekst); }), isByte ? 0 : int{Fout::Overloop});
-    QCOMPARE(FoutVan([&] { Getallen::NaarInt16(tekst); }), isInt16 ? 0 : int{Fout::Overloop});
-    QCOMPARE(FoutVan([&] { Getallen::NaarInt32(tekst); }), isInt32 ? 0 : int{Fout::Overloop});
-    const auto rond = static_cast<qint64>(std::nearbyint(tekst.toDouble()));
-    if (isByte)
-        QCOMPARE(qint64{Getallen::NaarByte(tekst)}, rond);
-    if (isInt16)
-        QCOMPARE(qint64{Getallen::NaarInt16(tekst)}, rond);
-    if (isInt32)
-        QCOMPARE(qint64{Getallen::NaarInt32(tekst)}, rond);
-}
-
-void TestGetallen::aFailureTellsTheText()
-{
-    const auto tekstVan = [](const QString &tekst) {
-        try {
-            Getallen::NaarByte(tekst);
-        } catch (const Fout &fout) {
-            return fout.tekst();
-        }
-        return QString();
-    };
-    QVERIFY(tekstVan(u"drie"_s).endsWith("(drie)"_L1));
-    QVERIFY(tekstVan(u"300"_s).endsWith("(300)"_L1));
-    QVERIFY(tekstVan(QString(1000, u'x')).size() < 150);
-}
-
-void TestGetallen::aValueOutsideSixteenBitsOverflows()
-{
-    QCOMPARE(Getallen::AlsInt16(0), qint16{0});
-    QCOMPARE(Getallen::AlsInt16(32767), qint16{32767});
-    QCOMPARE(Getallen::AlsInt16(-32768), qint16{-32768});
-    for (const qint64 waarde : {qint64{32768}, qint64{-32769}, qint64{65536}, std::numeric_limits<qint64>::max(),
-                                std::numeric_limits<qint64>::min()})
-        QCOMPARE(FoutVan([&] { Getallen::AlsInt16(waarde); }), int{Fout::Overloop});
-}
-
-void TestGetallen::halvesGoToTheEvenNeighbour_data()
-{
-    QTest::addColumn<double>("waarde");
-    QTest::addColumn<qint64>("rond");
-    const auto rij = [](double waarde, qint64 rond) { QTest::addRow("%g", waarde) << waarde << rond; };
-    rij(0.5, 0);
-    rij(1.5, 2);
-    rij(2.5, 2);
-    rij(3.5, 4);
-    rij(-0.5, 0);
-    rij(-1.5, -2);
-    rij(-2.5, -2);
-    rij(2.4999, 2);
-    rij(2.5001, 3);
-    rij(7, 7);
-    rij(3e9, 3000000000);
-}
-
-void TestGetallen::halvesGoToTheEvenNeighbour()
-{
-    QFETCH(double, waarde);
-    QTEST(Getallen::RondEven(waarde), "rond");
-}
-
-void TestGetallen::aNumberKeepsABlankForItsSign_data()
-{
-    QTest::addColumn<qint64>("waarde");
-    QTest::addColumn<QString>("tekst");
-    QTest::newRow("0") << qint64{0} << u" 0"_s;
-    QTest::newRow("5") << qint64{5} << u" 5"_s;
-    QTest::newRow("-5") << qint64{-5} << u"-5"_s;
-    QTest::newRow("1000000") << qint64{1000000} << u" 1000000"_s;
-    QTest::newRow("largest") << std::numeric_limits<qint64>::max() << u" 9223372036854775807"_s;
-    QTest::newRow("smallest") << std::numeric_limits<qint64>::min() << u"-9223372036854775808"_s;
-}
-
-void TestGetallen::aNumberKeepsABlankForItsSign()
-{
-    QFETCH(qint64, waarde);
-    QTEST(Getallen::MetTeken(waarde), "tekst");
-}
-
-RASTER_TEST(TestGetallen)
+RASTER_TEST(tst_Getallen)
 #include "tst_Getallen.moc"

@@ -25,59 +25,6 @@ public:
     ImageButton *Ok, *Stop;
 };
 
-class TestImageButton : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void init();
-    void cleanup();
-
-    void aKeyPressesTheButtonOnce_data();
-    void aKeyPressesTheButtonOnce();
-    void aKeyHeldDownPressesTheButtonOnce_data();
-    void aKeyHeldDownPressesTheButtonOnce();
-    void anotherKeyDoesNotPressTheButton();
-    void aClickPressesTheButton();
-    void aDoubleClickIsOneClick();
-    void twoSlowClicksAreTwo();
-    void aDisabledButtonCannotBePressed();
-    void theTabKeyReachesEveryButton();
-    void theFocusIsShown();
-    void theButtonIsAsLargeAsItsPicture();
-    void theButtonShowsItsPicture();
-    void aDisabledButtonIsPaler();
-
-    void theEffectMovesTheButtonAndBack();
-    void theEffectWaitsAFifthOfASecond();
-    void theEffectEndsWithTheForm();
-    void theEffectEndsWhenThePersonClosesTheForm();
-    void aFormThatWasUnloadedBeforeDoesNotEndTheEffect();
-    void aButtonOutsideAFormHasTheEffectToo();
-    void theEndOfTheProgramEndsTheEffect();
-
-private:
-    std::optional<Testbank> bank_;
-    std::optional<KnopVenster> venster_;
-    int kliks_ = 0;
-};
-
-void TestImageButton::init()
-{
-    // The offscreen platform itself warns of windows of a fixed size.
-    QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
-    bank_.emplace();
-    venster_.emplace();
-    kliks_ = 0;
-    connect(venster_->Ok, &ImageButton::clicked, this, [this] { ++kliks_; });
-}
-
-void TestImageButton::cleanup()
-{
-    venster_.reset();
-    bank_.reset();
-}
-
 static void Toets(QWidget &widget, QEvent::Type soort, Qt::Key toets, bool herhaald = false)
 {
     QKeyEvent event(soort, toets, Qt::NoModifier, QString(), herhaald);
@@ -93,179 +40,6 @@ static void Muis(QWidget &widget, QEvent::Type soort)
     QCoreApplication::sendEvent(&widget, &event);
 }
 
-// --- pressing ---
-
-void TestImageButton::aKeyPressesTheButtonOnce_data()
-{
-    QTest::addColumn<Qt::Key>("toets");
-    QTest::newRow("Space") << Qt::Key_Space;
-    QTest::newRow("Return") << Qt::Key_Return;
-    QTest::newRow("Enter") << Qt::Key_Enter;
-}
-
-void TestImageButton::aKeyPressesTheButtonOnce()
-{
-    QFETCH(Qt::Key, toets);
-    Toets(*venster_->Ok, QEvent::KeyPress, toets);
-    Toets(*venster_->Ok, QEvent::KeyRelease, toets);
-    QCOMPARE(kliks_, 1);
-    Toets(*venster_->Ok, QEvent::KeyPress, toets);
-    Toets(*venster_->Ok, QEvent::KeyRelease, toets);
-    QCOMPARE(kliks_, 2);
-}
-
-void TestImageButton::aKeyHeldDownPressesTheButtonOnce_data()
-{
-    aKeyPressesTheButtonOnce_data();
-}
-
-void TestImageButton::aKeyHeldDownPressesTheButtonOnce()
-{
-    QFETCH(Qt::Key, toets);
-    Toets(*venster_->Ok, QEvent::KeyPress, toets);
-    for (int i = 0; i < 5; ++i) {
-        Toets(*venster_->Ok, QEvent::KeyRelease, toets, true);
-        Toets(*venster_->Ok, QEvent::KeyPress, toets, true);
-    }
-    Toets(*venster_->Ok, QEvent::KeyRelease, toets);
-    QCOMPARE(kliks_, 1);
-}
-
-void TestImageButton::anotherKeyDoesNotPressTheButton()
-{
-    for (const Qt::Key toets : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_F1}) {
-        Toets(*venster_->Ok, QEvent::KeyPress, toets);
-        Toets(*venster_->Ok, QEvent::KeyRelease, toets);
-    }
-    QCOMPARE(kliks_, 0);
-}
-
-void TestImageButton::aClickPressesTheButton()
-{
-    Muis(*venster_->Ok, QEvent::MouseButtonPress);
-    QCOMPARE(kliks_, 0);
-    Muis(*venster_->Ok, QEvent::MouseButtonRelease);
-    QCOMPARE(kliks_, 1);
-}
-
-void TestImageButton::aDoubleClickIsOneClick()
-{
-    Muis(*venster_->Ok, QEvent::MouseButtonPress);
-    Muis(*venster_->Ok, QEvent::MouseButtonRelease);
-    Muis(*venster_->Ok, QEvent::MouseButtonDblClick);
-    Muis(*venster_->Ok, QEvent::MouseButtonRelease);
-    QCOMPARE(kliks_, 1);
-}
-
-void TestImageButton::twoSlowClicksAreTwo()
-{
-    for (int i = 0; i < 2; ++i) {
-        Muis(*venster_->Ok, QEvent::MouseButtonPress);
-        Muis(*venster_->Ok, QEvent::MouseButtonRelease);
-    }
-    QCOMPARE(kliks_, 2);
-}
-
-void TestImageButton::aDisabledButtonCannotBePressed()
-{
-    venster_->Ok->setEnabled(false);
-    Muis(*venster_->Ok, QEvent::MouseButtonPress);
-    Muis(*venster_->Ok, QEvent::MouseButtonRelease);
-    for (const Qt::Key toets : {Qt::Key_Space, Qt::Key_Return}) {
-        Toets(*venster_->Ok, QEvent::KeyPress, toets);
-        Toets(*venster_->Ok, QEvent::KeyRelease, toets);
-    }
-    QCOMPARE(kliks_, 0);
-}
-
-void TestImageButton::theTabKeyReachesEveryButton()
-{
-    venster_->show();
-    venster_->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&*venster_));
-    venster_->Ok->setFocus();
-    QVERIFY(venster_->Ok->hasFocus());
-    QTest::keyClick(venster_->Ok, Qt::Key_Tab);
-    QVERIFY(venster_->Stop->hasFocus());
-    QTest::keyClick(venster_->Stop, Qt::Key_Tab);
-    QVERIFY(venster_->Ok->hasFocus());
-    QTest::mouseClick(venster_->Stop, Qt::LeftButton);
-    QVERIFY(venster_->Stop->hasFocus());
-}
-
-// --- looks ---
-
-void TestImageButton::theFocusIsShown()
-{
-    venster_->show();
-    venster_->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&*venster_));
-    venster_->Stop->setFocus();
-    const QImage zonder = venster_->Ok->grab().toImage();
-    QTest::keyClick(venster_->Stop, Qt::Key_Tab);
-    QVERIFY(venster_->Ok->grab().toImage() != zonder);
-    QTest::keyClick(venster_->Ok, Qt::Key_Tab);
-    QCOMPARE(venster_->Ok->grab().toImage(), zonder);
-}
-
-void TestImageButton::theButtonIsAsLargeAsItsPicture()
-{
-    QCOMPARE(venster_->Ok->size(), Plaatjes::Maat(u"knop-ok"_s));
-    QVERIFY(!venster_->Ok->size().isEmpty());
-    QCOMPARE(venster_->Ok->pos(), QPoint(20, 30));
-}
-
-void TestImageButton::theButtonShowsItsPicture()
-{
-    for (const QSize maat : {venster_->Ok->size(), QSize(100, 60)}) {
-        venster_->Ok->resize(maat);
-        const QImage beeld = venster_->Ok->grab().toImage();
-        const QImage verwacht = Plaatjes::Beeld(u"knop-ok"_s, maat);
-        QVERIFY(HeeftInkt(beeld, beeld.rect()));
-        QCOMPARE(beeld.size(), maat);
-        // Transparent parts are rounded differently on their way to the screen.
-        for (int y = 0; y < maat.height(); ++y)
-            for (int x = 0; x < maat.width(); ++x)
-                QVERIFY(std::abs(qGray(beeld.pixel(x, y)) - qGray(verwacht.pixel(x, y))) <= 3);
-    }
-}
-
-void TestImageButton::aDisabledButtonIsPaler()
-{
-    const QImage gewoon = venster_->Ok->grab().toImage();
-    venster_->Ok->setEnabled(false);
-    const QImage bleek = venster_->Ok->grab().toImage();
-    QVERIFY(HeeftInkt(bleek, bleek.rect()));
-    int donkerste = 255, donkersteBleek = 255;
-    for (int y = 0; y < gewoon.height(); ++y)
-        for (int x = 0; x < gewoon.width(); ++x) {
-            QVERIFY(qGray(bleek.pixel(x, y)) >= qGray(gewoon.pixel(x, y)));
-            donkerste = std::min(donkerste, qGray(gewoon.pixel(x, y)));
-            donkersteBleek = std::min(donkersteBleek, qGray(bleek.pixel(x, y)));
-        }
-    QVERIFY(donkersteBleek > donkerste + 50);
-}
-
-// --- the press effect ---
-
-void TestImageButton::theEffectMovesTheButtonAndBack()
-{
-    QPoint tijdens;
-    QMetaObject::invokeMethod(
-        this, [&] { tijdens = venster_->Ok->pos(); }, Qt::QueuedConnection);
-    venster_->Ok->Druk();
-    QCOMPARE(tijdens, QPoint(22, 32));
-    QCOMPARE(venster_->Ok->pos(), QPoint(20, 30));
-}
-
-void TestImageButton::theEffectWaitsAFifthOfASecond()
-{
-    venster_->Ok->Druk();
-    QCOMPARE(bank_->TestKlok.Gewacht(), 0.2);
-    venster_->Ok->Druk();
-    QCOMPARE(bank_->TestKlok.Gewacht(), 0.4);
-}
-
 static bool IsAfgebroken(ImageButton &knop)
 {
     try {
@@ -276,48 +50,242 @@ static bool IsAfgebroken(ImageButton &knop)
     return false;
 }
 
-void TestImageButton::theEffectEndsWithTheForm()
+class tst_ImageButton : public QObject
 {
-    venster_->show();
-    QMetaObject::invokeMethod(
-        this, [&] { venster_->Unload(); }, Qt::QueuedConnection);
-    QVERIFY(IsAfgebroken(*venster_->Ok));
-}
+    Q_OBJECT
+private slots:
+    void init()
+    {
+        // The offscreen platform itself warns of windows of a fixed size.
+        QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
+        bank_.emplace();
+        venster_.emplace();
+        kliks_ = 0;
+        connect(venster_->Ok, &ImageButton::clicked, this, [this] { ++kliks_; });
+    }
 
-void TestImageButton::theEffectEndsWhenThePersonClosesTheForm()
-{
-    venster_->show();
-    QMetaObject::invokeMethod(
-        this, [&] { venster_->close(); }, Qt::QueuedConnection);
-    QVERIFY(IsAfgebroken(*venster_->Ok));
-}
+    void cleanup()
+    {
+        venster_.reset();
+        bank_.reset();
+    }
 
-void TestImageButton::aFormThatWasUnloadedBeforeDoesNotEndTheEffect()
-{
-    venster_->show();
-    venster_->Unload();
-    QVERIFY(!IsAfgebroken(*venster_->Ok));
-    QCOMPARE(bank_->TestKlok.Gewacht(), 0.2);
-}
+    // --- pressing ---
 
-void TestImageButton::aButtonOutsideAFormHasTheEffectToo()
-{
-    QWidget ouder;
-    ImageButton knop(u"knop-ok"_s, &ouder);
-    knop.move(5, 5);
-    QMetaObject::invokeMethod(
-        &ouder, [&] { ouder.close(); }, Qt::QueuedConnection);
-    QVERIFY(!IsAfgebroken(knop));
-    QCOMPARE(knop.pos(), QPoint(5, 5));
-    QCOMPARE(bank_->TestKlok.Gewacht(), 0.2);
-}
+    void aKeyPressesTheButtonOnce_data()
+    {
+        QTest::addColumn<Qt::Key>("toets");
+        Geval("Space", Qt::Key_Space);
+        Geval("Return", Qt::Key_Return);
+        Geval("Enter", Qt::Key_Enter);
+    }
+    void aKeyPressesTheButtonOnce()
+    {
+        QFETCH(Qt::Key, toets);
+        Toets(*venster_->Ok, QEvent::KeyPress, toets);
+        Toets(*venster_->Ok, QEvent::KeyRelease, toets);
+        QCOMPARE(kliks_, 1);
+        Toets(*venster_->Ok, QEvent::KeyPress, toets);
+        Toets(*venster_->Ok, QEvent::KeyRelease, toets);
+        QCOMPARE(kliks_, 2);
+    }
 
-void TestImageButton::theEndOfTheProgramEndsTheEffect()
-{
-    QMetaObject::invokeMethod(
-        this, [] { Klok::ProgrammaEindigt(); }, Qt::QueuedConnection);
-    QVERIFY(IsAfgebroken(*venster_->Ok));
-}
+    void aKeyHeldDownPressesTheButtonOnce_data() { aKeyPressesTheButtonOnce_data(); }
+    void aKeyHeldDownPressesTheButtonOnce()
+    {
+        QFETCH(Qt::Key, toets);
+        Toets(*venster_->Ok, QEvent::KeyPress, toets);
+        for (int i = 0; i < 5; ++i) {
+            Toets(*venster_->Ok, QEvent::KeyRelease, toets, true);
+            Toets(*venster_->Ok, QEvent::KeyPress, toets, true);
+        }
+        Toets(*venster_->Ok, QEvent::KeyRelease, toets);
+        QCOMPARE(kliks_, 1);
+    }
 
-RASTER_TEST(TestImageButton)
+    void anotherKeyDoesNotPressTheButton()
+    {
+        for (const Qt::Key toets : {Qt::Key_A, Qt::Key_Tab, Qt::Key_Escape, Qt::Key_F1}) {
+            Toets(*venster_->Ok, QEvent::KeyPress, toets);
+            Toets(*venster_->Ok, QEvent::KeyRelease, toets);
+        }
+        QCOMPARE(kliks_, 0);
+    }
+
+    void aClickPressesTheButton()
+    {
+        Muis(*venster_->Ok, QEvent::MouseButtonPress);
+        QCOMPARE(kliks_, 0);
+        Muis(*venster_->Ok, QEvent::MouseButtonRelease);
+        QCOMPARE(kliks_, 1);
+    }
+
+    void aDoubleClickIsOneClick()
+    {
+        Muis(*venster_->Ok, QEvent::MouseButtonPress);
+        Muis(*venster_->Ok, QEvent::MouseButtonRelease);
+        Muis(*venster_->Ok, QEvent::MouseButtonDblClick);
+        Muis(*venster_->Ok, QEvent::MouseButtonRelease);
+        QCOMPARE(kliks_, 1);
+    }
+
+    void twoSlowClicksAreTwo()
+    {
+        for (int i = 0; i < 2; ++i) {
+            Muis(*venster_->Ok, QEvent::MouseButtonPress);
+            Muis(*venster_->Ok, QEvent::MouseButtonRelease);
+        }
+        QCOMPARE(kliks_, 2);
+    }
+
+    void aDisabledButtonCannotBePressed()
+    {
+        venster_->Ok->setEnabled(false);
+        Muis(*venster_->Ok, QEvent::MouseButtonPress);
+        Muis(*venster_->Ok, QEvent::MouseButtonRelease);
+        for (const Qt::Key toets : {Qt::Key_Space, Qt::Key_Return}) {
+            Toets(*venster_->Ok, QEvent::KeyPress, toets);
+            Toets(*venster_->Ok, QEvent::KeyRelease, toets);
+        }
+        QCOMPARE(kliks_, 0);
+    }
+
+    void theTabKeyReachesEveryButton()
+    {
+        venster_->show();
+        venster_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*venster_));
+        venster_->Ok->setFocus();
+        QVERIFY(venster_->Ok->hasFocus());
+        QTest::keyClick(venster_->Ok, Qt::Key_Tab);
+        QVERIFY(venster_->Stop->hasFocus());
+        QTest::keyClick(venster_->Stop, Qt::Key_Tab);
+        QVERIFY(venster_->Ok->hasFocus());
+        QTest::mouseClick(venster_->Stop, Qt::LeftButton);
+        QVERIFY(venster_->Stop->hasFocus());
+    }
+
+    // --- looks ---
+
+    void theFocusIsShown()
+    {
+        venster_->show();
+        venster_->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&*venster_));
+        venster_->Stop->setFocus();
+        const QImage zonder = venster_->Ok->grab().toImage();
+        QTest::keyClick(venster_->Stop, Qt::Key_Tab);
+        QVERIFY(venster_->Ok->grab().toImage() != zonder);
+        QTest::keyClick(venster_->Ok, Qt::Key_Tab);
+        QCOMPARE(venster_->Ok->grab().toImage(), zonder);
+    }
+
+    void theButtonIsAsLargeAsItsPicture()
+    {
+        QCOMPARE(venster_->Ok->size(), Plaatjes::Maat(u"knop-ok"_s));
+        QVERIFY(!venster_->Ok->size().isEmpty());
+        QCOMPARE(venster_->Ok->pos(), QPoint(20, 30));
+    }
+
+    void theButtonShowsItsPicture()
+    {
+        for (const QSize maat : {venster_->Ok->size(), QSize(100, 60)}) {
+            venster_->Ok->resize(maat);
+            const QImage beeld = venster_->Ok->grab().toImage();
+            const QImage verwacht = Plaatjes::Beeld(u"knop-ok"_s, maat);
+            QVERIFY(HeeftInkt(beeld, beeld.rect()));
+            QCOMPARE(beeld.size(), maat);
+            // Transparent parts are rounded differently on their way to the screen.
+            for (int y = 0; y < maat.height(); ++y)
+                for (int x = 0; x < maat.width(); ++x)
+                    QVERIFY(std::abs(qGray(beeld.pixel(x, y)) - qGray(verwacht.pixel(x, y))) <= 3);
+        }
+    }
+
+    void aDisabledButtonIsPaler()
+    {
+        const QImage gewoon = venster_->Ok->grab().toImage();
+        venster_->Ok->setEnabled(false);
+        const QImage bleek = venster_->Ok->grab().toImage();
+        QVERIFY(HeeftInkt(bleek, bleek.rect()));
+        int donkerste = 255, donkersteBleek = 255;
+        for (int y = 0; y < gewoon.height(); ++y)
+            for (int x = 0; x < gewoon.width(); ++x) {
+                QVERIFY(qGray(bleek.pixel(x, y)) >= qGray(gewoon.pixel(x, y)));
+                donkerste = std::min(donkerste, qGray(gewoon.pixel(x, y)));
+                donkersteBleek = std::min(donkersteBleek, qGray(bleek.pixel(x, y)));
+            }
+        QVERIFY(donkersteBleek > donkerste + 50);
+    }
+
+    // --- the press effect ---
+
+    void theEffectMovesTheButtonAndBack()
+    {
+        QPoint tijdens;
+        QMetaObject::invokeMethod(
+            this, [&] { tijdens = venster_->Ok->pos(); }, Qt::QueuedConnection);
+        venster_->Ok->Druk();
+        QCOMPARE(tijdens, QPoint(22, 32));
+        QCOMPARE(venster_->Ok->pos(), QPoint(20, 30));
+    }
+
+    void theEffectWaitsAFifthOfASecond()
+    {
+        venster_->Ok->Druk();
+        QCOMPARE(bank_->TestKlok.Gewacht(), 0.2);
+        venster_->Ok->Druk();
+        QCOMPARE(bank_->TestKlok.Gewacht(), 0.4);
+    }
+
+    void theEffectEndsWithTheForm()
+    {
+        venster_->show();
+        QMetaObject::invokeMethod(
+            this, [&] { venster_->Unload(); }, Qt::QueuedConnection);
+        QVERIFY(IsAfgebroken(*venster_->Ok));
+    }
+
+    void theEffectEndsWhenThePersonClosesTheForm()
+    {
+        venster_->show();
+        QMetaObject::invokeMethod(
+            this, [&] { venster_->close(); }, Qt::QueuedConnection);
+        QVERIFY(IsAfgebroken(*venster_->Ok));
+    }
+
+    void aFormThatWasUnloadedBeforeDoesNotEndTheEffect()
+    {
+        venster_->show();
+        venster_->Unload();
+        QVERIFY(!IsAfgebroken(*venster_->Ok));
+        QCOMPARE(bank_->TestKlok.Gewacht(), 0.2);
+    }
+
+    void aButtonOutsideAFormHasTheEffectToo()
+    {
+        QWidget ouder;
+        ImageButton knop(u"knop-ok"_s, &ouder);
+        knop.move(5, 5);
+        QMetaObject::invokeMethod(
+            &ouder, [&] { ouder.close(); }, Qt::QueuedConnection);
+        QVERIFY(!IsAfgebroken(knop));
+        QCOMPARE(knop.pos(), QPoint(5, 5));
+        QCOMPARE(bank_->TestKlok.Gewacht(), 0.2);
+    }
+
+    void theEndOfTheProgramEndsTheEffect()
+    {
+        QMetaObject::invokeMethod(
+            this, [] { Klok::ProgrammaEindigt(); }, Qt::QueuedConnection);
+        QVERIFY(IsAfgebroken(*venster_->Ok));
+    }
+
+private:
+    std::optional<Testbank> bank_;
+    std::optional<KnopVenster> venster_;
+    int kliks_ = 0;
+};
+
+RASTER_TEST(tst_ImageButton)
 #include "tst_ImageButton.moc"

@@ -34,37 +34,6 @@ private:
     std::vector<double> tijden_;
 };
 
-class TestKlok : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void cleanup();
-
-    void theTimerCountsTheSecondsSinceMidnight();
-    void nowIsTheDateAndTimeOfToday();
-    void theClockInUseCanBeReplaced();
-    void aDirectWaitRunsPendingEventsAndMovesTheClockOn();
-    void aDirectWaitMovesOnlyTheTimer();
-    void aWaitOfNothingDoesNotSleep();
-    void aWaitSleepsOnlyWhatIsLeft();
-    void aRestThatIsOnlyRoundingEndsTheWait();
-    void aSmallRestIsSleptToo();
-    void aWaitAcrossMidnightSleepsOn();
-    void midnightEndsAWaitThatHoldsInputBack();
-    void theKindOfEventsIsHandedOn_data();
-    void theKindOfEventsIsHandedOn();
-    void theEndOfTheProgramEndsEveryWait();
-    void theEndOfTheProgramDuringAWaitEndsIt();
-    void aRealWaitHandlesEventsMeanwhile();
-};
-
-void TestKlok::cleanup()
-{
-    Klok::Gebruik(nullptr);
-    Klok::ProgrammaEindigt(false);
-}
-
 static bool IsAfgebroken(Klok &klok)
 {
     try {
@@ -75,161 +44,171 @@ static bool IsAfgebroken(Klok &klok)
     return false;
 }
 
-void TestKlok::theTimerCountsTheSecondsSinceMidnight()
+class tst_Klok : public QObject
 {
-    Klok klok;
-    // Midnight may fall between two readings; then they are read again.
-    for (int poging = 0; poging < 2; ++poging) {
-        const int voor = QTime::currentTime().msecsSinceStartOfDay();
-        const double timer = klok.Timer();
-        const int na = QTime::currentTime().msecsSinceStartOfDay();
-        if (na < voor)
-            continue;
-        QVERIFY(timer >= voor / 1000.0);
-        QVERIFY(timer <= na / 1000.0);
-        return;
+    Q_OBJECT
+private slots:
+    void cleanup()
+    {
+        Klok::Gebruik(nullptr);
+        Klok::ProgrammaEindigt(false);
     }
-    QFAIL("no two readings within one day");
-}
 
-void TestKlok::nowIsTheDateAndTimeOfToday()
-{
-    Klok klok;
-    const QDateTime voor = QDateTime::currentDateTime();
-    const QDateTime nu = klok.Nu();
-    QVERIFY(nu >= voor);
-    QVERIFY(nu <= QDateTime::currentDateTime());
-}
+    void theTimerCountsTheSecondsSinceMidnight()
+    {
+        Klok klok;
+        // Midnight may fall between two readings; then they are read again.
+        for (int poging = 0; poging < 2; ++poging) {
+            const int voor = QTime::currentTime().msecsSinceStartOfDay();
+            const double timer = klok.Timer();
+            const int na = QTime::currentTime().msecsSinceStartOfDay();
+            if (na < voor)
+                continue;
+            QVERIFY(timer >= voor / 1000.0);
+            QVERIFY(timer <= na / 1000.0);
+            return;
+        }
+        QFAIL("no two readings within one day");
+    }
 
-void TestKlok::theClockInUseCanBeReplaced()
-{
-    Klok &echte = Klok::Huidig();
-    DirecteKlok andere;
-    Klok::Gebruik(&andere);
-    QCOMPARE(&Klok::Huidig(), &andere);
-    Klok::Gebruik(nullptr);
-    QCOMPARE(&Klok::Huidig(), &echte);
-}
+    void nowIsTheDateAndTimeOfToday()
+    {
+        Klok klok;
+        const QDateTime voor = QDateTime::currentDateTime();
+        const QDateTime nu = klok.Nu();
+        QVERIFY(nu >= voor);
+        QVERIFY(nu <= QDateTime::currentDateTime());
+    }
 
-void TestKlok::aDirectWaitRunsPendingEventsAndMovesTheClockOn()
-{
-    DirecteKlok klok;
-    int gedaan = 0;
-    QMetaObject::invokeMethod(
-        this, [&] { ++gedaan; }, Qt::QueuedConnection);
-    klok.ZetTimer(100);
-    klok.Wacht(0.25);
-    QCOMPARE(gedaan, 1);
-    QCOMPARE(klok.Timer(), 100.25);
-    klok.Wacht(0.5);
-    QCOMPARE(klok.Timer(), 100.75);
-    QCOMPARE(klok.Gewacht(), 0.75);
-}
+    void theClockInUseCanBeReplaced()
+    {
+        Klok &echte = Klok::Huidig();
+        DirecteKlok andere;
+        Klok::Gebruik(&andere);
+        QCOMPARE(&Klok::Huidig(), &andere);
+        Klok::Gebruik(nullptr);
+        QCOMPARE(&Klok::Huidig(), &echte);
+    }
 
-void TestKlok::aDirectWaitMovesOnlyTheTimer()
-{
-    DirecteKlok klok;
-    const QDateTime nu(QDate(2024, 2, 29), QTime(23, 59, 59));
-    klok.ZetNu(nu);
-    klok.Wacht(2);
-    QCOMPARE(klok.Nu(), nu);
-    klok.ZetTimer(5);
-    QCOMPARE(klok.Timer(), 5.0);
-    QCOMPARE(klok.Gewacht(), 2.0);
-}
+    void aDirectWaitRunsPendingEventsAndMovesTheClockOn()
+    {
+        DirecteKlok klok;
+        int gedaan = 0;
+        QMetaObject::invokeMethod(
+            this, [&] { ++gedaan; }, Qt::QueuedConnection);
+        klok.ZetTimer(100);
+        klok.Wacht(0.25);
+        QCOMPARE(gedaan, 1);
+        QCOMPARE(klok.Timer(), 100.25);
+        klok.Wacht(0.5);
+        QCOMPARE(klok.Timer(), 100.75);
+        QCOMPARE(klok.Gewacht(), 0.75);
+    }
 
-void TestKlok::aWaitOfNothingDoesNotSleep()
-{
-    LijstKlok klok(100, {});
-    klok.Wacht(0);
-    klok.Wacht(-1);
-    QVERIFY(klok.Gevraagd.empty());
-}
+    void aDirectWaitMovesOnlyTheTimer()
+    {
+        DirecteKlok klok;
+        const QDateTime nu(QDate(2024, 2, 29), QTime(23, 59, 59));
+        klok.ZetNu(nu);
+        klok.Wacht(2);
+        QCOMPARE(klok.Nu(), nu);
+        klok.ZetTimer(5);
+        QCOMPARE(klok.Timer(), 5.0);
+        QCOMPARE(klok.Gewacht(), 2.0);
+    }
 
-void TestKlok::aWaitSleepsOnlyWhatIsLeft()
-{
-    LijstKlok klok(100, {100.5, 101.5, 102});
-    klok.Wacht(2);
-    QCOMPARE(klok.Gevraagd, (std::vector{2.0, 1.5, 0.5}));
-}
+    void aWaitOfNothingDoesNotSleep()
+    {
+        LijstKlok klok(100, {});
+        klok.Wacht(0);
+        klok.Wacht(-1);
+        QVERIFY(klok.Gevraagd.empty());
+    }
 
-void TestKlok::aRestThatIsOnlyRoundingEndsTheWait()
-{
-    LijstKlok klok(100, {100.9999999});
-    klok.Wacht(1);
-    QCOMPARE(klok.Gevraagd, std::vector{1.0});
-}
+    void aWaitSleepsOnlyWhatIsLeft()
+    {
+        LijstKlok klok(100, {100.5, 101.5, 102});
+        klok.Wacht(2);
+        QCOMPARE(klok.Gevraagd, (std::vector{2.0, 1.5, 0.5}));
+    }
 
-void TestKlok::aSmallRestIsSleptToo()
-{
-    LijstKlok klok(100, {100.999, 101});
-    klok.Wacht(1);
-    QCOMPARE(klok.Gevraagd.size(), std::size_t{2});
-    QVERIFY(klok.Gevraagd[1] > 0.0009);
-    QVERIFY(klok.Gevraagd[1] < 0.0011);
-}
+    void aRestThatIsOnlyRoundingEndsTheWait()
+    {
+        LijstKlok klok(100, {100.9999999});
+        klok.Wacht(1);
+        QCOMPARE(klok.Gevraagd, std::vector{1.0});
+    }
 
-void TestKlok::aWaitAcrossMidnightSleepsOn()
-{
-    constexpr int Slaapjes = 50;
-    std::vector<double> tijden;
-    for (int i = 0; i < Slaapjes; ++i)
-        tijden.push_back(i * 0.2);
-    LijstKlok klok(86399.9, tijden);
-    QVERIFY_EXCEPTION_THROWN(klok.Wacht(0.2), Genoeg);
-    QCOMPARE(klok.Gevraagd.size(), std::size_t{Slaapjes + 1});
-    for (const double seconden : klok.Gevraagd)
-        QCOMPARE(seconden, 0.2);
-}
+    void aSmallRestIsSleptToo()
+    {
+        LijstKlok klok(100, {100.999, 101});
+        klok.Wacht(1);
+        QCOMPARE(klok.Gevraagd.size(), std::size_t{2});
+        QVERIFY(klok.Gevraagd[1] > 0.0009);
+        QVERIFY(klok.Gevraagd[1] < 0.0011);
+    }
 
-void TestKlok::midnightEndsAWaitThatHoldsInputBack()
-{
-    LijstKlok klok(86399.9, {0.05});
-    klok.Wacht(0.2, QEventLoop::ExcludeUserInputEvents);
-    QCOMPARE(klok.Gevraagd.size(), std::size_t{1});
-}
+    void aWaitAcrossMidnightSleepsOn()
+    {
+        constexpr int Slaapjes = 50;
+        std::vector<double> tijden;
+        for (int i = 0; i < Slaapjes; ++i)
+            tijden.push_back(i * 0.2);
+        LijstKlok klok(86399.9, tijden);
+        QVERIFY_EXCEPTION_THROWN(klok.Wacht(0.2), Genoeg);
+        QCOMPARE(klok.Gevraagd.size(), std::size_t{Slaapjes + 1});
+        for (const double seconden : klok.Gevraagd)
+            QCOMPARE(seconden, 0.2);
+    }
 
-void TestKlok::theKindOfEventsIsHandedOn_data()
-{
-    QTest::addColumn<int>("welke");
-    QTest::newRow("all") << int(QEventLoop::AllEvents);
-    QTest::newRow("no clicks and keys") << int(QEventLoop::ExcludeUserInputEvents);
-}
+    void midnightEndsAWaitThatHoldsInputBack()
+    {
+        LijstKlok klok(86399.9, {0.05});
+        klok.Wacht(0.2, QEventLoop::ExcludeUserInputEvents);
+        QCOMPARE(klok.Gevraagd.size(), std::size_t{1});
+    }
 
-void TestKlok::theKindOfEventsIsHandedOn()
-{
-    QFETCH(int, welke);
-    LijstKlok klok(0, {1});
-    klok.Wacht(1, QEventLoop::ProcessEventsFlags(welke));
-    QCOMPARE(int(klok.Welke), welke);
-}
+    void theKindOfEventsIsHandedOn_data()
+    {
+        QTest::addColumn<int>("welke");
+        Geval("all", int(QEventLoop::AllEvents));
+        Geval("no clicks and keys", int(QEventLoop::ExcludeUserInputEvents));
+    }
+    void theKindOfEventsIsHandedOn()
+    {
+        QFETCH(int, welke);
+        LijstKlok klok(0, {1});
+        klok.Wacht(1, QEventLoop::ProcessEventsFlags(welke));
+        QCOMPARE(int(klok.Welke), welke);
+    }
 
-void TestKlok::theEndOfTheProgramEndsEveryWait()
-{
-    DirecteKlok klok;
-    Klok::ProgrammaEindigt();
-    QVERIFY(IsAfgebroken(klok));
-    QVERIFY(IsAfgebroken(klok));
-    Klok::ProgrammaEindigt(false);
-    QVERIFY(!IsAfgebroken(klok));
-}
+    void theEndOfTheProgramEndsEveryWait()
+    {
+        DirecteKlok klok;
+        Klok::ProgrammaEindigt();
+        QVERIFY(IsAfgebroken(klok));
+        QVERIFY(IsAfgebroken(klok));
+        Klok::ProgrammaEindigt(false);
+        QVERIFY(!IsAfgebroken(klok));
+    }
 
-void TestKlok::theEndOfTheProgramDuringAWaitEndsIt()
-{
-    DirecteKlok klok;
-    QMetaObject::invokeMethod(
-        this, [] { Klok::ProgrammaEindigt(); }, Qt::QueuedConnection);
-    QVERIFY(IsAfgebroken(klok));
-}
+    void theEndOfTheProgramDuringAWaitEndsIt()
+    {
+        DirecteKlok klok;
+        QMetaObject::invokeMethod(
+            this, [] { Klok::ProgrammaEindigt(); }, Qt::QueuedConnection);
+        QVERIFY(IsAfgebroken(klok));
+    }
 
-void TestKlok::aRealWaitHandlesEventsMeanwhile()
-{
-    Klok klok;
-    bool gedaan = false;
-    QTimer::singleShot(1, this, [&] { gedaan = true; });
-    klok.Wacht(0.05);
-    QVERIFY(gedaan);
-}
+    void aRealWaitHandlesEventsMeanwhile()
+    {
+        Klok klok;
+        bool gedaan = false;
+        QTimer::singleShot(1, this, [&] { gedaan = true; });
+        klok.Wacht(0.05);
+        QVERIFY(gedaan);
+    }
+};
 
-RASTER_TEST(TestKlok)
+RASTER_TEST(tst_Klok)
 #include "tst_Klok.moc"

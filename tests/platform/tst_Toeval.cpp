@@ -6,23 +6,6 @@
 #include <cmath>
 #include <vector>
 
-class TestToeval : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void cleanup() { Toeval::ZonderZaad(); }
-
-    void everyNumberLiesFromZeroUpToOne();
-    void theNumbersGoInStepsOfTwoToTheMinusTwentyFour();
-    void theSameSeedGivesTheSameSeries();
-    void anotherSeedGivesAnotherSeries();
-    void randomizeLeavesASeededSeriesAlone();
-    void randomizeStartsANewSeriesWhenThereIsNoSeed();
-    void withoutTheSeedTheSeriesCannotBeForetold();
-    void theLettersComeAboutEquallyOften();
-};
-
 static std::vector<double> Reeks(int aantal)
 {
     std::vector<double> reeks;
@@ -31,96 +14,103 @@ static std::vector<double> Reeks(int aantal)
     return reeks;
 }
 
-void TestToeval::everyNumberLiesFromZeroUpToOne()
+class tst_Toeval : public QObject
 {
-    double kleinste = 1, grootste = 0;
-    for (const double getal : Reeks(20000)) {
-        QVERIFY(getal >= 0);
-        QVERIFY(getal < 1);
-        kleinste = std::min(kleinste, getal);
-        grootste = std::max(grootste, getal);
+    Q_OBJECT
+private slots:
+    void cleanup() { Toeval::ZonderZaad(); }
+
+    void everyNumberLiesFromZeroUpToOne()
+    {
+        double kleinste = 1, grootste = 0;
+        for (const double getal : Reeks(20000)) {
+            QVERIFY(getal >= 0);
+            QVERIFY(getal < 1);
+            kleinste = std::min(kleinste, getal);
+            grootste = std::max(grootste, getal);
+        }
+        QVERIFY(kleinste < 0.01);
+        QVERIFY(grootste > 0.99);
     }
-    QVERIFY(kleinste < 0.01);
-    QVERIFY(grootste > 0.99);
-}
 
-void TestToeval::theNumbersGoInStepsOfTwoToTheMinusTwentyFour()
-{
-    bool fijn = false;
-    for (const double getal : Reeks(1000)) {
-        const double stappen = getal * (1 << 24);
-        QCOMPARE(stappen, std::floor(stappen));
-        fijn = fijn || std::fmod(stappen, 2) == 1;
+    void theNumbersGoInStepsOfTwoToTheMinusTwentyFour()
+    {
+        bool fijn = false;
+        for (const double getal : Reeks(1000)) {
+            const double stappen = getal * (1 << 24);
+            QCOMPARE(stappen, std::floor(stappen));
+            fijn = fijn || std::fmod(stappen, 2) == 1;
+        }
+        QVERIFY(fijn);
     }
-    QVERIFY(fijn);
-}
 
-void TestToeval::theSameSeedGivesTheSameSeries()
-{
-    Toeval::Zaad(42);
-    const auto eerste = Reeks(100);
-    Toeval::Zaad(42);
-    QVERIFY(Reeks(100) == eerste);
-}
-
-void TestToeval::anotherSeedGivesAnotherSeries()
-{
-    Toeval::Zaad(1);
-    const auto eerste = Reeks(10);
-    Toeval::Zaad(2);
-    QVERIFY(Reeks(10) != eerste);
-}
-
-void TestToeval::randomizeLeavesASeededSeriesAlone()
-{
-    Toeval::Zaad(7);
-    const auto eerste = Reeks(20);
-    Toeval::Zaad(7);
-    auto tweede = Reeks(10);
-    Toeval::Randomize();
-    for (const double getal : Reeks(10))
-        tweede.push_back(getal);
-    QVERIFY(tweede == eerste);
-}
-
-void TestToeval::randomizeStartsANewSeriesWhenThereIsNoSeed()
-{
-    Toeval::Randomize();
-    const auto eerste = Reeks(10);
-    Toeval::Randomize();
-    QVERIFY(Reeks(10) != eerste);
-}
-
-void TestToeval::withoutTheSeedTheSeriesCannotBeForetold()
-{
-    Toeval::Zaad(7);
-    const auto metZaad = Reeks(20);
-    Toeval::Zaad(7);
-    Reeks(10);
-    Toeval::ZonderZaad();
-    const auto zonder = Reeks(10);
-    QVERIFY(!std::equal(zonder.begin(), zonder.end(), metZaad.begin()));
-    QVERIFY(!std::equal(zonder.begin(), zonder.end(), metZaad.begin() + 10));
-
-    Toeval::Zaad(7);
-    Toeval::ZonderZaad();
-    const auto eerste = Reeks(10);
-    Toeval::Randomize();
-    QVERIFY(Reeks(10) != eerste);
-}
-
-void TestToeval::theLettersComeAboutEquallyOften()
-{
-    constexpr int PerLetter = 2000;
-    for (const std::uint32_t zaad : {1u, 2026u, 0xFFFFFFFFu}) {
-        Toeval::Zaad(zaad);
-        std::array<int, 26> aantallen{};
-        for (int i = 0; i < 26 * PerLetter; ++i)
-            ++aantallen.at(static_cast<std::size_t>(Toeval::Rnd() * 26));
-        for (const int aantal : aantallen)
-            QVERIFY2(std::abs(aantal - PerLetter) < PerLetter / 8, qPrintable(QString::number(aantal)));
+    void theSameSeedGivesTheSameSeries()
+    {
+        Toeval::Zaad(42);
+        const auto eerste = Reeks(100);
+        Toeval::Zaad(42);
+        QVERIFY(Reeks(100) == eerste);
     }
-}
 
-RASTER_TEST(TestToeval)
+    void anotherSeedGivesAnotherSeries()
+    {
+        Toeval::Zaad(1);
+        const auto eerste = Reeks(10);
+        Toeval::Zaad(2);
+        QVERIFY(Reeks(10) != eerste);
+    }
+
+    void randomizeLeavesASeededSeriesAlone()
+    {
+        Toeval::Zaad(7);
+        const auto eerste = Reeks(20);
+        Toeval::Zaad(7);
+        auto tweede = Reeks(10);
+        Toeval::Randomize();
+        for (const double getal : Reeks(10))
+            tweede.push_back(getal);
+        QVERIFY(tweede == eerste);
+    }
+
+    void randomizeStartsANewSeriesWhenThereIsNoSeed()
+    {
+        Toeval::Randomize();
+        const auto eerste = Reeks(10);
+        Toeval::Randomize();
+        QVERIFY(Reeks(10) != eerste);
+    }
+
+    void withoutTheSeedTheSeriesCannotBeForetold()
+    {
+        Toeval::Zaad(7);
+        const auto metZaad = Reeks(20);
+        Toeval::Zaad(7);
+        Reeks(10);
+        Toeval::ZonderZaad();
+        const auto zonder = Reeks(10);
+        QVERIFY(!std::equal(zonder.begin(), zonder.end(), metZaad.begin()));
+        QVERIFY(!std::equal(zonder.begin(), zonder.end(), metZaad.begin() + 10));
+
+        Toeval::Zaad(7);
+        Toeval::ZonderZaad();
+        const auto eerste = Reeks(10);
+        Toeval::Randomize();
+        QVERIFY(Reeks(10) != eerste);
+    }
+
+    void theLettersComeAboutEquallyOften()
+    {
+        constexpr int PerLetter = 2000;
+        for (const std::uint32_t zaad : {1u, 2026u, 0xFFFFFFFFu}) {
+            Toeval::Zaad(zaad);
+            std::array<int, 26> aantallen{};
+            for (int i = 0; i < 26 * PerLetter; ++i)
+                ++aantallen.at(static_cast<std::size_t>(Toeval::Rnd() * 26));
+            for (const int aantal : aantallen)
+                QVERIFY2(std::abs(aantal - PerLetter) < PerLetter / 8, qPrintable(QString::number(aantal)));
+        }
+    }
+};
+
+RASTER_TEST(tst_Toeval)
 #include "tst_Toeval.moc"

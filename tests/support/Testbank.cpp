@@ -94,6 +94,11 @@ bool HeeftInkt(const QImage &beeld, QRect vlak, QRgb achtergrond)
     return !InktVlak(beeld, vlak, achtergrond).isEmpty();
 }
 
+QImage Getoond(QWidget &widget)
+{
+    return widget.grab().toImage().convertToFormat(QImage::Format_RGB32);
+}
+
 int TestMain(int argc, char *argv[], int (*voer)(int, char **))
 {
     QApplication app(argc, argv);

@@ -52,10 +52,19 @@ private:
     QTemporaryDir map_;
 };
 
+/// A row of a test's table: its name, and a value for each column.
+template <class... Waarden> void Geval(const QByteArray &naam, const Waarden &...waarden)
+{
+    (void)(QTest::newRow(naam.constData()) << ... << waarden);
+}
+
 /// Whether something other than the colour stands in a rectangle of the picture, in pixels.
 bool HeeftInkt(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255, 255));
 /// The smallest rectangle round all pixels within `vlak` that are not of the colour; empty when there are none.
 QRect InktVlak(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255, 255));
+
+/// What is seen of a widget and what lies over it.
+QImage Getoond(QWidget &widget);
 
 /// The names of all that is below a window.
 QString NamenIn(const QObject &venster);

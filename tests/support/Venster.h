@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <QWidget>
+
+/// Where a control belongs, in twips; 0 is not looked at.
+struct Plek
+{
+    const char *Naam;
+    int Links = 0, Boven = 0, Breedte = 0, Hoogte = 0;
+};
+
+/// Compares a window, or a frame on it, with the table of all its controls.
+/// @return what is wrong, a line each: a control that is elsewhere, of another size, on another frame or outside its
+/// frame, and one that is not in the table; empty when all is well
+QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel);
+
+/// Shows a window and walks round it with the Tab key.
+/// @return the names of the controls that take the focus, in their order, from the one that has it when the window
+/// opens
+QString TabVolgorde(QWidget &venster);

@@ -1,0 +1,91 @@
+#include "platform/Form.h"
+#include "support/Testbank.h"
+#include "support/Venster.h"
+
+#include <QFrame>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
+using namespace Qt::StringLiterals;
+
+/// Two boxes, and a frame with one.
+class TestVenster : public Form
+{
+public:
+    TestVenster() : Form(u"TestVenster"_s, u"Een titel"_s, 4590, 3450, qRgb(10, 200, 30))
+    {
+        Frame1 = Maak<QFrame>("Frame1", QString());
+        for (const char *naam : {"Text1", "Text2"})
+            Zet(Maak<QLineEdit>(naam, QString()), 150, naam[4] == '1' ? 300 : 900, 600, 450);
+        Text3 = Maak<QLineEdit>("Text3", QString(), Frame1);
+        Zet(Frame1, 1500, 300, 1500, 900);
+        Zet(Text3, 150, 300, 600, 450);
+    }
+    QFrame *Frame1;
+    QLineEdit *Text3;
+};
+
+class tst_Venster : public QObject
+{
+    Q_OBJECT
+private slots:
+    void aWindowIsComparedWithItsTable_data()
+    {
+        QTest::addColumn<QList<Plek>>("tabel");
+        QTest::addColumn<QString>("verwacht");
+        const auto rij = [](const char *naam, const Plek &text1, const Plek &text2, const QString &verwacht) {
+            Geval(naam, QList<Plek>{{"Frame1", 1500, 300, 1500, 900}, text1, text2}, verwacht);
+        };
+        const Plek goed{"Text1", 150, 300, 600, 450}, vrij{"Text2"};
+        rij("all well", goed, {"Text2", 150, 900, 600, 450}, QString());
+        rij("not looked at", {"Text1"}, vrij, QString());
+        rij("left", {"Text1", 165, 300}, vrij, u"Text1 staat op 10, 20 (pixels)"_s);
+        rij("top", {"Text1", 150, 285}, vrij, u"Text1 staat op 10, 20 (pixels)"_s);
+        rij("width", {"Text1", 0, 0, 615}, vrij, u"Text1 is 40 bij 30 (pixels)"_s);
+        rij("height", {"Text1", 0, 0, 0, 435}, vrij, u"Text1 is 40 bij 30 (pixels)"_s);
+        rij("two", {"Text1", 15}, {"Text2", 15}, u"Text1 staat op 10, 20 (pixels)\nText2 staat op 10, 60 (pixels)"_s);
+        rij("not in the table", goed, goed, u"Text2 staat niet in de tabel"_s);
+        rij("on a frame", {"Text3"}, vrij, u"Text3 staat op Frame1\nText1 staat niet in de tabel"_s);
+    }
+    void aWindowIsComparedWithItsTable()
+    {
+        QFETCH(QList<Plek>, tabel);
+        QFETCH(QString, verwacht);
+        const TestVenster venster;
+        QCOMPARE(Misplaatst(venster, tabel), verwacht);
+    }
+
+    void aFrameIsComparedWithItsTable()
+    {
+        TestVenster venster;
+        QCOMPARE(Misplaatst(*venster.Frame1, {{"Text3", 150, 300, 600, 450}}), QString());
+        venster.Text3->resize(91, 30);
+        QCOMPARE(Misplaatst(*venster.Frame1, {{"Text3"}}), u"Text3 steekt uit"_s);
+        venster.Text3->hide();
+        QCOMPARE(Misplaatst(*venster.Frame1, {{"Text3"}}), QString());
+    }
+
+    void theTabKeyWalksRoundAWindow()
+    {
+        TestVenster venster;
+        QCOMPARE(TabVolgorde(venster), u"Text1 Text2 Text3"_s);
+    }
+
+    void theWalkBeginsWhereTheWindowOpens()
+    {
+        TestVenster venster;
+        venster.Text3->setFocus();
+        QCOMPARE(TabVolgorde(venster), u"Text3 Text1 Text2"_s);
+    }
+
+    void aControlThatKeepsTheTabKeyIsSeen()
+    {
+        TestVenster venster;
+        QPlainTextEdit tekst(&venster);
+        tekst.setObjectName(u"Val"_s);
+        QCOMPARE(TabVolgorde(venster), u"Text1 Text2 Text3 Val en terug naar Val"_s);
+    }
+};
+
+RASTER_TEST(tst_Venster)
+#include "tst_Venster.moc"
