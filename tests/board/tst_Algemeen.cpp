@@ -50,16 +50,12 @@ private slots:
     {
         QTest::addColumn<QString>("tekst");
         QTest::addColumn<QString>("verwacht");
-        QTest::newRow("mixed") << "aMSTERDAM"
-                               << "Amsterdam";
-        QTest::newRow("two words") << "vakantie PUZZEL"
-                                   << "Vakantie puzzel";
-        QTest::newRow("blank first") << " Abc"
-                                     << " abc";
-        QTest::newRow("empty") << ""
-                               << "";
-        QTest::newRow("keeps its length") << u"ßTEST"_s << u"ßtest"_s;
-        QTest::newRow("accent") << u"ÉÉN"_s << u"Één"_s;
+        Geval("mixed", "aMSTERDAM", "Amsterdam");
+        Geval("two words", "vakantie PUZZEL", "Vakantie puzzel");
+        Geval("blank first", " Abc", " abc");
+        Geval("empty", "", "");
+        Geval("keeps its length", u"ßTEST"_s, u"ßtest"_s);
+        Geval("accent", u"ÉÉN"_s, u"Één"_s);
     }
     void firstLetterCapital()
     {

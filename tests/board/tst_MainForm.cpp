@@ -1,6 +1,7 @@
 #include "board/MainForm.h"
 #include "board/Soorten.h"
 #include "support/Bord.h"
+#include "support/Venster.h"
 
 #include <QHeaderView>
 #include <QMenuBar>
@@ -12,83 +13,58 @@ class tst_MainForm : public QObject
 {
     Q_OBJECT
 private slots:
-    void everyControlIsAtItsPlace_data()
-    {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QString>("ouder"); // empty: the window itself
-        QTest::addColumn<int>("boven");     // twips
-        QTest::addColumn<int>("links");
-        QTest::addColumn<int>("breedte"); // 0: not fixed
-        QTest::addColumn<int>("hoogte");
-        const auto rij = [](const char *naam, const char *ouder, int boven, int links, int breedte = 0,
-                            int hoogte = 0) {
-            QTest::newRow(naam) << naam << ouder << boven << links << breedte << hoogte;
-        };
-        rij("Frame8", "", 90, 180, 7410, 540); // the board's load gives it the width of the plate
-        rij("Label12", "Frame8", 180, 90);
-        rij("Label1", "", 780, 180, 7410, 8760);
-        rij("Pic", "", 870, 270, 7215, 8565);
-        rij("PicR", "", 780, 7605, 450, 8760);
-        rij("PicO", "", 9555, 180, 7410, 300);
-        rij("Label2", "", 3000, 2565);
-        rij("Frame1", "", 9855, 180, 7815, 540);
-        rij("Label6", "Frame1", 180, 120);
-        rij("KlokLabel", "Frame1", 180, 7020);
-        rij("Frame9", "", 5400, 180, 4275, 4410);
-        rij("ListView1", "", 195, 8160, 5145, 5145);
-        rij("Frame7", "", 5400, 8160, 5175, 750);
-        rij("DelKnop", "Frame7", 240, 120);
-        rij("Label10", "Frame7", 315, 1170);
-        rij("Label11", "Frame7", 315, 4350);
-        rij("List1", "", 6285, 8160, 2910, 4110);
-        rij("Frame10", "", 6195, 11230, 2100, 600);
-        rij("Label18", "Frame10", 180, 60, 1965, 345);
-        rij("CopyLabel", "Frame10", 240, 135);
-        rij("Frame2", "", 6840, 11230, 2100, 3570);
-        rij("Label3", "Frame2", 210, 120);
-        rij("Label16", "Frame2", 780, 150);
-        rij("Label15", "Frame2", 1050, 135, 1800, 330);
-        rij("ScrolLengte", "Frame2", 1080, 165, 1740, 270);
-        rij("OkKnop", "Frame2", 1500, 135);
-        rij("Label17", "Frame2", 1560, 780);
-        rij("Image1", "Frame2", 2100, 450);
-        rij("Label9", "Frame2", 3240, 120);
-        rij("List2", "", 195, 13500, 4815, 2535);
-        rij("Frame6", "", 2730, 13500, 4830, 750);
-        rij("Combo1", "Frame6", 240, 120, 1200);
-        rij("Label7", "Frame6", 285, 1410);
-        rij("Label8", "Frame6", 285, 4560);
-        rij("Frame3", "", 3495, 13500, 4830, 3300);
-        rij("List3", "Frame3", 240, 2580, 2100, 2910);
-        rij("Label4", "Frame3", 240, 180);
-        rij("Label5", "Frame3", 690, 180, 2190, 2100);
-        rij("LoadKnop", "Frame3", 2805, 1560, 840, 330);
-        rij("Frame4", "", 6840, 13500, 4830, 2490);
-        rij("LogoPic", "Frame4", 240, 120, 4575, 2100);
-        rij("Frame5", "", 9390, 13500, 4830, 1020);
-        rij("HelpKnop", "Frame5", 240, 120);
-        rij("AboutKnop", "Frame5", 240, 840);
-        rij("ExitKnop", "Frame5", 240, 4050);
-    }
     void everyControlIsAtItsPlace()
     {
-        QFETCH(QString, naam);
-        QFETCH(QString, ouder);
-        QFETCH(int, boven);
-        QFETCH(int, links);
-        QFETCH(int, breedte);
-        QFETCH(int, hoogte);
         Bord bord;
-        const auto *control = Vind<QWidget>(bord.Venster, naam);
-        if (!ouder.isEmpty())
-            QCOMPARE(control->parentWidget()->objectName(), ouder);
-        QCOMPARE(control->pos(), QPoint(Twips::NaarPixels(links), Twips::NaarPixels(boven)));
-        if (breedte > 0)
-            QCOMPARE(control->width(), Twips::NaarPixels(breedte));
-        if (hoogte > 0)
-            QCOMPARE(control->height(), Twips::NaarPixels(hoogte));
-        const auto *houder = control->parentWidget();
-        QVERIFY2(houder->rect().contains(control->geometry()), "it sticks out of what holds it");
+        const MainForm &main = bord.Venster;
+        QCOMPARE(Misplaatst(main, {{"Frame8", 180, 90, 7410, 540}, // the board's load gives it the width of the plate
+                                   {"Label1", 180, 780, 7410, 8760},
+                                   {"Pic", 270, 870, 7215, 8565},
+                                   {"PicR", 7605, 780, 450, 8760},
+                                   {"PicO", 180, 9555, 7410, 300},
+                                   {"PicGroot", 0, 0, 28845, 34245},
+                                   {"PicVak", 0, 0, 1845, 1845},
+                                   {"Vak1", 0, 0, 465, 465},
+                                   {"Vak2", 0, 0, 465, 465},
+                                   {"Label2", 2565, 3000},
+                                   {"Frame1", 180, 9855, 7815, 540},
+                                   {"Frame9", 180, 5400, 4275, 4410},
+                                   {"ListView1", 8160, 195, 5145, 5145},
+                                   {"Frame7", 8160, 5400, 5175, 750},
+                                   {"List1", 8160, 6285, 2910, 4110},
+                                   {"Frame10", 11230, 6195, 2100, 600},
+                                   {"Frame2", 11230, 6840, 2100, 3570},
+                                   {"List2", 13500, 195, 4815, 2535},
+                                   {"Frame6", 13500, 2730, 4830, 750},
+                                   {"Frame3", 13500, 3495, 4830, 3300},
+                                   {"Frame4", 13500, 6840, 4830, 2490},
+                                   {"Frame5", 13500, 9390, 4830, 1020}}),
+                 QString());
+        QCOMPARE(Misplaatst(*main.Pic, {{"Shape1"}, {"Line1"}}), QString());
+        QCOMPARE(Misplaatst(*main.Frame8, {{"Label12", 90, 180}}), QString());
+        QCOMPARE(Misplaatst(*main.Frame1, {{"Label6", 120, 180}, {"KlokLabel", 7020, 180}}), QString());
+        QCOMPARE(Misplaatst(*main.Frame7, {{"DelKnop", 120, 240}, {"Label10", 1170, 315}, {"Label11", 4350, 315}}),
+                 QString());
+        QCOMPARE(Misplaatst(*main.Frame10, {{"Label18", 60, 180, 1965, 345}, {"CopyLabel", 135, 240}}), QString());
+        QCOMPARE(Misplaatst(*main.Frame2, {{"Label3", 120, 210},
+                                           {"Label16", 150, 780},
+                                           {"Label15", 135, 1050, 1800, 330},
+                                           {"ScrolLengte", 165, 1080, 1740, 270},
+                                           {"OkKnop", 135, 1500},
+                                           {"Label17", 780, 1560},
+                                           {"Image1", 450, 2100},
+                                           {"Label9", 120, 3240}}),
+                 QString());
+        QCOMPARE(Misplaatst(*main.Frame6, {{"Combo1", 120, 240, 1200}, {"Label7", 1410, 285}, {"Label8", 4560, 285}}),
+                 QString());
+        QCOMPARE(Misplaatst(*main.Frame3, {{"List3", 2580, 240, 2100, 2910},
+                                           {"Label4", 180, 240},
+                                           {"Label5", 180, 690, 2190, 2100},
+                                           {"LoadKnop", 1560, 2805, 840, 330}}),
+                 QString());
+        QCOMPARE(Misplaatst(*main.Frame4, {{"LogoPic", 120, 240, 4575, 2100}}), QString());
+        QCOMPARE(Misplaatst(*main.Frame5, {{"HelpKnop", 120, 240}, {"AboutKnop", 840, 240}, {"ExitKnop", 4050, 240}}),
+                 QString());
     }
 
     void frame8StartsAsWideAsTheStatusBar()
@@ -98,60 +74,66 @@ private slots:
         QCOMPARE(venster.Frame8->width(), 521);
     }
 
-    void texts_data()
+    void theCopyTextLiesOnItsPlate()
     {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QString>("tekst");
-        const auto rij = [](const char *naam, const QString &tekst) { QTest::newRow(naam) << naam << tekst; };
-        rij("Label12", u"Soortpuzzel : Zweeds"_s);
-        rij("Label2", u" Load Database "_s);
-        rij("Label6", u"Coordinaten"_s);
-        rij("KlokLabel", u"00:00"_s);
-        rij("Label10", u"Item verwijderen"_s);
-        rij("Label11", u"0 Items"_s);
-        rij("CopyLabel", QString());
-        rij("Label3", u"0 Woorden in lijst"_s);
-        rij("Label16", u"Woordlengte (2)"_s);
-        rij("Label17", u"Zoeken"_s);
-        rij("Label9", QString());
-        rij("Label7", u"Lengte woorden"_s);
-        rij("Label8", u"0"_s);
-        rij("Label4", u"Woordlijsten"_s);
-        rij("Label5", u"Klik op de button 'Load' om de woordlijsten te openen, selecteer vervolgens één van de "
-                      "woorden uit de lijst voor de bijbehorende omschrijvingen.\n\nOnder het menu-item 'Tools' "
-                      "kun je deze woordlijsten nog bewerken en / of uitbreiden."_s);
-    }
-    void texts()
-    {
-        QFETCH(QString, naam);
-        QFETCH(QString, tekst);
         Bord bord;
-        QCOMPARE(Vind<Label>(bord.Venster, naam)->Caption(), tekst);
+        bord.Venster.CopyLabel->SetCaption(u"WOORD"_s);
+        const QImage met = Getoond(*bord.Venster.Frame10);
+        bord.Venster.CopyLabel->hide();
+        QVERIFY(Getoond(*bord.Venster.Frame10) != met);
     }
 
-    void toolTips_data()
+    void theTabKeyGoesThroughThePanels()
     {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QString>("tekst");
-        QTest::newRow("DelKnop") << "DelKnop"
-                                 << " Verwijder een item uit bovenstaande lijst ";
-        QTest::newRow("CopyLabel") << "CopyLabel"
-                                   << " Copytekst ";
-        QTest::newRow("OkKnop") << "OkKnop"
-                                << " Start zoeken op woordlengte ";
-        QTest::newRow("HelpKnop") << "HelpKnop"
-                                  << " Uitleg en Hulp ";
-        QTest::newRow("AboutKnop") << "AboutKnop"
-                                   << " Over de ontwerper ";
-        QTest::newRow("ExitKnop") << "ExitKnop"
-                                  << " Programma Stoppen ";
+        Bord bord;
+        QCOMPARE(TabVolgorde(bord.Venster),
+                 u"ListView1 DelKnop List1 ScrolLengte List2 Combo1 List3 HelpKnop AboutKnop ExitKnop"_s);
     }
+
+    void texts()
+    {
+        Bord bord;
+        QStringList teksten;
+        for (const Label *label : bord.Venster.findChildren<Label *>())
+            teksten += label->objectName() + u'=' + label->Caption();
+        teksten.sort();
+        const QStringList verwacht{
+            u"CopyLabel="_s,
+            u"KlokLabel=00:00"_s,
+            u"Label10=Item verwijderen"_s,
+            u"Label11=0 Items"_s,
+            u"Label12=Soortpuzzel : Zweeds"_s,
+            u"Label15="_s,
+            u"Label16=Woordlengte (2)"_s,
+            u"Label17=Zoeken"_s,
+            u"Label18="_s,
+            u"Label1="_s,
+            u"Label2= Load Database "_s,
+            u"Label3=0 Woorden in lijst"_s,
+            u"Label4=Woordlijsten"_s,
+            u"Label5=Klik op de button 'Load' om de woordlijsten te openen, selecteer vervolgens één van de "
+            "woorden uit de lijst voor de bijbehorende omschrijvingen.\n\nOnder het menu-item 'Tools' "
+            "kun je deze woordlijsten nog bewerken en / of uitbreiden."_s,
+            u"Label6=Coordinaten"_s,
+            u"Label7=Lengte woorden"_s,
+            u"Label8=0"_s,
+            u"Label9="_s,
+        };
+        QCOMPARE(teksten, verwacht);
+    }
+
     void toolTips()
     {
-        QFETCH(QString, naam);
-        QFETCH(QString, tekst);
         Bord bord;
-        QCOMPARE(Vind<QWidget>(bord.Venster, naam)->toolTip(), tekst);
+        QStringList tips;
+        for (const QWidget *control : bord.Venster.findChildren<QWidget *>())
+            if (!control->toolTip().isEmpty())
+                tips += control->objectName() + u'=' + control->toolTip() + u'|';
+        tips.sort();
+        QCOMPARE(tips, (QStringList{u"AboutKnop= Over de ontwerper |"_s, u"CopyLabel= Copytekst |"_s,
+                                    u"DelKnop= Verwijder een item uit bovenstaande lijst |"_s,
+                                    u"ExitKnop= Programma Stoppen |"_s, u"HelpKnop= Uitleg en Hulp |"_s,
+                                    u"OkKnop= Start zoeken op woordlengte |"_s}));
     }
 
     void colours_data()
@@ -159,19 +141,22 @@ private slots:
         QTest::addColumn<QString>("naam");
         QTest::addColumn<int>("rol");
         QTest::addColumn<QColor>("kleur");
-        const auto rij = [](const char *naam, QPalette::ColorRole rol, QColor kleur) {
-            QTest::addRow("%s %d", naam, rol) << naam << int(rol) << kleur;
+        const auto rij = [](const QByteArray &naam, QPalette::ColorRole rol, QColor kleur) {
+            Geval(naam + ' ' + QByteArray::number(rol), QString::fromLatin1(naam), int(rol), kleur);
         };
-        for (const char *frame :
-             {"Frame1", "Frame2", "Frame3", "Frame4", "Frame5", "Frame6", "Frame7", "Frame8", "Frame9", "Frame10"})
-            rij(frame, QPalette::Window, QColor(230, 230, 190));
+        for (int i = 1; i <= 10; ++i)
+            rij("Frame" + QByteArray::number(i), QPalette::Window, QColor(230, 230, 190));
         rij("Label1", QPalette::Window, QColor(150, 150, 150));
         rij("Label2", QPalette::Window, QColor(230, 230, 0));
+        rij("Label15", QPalette::Window, QColor(150, 180, 180));
         rij("Label18", QPalette::Window, QColor(150, 180, 180));
         rij("CopyLabel", QPalette::WindowText, QColor(0, 0, 0));
         rij("ListView1", QPalette::Base, QColor(220, 220, 250));
+        rij("ListView1", QPalette::Text, QColor(0, 0, 0));
         rij("List1", QPalette::Base, QColor(180, 180, 150));
+        rij("List1", QPalette::Text, QColor(0, 0, 0));
         rij("List2", QPalette::Base, QColor(180, 180, 150));
+        rij("List2", QPalette::Text, QColor(0, 0, 0));
         rij("List3", QPalette::Base, QColor(220, 220, 220));
         rij("List3", QPalette::Text, QColor(90, 90, 90));
         rij("Combo1", QPalette::Base, QColor(250, 250, 250));
@@ -187,21 +172,30 @@ private slots:
         QCOMPARE(control->palette().color(static_cast<QPalette::ColorRole>(rol)), kleur);
     }
 
-    void hiddenAtTheStart_data()
+    void thePlatesAreFilledWithTheirColour()
     {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<bool>("verborgen");
-        for (const char *naam : {"Label2", "Frame9", "PicGroot", "PicVak", "Vak1", "Vak2", "Shape1", "Line1"})
-            QTest::newRow(naam) << naam << true;
-        for (const char *naam : {"Pic", "ListView1", "Frame1", "List1", "CopyLabel"})
-            QTest::newRow(naam) << naam << false;
+        Bord bord;
+        for (Label *plaat : {bord.Venster.Label1, bord.Venster.Label2, bord.Venster.Label15, bord.Venster.Label18})
+            QCOMPARE(Getoond(*plaat).pixelColor(0, 0), plaat->palette().color(QPalette::Window));
     }
+
     void hiddenAtTheStart()
     {
-        QFETCH(QString, naam);
-        QFETCH(bool, verborgen);
         Bord bord;
-        QCOMPARE(Vind<QWidget>(bord.Venster, naam)->isHidden(), verborgen);
+        QStringList verborgen;
+        for (const QWidget *control : bord.Venster.findChildren<QWidget *>())
+            if (control->isHidden() && !control->isWindow() && !control->objectName().isEmpty() &&
+                !control->objectName().startsWith("qt_"_L1))
+                verborgen += control->objectName();
+        verborgen.sort();
+        QCOMPARE(verborgen.join(u' '), u"Frame9 Label2 Line1 PicGroot PicVak Shape1 Vak1 Vak2"_s);
+    }
+
+    void whatHasNoDataYetIsDisabled()
+    {
+        Bord bord;
+        QVERIFY(!bord.Venster.OkKnop->isEnabled());
+        QVERIFY(!bord.Venster.LoadKnop->isEnabled());
     }
 
     void theWindow()
@@ -210,8 +204,26 @@ private slots:
         QCOMPARE(bord.Venster.windowTitle(), u"Raster Atelier (16x19)"_s);
         QCOMPARE(bord.Venster.palette().color(QPalette::Window), QColor(230, 230, 190));
         QCOMPARE(bord.Venster.Pic->parentWidget()->size(), QSize((18600 - 90) / 15, (11340 - 450 - 300) / 15));
-        QVERIFY(bord.Venster.Label2->fontMetrics().height() > 40); // size 30
+        QCOMPARE(bord.Venster.Label2->font().pixelSize(), 40); // size 30
+        QCOMPARE(bord.Venster.windowType(), Qt::Window);       // it can be minimised, as no dialog can
+        QVERIFY(!bord.Venster.windowIcon().isNull());
         QVERIFY(&Main() == &bord.Venster);
+    }
+
+    void itClosesWhenItMay()
+    {
+        Bord bord;
+        bool mag = false;
+        bord.Venster.MagSluiten = [&mag] { return mag; };
+        bord.Venster.show();
+        QVERIFY(!bord.Venster.close());
+        QVERIFY(bord.Venster.isVisible());
+        mag = true;
+        QVERIFY(bord.Venster.close());
+        QVERIFY(!bord.Venster.isVisible());
+        bord.Venster.MagSluiten = nullptr;
+        bord.Venster.show();
+        QVERIFY(bord.Venster.close());
     }
 
     void onASmallScreenTheWindowScrolls()
@@ -305,18 +317,23 @@ private slots:
     void theClockTicksEverySecond()
     {
         Bord bord;
-        QCOMPARE(bord.Venster.KlokLabel->Caption(), u"00:00"_s);
+        const Label &klok = *bord.Venster.KlokLabel;
         QCOMPARE(bord.Venster.Timer1->interval(), 1000);
-        QVERIFY(bord.Venster.Timer1->isActive());
+        QVERIFY(bord.Venster.Timer1->isActive() && !bord.Venster.Timer1->isSingleShot());
+        bord.Venster.Timer1->setInterval(3600000);
+        QCoreApplication::processEvents();
+        QCOMPARE(klok.Caption(), u"00:00"_s); // until the first tick
         bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2026, 3, 7), QTime(9, 5, 3)));
-        const int rechts = bord.Venster.KlokLabel->geometry().right();
-        bord.Venster.Timer1_Timer();
-        QCOMPARE(bord.Venster.KlokLabel->Caption(),
-                 QLocale::system().toString(QDate(2026, 3, 7), QLocale::ShortFormat) + u" / 9:05:03"_s);
+        const int rechts = klok.geometry().right();
+        bord.Venster.Timer1->setInterval(0); // the next tick is there at once
+        QCoreApplication::processEvents();
+        QCOMPARE(klok.Caption(), QLocale::system().toString(QDate(2026, 3, 7), QLocale::ShortFormat) + u" / 9:05:03"_s);
         bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2026, 3, 7), QTime(17, 0, 0)));
-        bord.Venster.Timer1_Timer();
-        QVERIFY(bord.Venster.KlokLabel->Caption().endsWith(u" / 17:00:00"_s));
-        QCOMPARE(bord.Venster.KlokLabel->geometry().right(), rechts); // it grows to the left, inside its frame
+        const Stand ervoor = bord.Nu();
+        QCoreApplication::processEvents();
+        QVERIFY(klok.Caption().endsWith(u" / 17:00:00"_s));
+        QCOMPARE(klok.geometry().right(), rechts); // it grows to the left, inside its frame
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void everyControlHasANameForAScreenReader()
@@ -342,27 +359,43 @@ private slots:
 
     void whatTheKindsShow_data()
     {
-        QTest::addColumn<int>("soort");
+        QTest::addColumn<quint8>("soort");
         QTest::addColumn<QString>("opschrift");
-        QTest::newRow("1") << 1 << "Soortpuzzel : Zweeds";
-        QTest::newRow("2") << 2 << "Soortpuzzel : Woordzoeker";
-        QTest::newRow("3") << 3 << "Soortpuzzel : Kruiswoord";
-        QTest::newRow("4") << 4 << "Soortpuzzel : Sudoku";
-        QTest::newRow("5") << 5 << "Soortpuzzel : Filippine";
-        QTest::newRow("none") << 200 << "Soortpuzzel : Zweeds"; // left alone
+        Geval("1", Zweeds, "Soortpuzzel : Zweeds");
+        Geval("2", Woordzoeker, "Soortpuzzel : Woordzoeker");
+        Geval("3", Kruiswoord, "Soortpuzzel : Kruiswoord");
+        Geval("4", Sudoku, "Soortpuzzel : Sudoku");
+        Geval("5", Filippine, "Soortpuzzel : Filippine");
+        Geval("none", quint8(200), "iets"); // left alone
     }
     void whatTheKindsShow()
     {
-        QFETCH(int, soort);
+        QFETCH(quint8, soort);
         QFETCH(QString, opschrift);
         Bord bord;
-        PuzzelType = static_cast<quint8>(soort);
-        bord.Venster.ToonSoort();
-        bord.Venster.ToonPuzzel(u"Raster Atelier"_s);
-        QCOMPARE(bord.Venster.Label12->Caption(), opschrift);
-        QCOMPARE(!bord.Venster.Frame9->isHidden(), soort == 4);
-        QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), soort == 5);
-        QCOMPARE(bord.Venster.EditDeleteLetters->isEnabled(), soort == 5);
+        MainForm &main = bord.Venster;
+        for (const quint8 eerst : {Zweeds, Sudoku, Filippine}) { // coming from those that show more, too
+            PuzzelType = eerst;
+            main.ToonPuzzel(u"Raster Atelier"_s);
+            main.Label12->SetCaption(u"iets"_s);
+            main.Label11->SetCaption(u"7 Items"_s);
+            main.Shape1->show();
+            main.Line1->show();
+            PuzzelType = soort;
+            BoardWidth = 12;
+            BoardHeight = 14;
+            PuzzelNaam = u"Reis"_s;
+            main.ToonSoort();
+            main.ToonPuzzel(u"Programma"_s);
+            QCOMPARE(main.Label12->Caption(), opschrift);
+            QCOMPARE(!main.Frame9->isHidden(), soort == Sudoku);
+            QCOMPARE(main.EditDeleteRaster->isEnabled(), soort == Filippine);
+            QCOMPARE(main.EditDeleteLetters->isEnabled(), soort == Filippine);
+            QCOMPARE(main.windowTitle(), u"Programma (12x14)"_s);
+            QCOMPARE(main.Bestandsnaam->text(), u"Reis"_s);
+            QCOMPARE(main.Label11->Caption(), u"0 Items"_s);
+            QVERIFY(main.Shape1->isHidden() && main.Line1->isHidden());
+        }
     }
 };
 

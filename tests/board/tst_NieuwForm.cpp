@@ -1,46 +1,90 @@
 #include "board/NieuwForm.h"
 #include "board/Soorten.h"
 #include "support/Bord.h"
+#include "support/Venster.h"
 
+#include <QFile>
 #include <QTimer>
 
+#include <ctime>
+
 using namespace Qt::StringLiterals;
+
+/// What the process holds in memory, in bytes.
+static qint64 Geheugen()
+{
+    QFile status(u"/proc/self/statm"_s);
+    if (!status.open(QIODevice::ReadOnly))
+        return 0;
+    constexpr qint64 Page = 4096;
+    return status.readAll().split(' ').value(1).toLongLong() * Page;
+}
+
+static QString Items(const QComboBox &combo)
+{
+    QStringList items;
+    for (int i = 0; i < combo.count(); ++i)
+        items += combo.itemText(i);
+    return items.join(u' ');
+}
 
 class tst_NieuwForm : public QObject
 {
     Q_OBJECT
-private slots:
-    void controlsAndTheirPlaces_data()
+
+    static void VulIn(NieuwForm &form, const QString &naam, const QString &breedte, const QString &hoogte,
+                      int optie = 0)
     {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QRect>("vlak"); // pixels; a null size is not checked
-        QTest::newRow("Combo1") << "Combo1" << QRect(12, 12, 66, 0);
-        QTest::newRow("Label1") << "Label1" << QRect(84, 16, 0, 0);
-        QTest::newRow("Combo2") << "Combo2" << QRect(12, 40, 66, 0);
-        QTest::newRow("Label2") << "Label2" << QRect(84, 44, 0, 0);
-        QTest::newRow("Option1") << "Option1" << QRect(36, 74, 180, 24);
-        QTest::newRow("Option2") << "Option2" << QRect(36, 93, 180, 24);
-        QTest::newRow("Option3") << "Option3" << QRect(36, 112, 180, 24);
-        QTest::newRow("Option4") << "Option4" << QRect(36, 131, 180, 24);
-        QTest::newRow("Option5") << "Option5" << QRect(36, 150, 180, 24);
-        QTest::newRow("Image1") << "Image1" << QRect(284, 46, 0, 0);
-        QTest::newRow("Text1") << "Text1" << QRect(12, 184, 160, 24);
-        QTest::newRow("Label3") << "Label3" << QRect(176, 189, 0, 0);
-        QTest::newRow("CancelKnop") << "CancelKnop" << QRect(272, 184, 0, 0);
-        QTest::newRow("OkKnop") << "OkKnop" << QRect(338, 184, 0, 24);
+        form.Text1->setText(naam);
+        form.Combo1->setEditText(breedte);
+        form.Combo2->setEditText(hoogte);
+        form.Option[optie]->click();
     }
+    /// Three rows, the line of one, the frame on a cell, something on both boards and the panel: all that may go.
+    static void Vul(Bord &bord)
+    {
+        MainForm &main = bord.Venster;
+        main.VoegRijenToe(
+            {{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}, {u"B-01 / 2-V"_s, {}, u"noot"_s, {}}, {u"-"_s, {}, u"mies"_s, {}}});
+        main.ToonAantal();
+        main.ListView1_ItemClick();
+        bord.Klik(Qt::LeftButton, 1, 1);
+        main.SoortPlaatsing->close();
+        main.Pic->BoxFull(0, 0, 1e5, 1e5, qRgb(1, 2, 3));
+        main.PicGroot->BoxFull(0, 0, 1e6, 1e6, qRgb(1, 2, 3));
+        VakZwart[5] = true;
+        main.CopyLabel->SetCaption(u"kopie"_s);
+        main.List1->SetItems({u"WOORD"_s});
+        main.List2->SetItems({u"LIJST"_s});
+    }
+
+private slots:
     void controlsAndTheirPlaces()
     {
-        QFETCH(QString, naam);
-        QFETCH(QRect, vlak);
         Bord bord;
         NieuwForm form;
-        const QRect plaats = Vind<QWidget>(form, naam)->geometry();
-        QCOMPARE(plaats.topLeft(), vlak.topLeft());
-        if (vlak.width() > 0)
-            QCOMPARE(plaats.width(), vlak.width());
-        if (vlak.height() > 0)
-            QCOMPARE(plaats.height(), vlak.height());
+        QCOMPARE(Misplaatst(form, {{"Combo1", 180, 180, 990},
+                                   {"Label1", 1260, 240},
+                                   {"Combo2", 180, 600, 990},
+                                   {"Label2", 1260, 660},
+                                   {"Option1", 540, 1110, 2700, 360},
+                                   {"Option2", 540, 1395, 2700, 360},
+                                   {"Option3", 540, 1680, 2700, 360},
+                                   {"Option4", 540, 1965, 2700, 360},
+                                   {"Option5", 540, 2250, 2700, 360},
+                                   {"Image1", 4260, 690},
+                                   {"Text1", 180, 2760, 2400, 360},
+                                   {"Label3", 2640, 2835},
+                                   {"CancelKnop", 4080, 2760},
+                                   {"OkKnop", 5070, 2760, 0, 360}}),
+                 QString());
+    }
+
+    void theTabKeyGoesFromTheNameOn()
+    {
+        Bord bord;
+        NieuwForm form;
+        QCOMPARE(TabVolgorde(form), u"Text1 CancelKnop OkKnop Combo1 Combo2 Option1"_s);
     }
 
     void asItOpens()
@@ -53,26 +97,35 @@ private slots:
         QCOMPARE(form.palette().color(QPalette::Window), QColor(190, 230, 230));
         QCOMPARE(form.Combo1->currentText(), u"12"_s);
         QCOMPARE(form.Combo2->currentText(), u"14"_s);
+        QCOMPARE(Items(*form.Combo1), u"9 10 11 12 13 14 15 16"_s);
+        QCOMPARE(Items(*form.Combo2), u"9 10 11 12 13 14 15 16 17 18 19"_s);
+        QVERIFY(form.Combo1->isEditable() && form.Combo2->isEditable());
+        QVERIFY(form.Combo1->isEnabled() && form.Combo2->isEnabled());
         QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (12)"_s);
         QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (14)"_s);
-        QVERIFY(form.Option[0]->isChecked()); // always Zweeds, whatever the current puzzle
-        QVERIFY(form.Text1->text().isEmpty());
         QCOMPARE(form.Label3->Caption(), u"Naam Puzzel"_s);
-        QStringList breedtes, hoogtes;
-        for (int i = 0; i < form.Combo1->count(); ++i)
-            breedtes += form.Combo1->itemText(i);
-        for (int i = 0; i < form.Combo2->count(); ++i)
-            hoogtes += form.Combo2->itemText(i);
-        QCOMPARE(breedtes.join(u' '), u"9 10 11 12 13 14 15 16"_s);
-        QCOMPARE(hoogtes.join(u' '), u"9 10 11 12 13 14 15 16 17 18 19"_s);
-        QStringList opties;
-        for (const QRadioButton *optie : form.Option)
-            opties += optie->text();
-        QCOMPARE(opties.join(u'|'), u"Zweedse Puzzel|Woordzoeker|Kruiswoord Puzzel|Sudoku Puzzel|Filippine Puzzel"_s);
-        QCOMPARE(form.Combo1->palette().color(QPalette::Base), QColor(30, 0, 0));
-        QCOMPARE(form.Combo2->palette().color(QPalette::Text), QColor(230, 230, 230));
+        QCOMPARE(form.Text1->text(), QString());
+        QCOMPARE(form.Image1->Picture(), u"soort-zweeds"_s);
+        for (const QWidget *box : {static_cast<QWidget *>(form.Combo1), static_cast<QWidget *>(form.Combo2)})
+            QCOMPARE(box->palette().color(QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.Text1->palette().color(QPalette::Base), QColor(0, 30, 0));
-        QCOMPARE(form.Text1->palette().color(QPalette::Text), QColor(230, 230, 230));
+        for (const QWidget *box : {static_cast<QWidget *>(form.Combo1), static_cast<QWidget *>(form.Combo2),
+                                   static_cast<QWidget *>(form.Text1)})
+            QCOMPARE(box->palette().color(QPalette::Text), QColor(230, 230, 230));
+    }
+
+    void theKindStartsAtZweeds()
+    {
+        Bord bord;
+        bord.Begin(Sudoku, 9, 9);
+        NieuwForm form;
+        QStringList opties;
+        for (QRadioButton *optie : form.Option) {
+            opties += optie->text();
+            QCOMPARE(optie->isChecked(), optie == form.Option[0]); // whatever the current puzzle
+            QCOMPARE(optie->grab().toImage().pixelColor(optie->width() - 1, 0), QColor(190, 230, 230));
+        }
+        QCOMPARE(opties.join(u'|'), u"Zweedse Puzzel|Woordzoeker|Kruiswoord Puzzel|Sudoku Puzzel|Filippine Puzzel"_s);
     }
 
     void typingAndChoosingASizeShowsIt()
@@ -83,6 +136,10 @@ private slots:
         form.Combo2->setCurrentIndex(1);
         QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (11)"_s);
         QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (10)"_s);
+        form.Combo1->setCurrentIndex(0);
+        form.Combo2->setEditText(u"veel"_s);
+        QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (9)"_s);
+        QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (veel)"_s);
     }
 
     void theKindShowsItsPreviewAndFixesTheSize()
@@ -92,8 +149,7 @@ private slots:
         const bool vrij[] = {true, true, true, false, false};
         const QString plaatjes[]{u"soort-zweeds"_s, u"soort-woordzoeker"_s, u"soort-kruiswoord"_s, u"soort-sudoku"_s,
                                  u"soort-filippine"_s};
-        QCOMPARE(form.Image1->Picture(), plaatjes[0]);
-        for (const qsizetype i : {4, 3, 4, 2, 1, 0}) { // from Sudoku to Filippine the combos stay disabled
+        for (const qsizetype i : {4, 3, 4, 2, 4, 1, 3, 0}) { // from one fixed size to the other it stays so
             form.Option[i]->click();
             QCOMPARE(form.Image1->Picture(), plaatjes[i]);
             QCOMPARE(form.Combo1->isEnabled(), vrij[i]);
@@ -101,101 +157,95 @@ private slots:
         }
     }
 
+    void aNameOfBlanksOnlyGivesTheMessage_data()
+    {
+        QTest::addColumn<QString>("naam");
+        Geval("nothing", "");
+        Geval("blanks", "   ");
+    }
     void aNameOfBlanksOnlyGivesTheMessage()
     {
+        QFETCH(QString, naam);
         Bord bord;
+        Vul(bord);
         PuzzelNaam = u"oud"_s;
+        const Stand ervoor = bord.Nu();
         NieuwForm form;
-        form.Text1->setText(u"   "_s);
-        form.Option[3]->click();
+        form.show();
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        VulIn(form, naam, u"12"_s, u"14"_s, 3);
+        form.OkKnop->setFocus();
         form.OkKnop_Click();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
-        QVERIFY(!form.Unloaded());
-        QCOMPARE(PuzzelNaam, u"oud"_s);
-        QCOMPARE(PuzzelType, Zweeds);
-        QCOMPARE(BoardWidth, 16);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::Ok);
+        QVERIFY(form.isVisible() && !form.Unloaded());
+        QVERIFY(form.Text1->hasFocus());
+        QCOMPARE(bord.Veranderd(ervoor), QString());
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
     }
 
     void okStartsAnEmptyBoard_data()
     {
         QTest::addColumn<int>("optie");
         QTest::addColumn<QSize>("maat");
-        QTest::newRow("Zweeds") << 0 << QSize(12, 14);
-        QTest::newRow("Woordzoeker") << 1 << QSize(12, 14);
-        QTest::newRow("Kruiswoord") << 2 << QSize(12, 14);
-        QTest::newRow("Sudoku") << 3 << QSize(9, 9);
-        QTest::newRow("Filippine") << 4 << QSize(16, 19);
+        QTest::addColumn<QString>("opschrift");
+        Geval("Zweeds", 0, QSize(12, 14), "Soortpuzzel : Zweeds");
+        Geval("Woordzoeker", 1, QSize(12, 14), "Soortpuzzel : Woordzoeker");
+        Geval("Kruiswoord", 2, QSize(12, 14), "Soortpuzzel : Kruiswoord");
+        Geval("Sudoku", 3, QSize(9, 9), "Soortpuzzel : Sudoku");
+        Geval("Filippine", 4, QSize(16, 19), "Soortpuzzel : Filippine");
     }
     void okStartsAnEmptyBoard()
     {
         QFETCH(int, optie);
         QFETCH(QSize, maat);
-        Bord bord;
-        MainForm &main = bord.Venster;
-        main.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
-        main.ToonAantal();
-        main.ListView1_ItemClick();
-        bord.Klik(Qt::LeftButton, 1, 1);
-        main.SoortPlaatsing->close();
-        main.Pic->BoxFull(0, 0, 4000, 4000, qRgb(1, 2, 3));
-        VakZwart[5] = true;
-        main.CopyLabel->SetCaption(u"kopie"_s);
-        NieuwForm form;
-        form.Combo1->setEditText(u"12"_s);
-        form.Combo2->setEditText(u"14"_s);
-        form.Text1->setText(u"  mijn nieuwe puzzel "_s);
-        form.Option[static_cast<std::size_t>(optie)]->click();
-        form.OkKnop_Click();
-
-        QVERIFY(form.Unloaded());
-        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.4) < 1e-6);
-        QCOMPARE(PuzzelNaam, u"mijnnieuwepuzzel"_s);
-        QCOMPARE(main.Bestandsnaam->text(), PuzzelNaam);
-        QCOMPARE(PuzzelType, quint8(optie + 1));
-        QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
-        QCOMPARE(bord.Pic().size(), maat * 30 + QSize(1, 1));
-        QCOMPARE(bord.Groot().size(), maat * 120 + QSize(3, 3));
-        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(1, 1)));
-        QCOMPARE(main.windowTitle(), u"Raster Atelier (%1x%2)"_s.arg(maat.width()).arg(maat.height()));
-        QCOMPARE(main.ListView1->topLevelItemCount(), 0);
-        QCOMPARE(main.Label11->Caption(), u"0 Items"_s);
-        QVERIFY(main.Shape1->isHidden());
-        QVERIFY(main.Line1->isHidden());
-        QVERIFY(VakZwart[5]);
-        QCOMPARE(main.CopyLabel->Caption(), u"kopie"_s);
-        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
-    }
-
-    void whatAKindChanges_data()
-    {
-        QTest::addColumn<int>("optie");
-        QTest::addColumn<QString>("opschrift");
-        QTest::addColumn<bool>("paneel");
-        QTest::addColumn<bool>("verwijderen");
-        QTest::newRow("Zweeds") << 0 << "Soortpuzzel : Zweeds" << false << false;
-        QTest::newRow("Woordzoeker") << 1 << "Soortpuzzel : Woordzoeker" << false << false;
-        QTest::newRow("Kruiswoord") << 2 << "Soortpuzzel : Kruiswoord" << false << false;
-        QTest::newRow("Sudoku") << 3 << "Soortpuzzel : Sudoku" << true << false;
-        QTest::newRow("Filippine") << 4 << "Soortpuzzel : Filippine" << false << true;
-    }
-    void whatAKindChanges()
-    {
-        QFETCH(int, optie);
         QFETCH(QString, opschrift);
-        QFETCH(bool, paneel);
-        QFETCH(bool, verwijderen);
-        Bord bord;
-        for (const int keuze : {3, 4, optie}) { // coming from the two kinds that show more
+        const auto type = static_cast<quint8>(optie + 1);
+        const Stand leeg = [&] {
+            Bord bord;
+            bord.Begin(type, maat.width(), maat.height());
+            return bord.Nu();
+        }();
+        for (const quint8 eerst : {Zweeds, Sudoku, Filippine}) { // coming from the two kinds that show more, too
+            Bord bord;
+            PuzzelType = eerst;
+            bord.Venster.ToonSoort();
+            bord.Venster.ToonPuzzel(u"Iets anders"_s);
+            Vul(bord);
+            QCOMPARE(bord.Venster.Label11->Caption(), u"3 Items"_s);
+            const QList<QWidget *> tekens{bord.Venster.Shape1, bord.Venster.Line1};
+            for (const QWidget *teken : tekens)
+                QCOMPARE(teken->isHidden(), eerst != Zweeds && teken == bord.Venster.Line1);
             NieuwForm form;
-            form.Text1->setText(u"naam"_s);
-            form.Option[static_cast<std::size_t>(keuze)]->click();
+            VulIn(form, u"  mijn nieuwe puzzel "_s, u"12"_s, u"14"_s, optie);
             form.OkKnop_Click();
+
+            QVERIFY(form.Unloaded());
+            QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
+            QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+            QCOMPARE(PuzzelNaam, u"mijnnieuwepuzzel"_s);
+            QCOMPARE(bord.Venster.Bestandsnaam->text(), u"mijnnieuwepuzzel"_s);
+            QVERIFY(!bord.Venster.Bestandsnaam->isEnabled());
+            QCOMPARE(bord.Venster.windowTitle(), u"Raster Atelier (%1x%2)"_s.arg(maat.width()).arg(maat.height()));
+            QCOMPARE(bord.Venster.Label12->Caption(), opschrift);
+            QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
+            QVERIFY(bord.Venster.Rijen().isEmpty());
+            for (const QWidget *teken : tekens)
+                QVERIFY(teken->isHidden());
+            QCOMPARE(!bord.Venster.Frame9->isHidden(), type == Sudoku);
+            QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), type == Filippine);
+            QCOMPARE(bord.Venster.EditDeleteLetters->isEnabled(), type == Filippine);
+            QVERIFY(VakZwart[5]);
+            QCOMPARE(bord.Venster.CopyLabel->Caption(), u"kopie"_s);
+            QCOMPARE(bord.Venster.List1->List(0), u"WOORD"_s);
+            QCOMPARE(bord.Venster.List2->List(0), u"LIJST"_s);
+            Stand nu = bord.Nu();
+            for (const char *naam : {"PuzzelType", "BoardWidth", "BoardHeight", "Pic", "PicGroot", "PicR", "PicO",
+                                     "Label1", "Frame8", "ListView1", "PuzzelGewijzigd"})
+                QCOMPARE(nu[QLatin1String(naam)], leeg[QLatin1String(naam)]);
         }
-        QCOMPARE(bord.Venster.Label12->Caption(), opschrift);
-        QCOMPARE(!bord.Venster.Frame9->isHidden(), paneel);
-        QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), verwijderen);
-        QCOMPARE(bord.Venster.EditDeleteLetters->isEnabled(), verwijderen);
     }
 
     void theChangedFlagStaysAsItIs()
@@ -204,93 +254,126 @@ private slots:
             Bord bord;
             PuzzelGewijzigd = gewijzigd;
             NieuwForm form;
-            form.Text1->setText(u"naam"_s);
+            VulIn(form, u"naam"_s, u"12"_s, u"14"_s);
             form.OkKnop_Click();
             QCOMPARE(PuzzelGewijzigd, gewijzigd);
         }
     }
 
-    void impossibleSizesKeepThePuzzle_data()
+    void whatIsNoSizeKeepsThePuzzle_data()
     {
         QTest::addColumn<QString>("breedte");
-        QTest::addColumn<int>("fout");
-        QTest::newRow("word") << "negen" << int(Fout::TypeOnjuist);
-        QTest::newRow("empty") << "" << int(Fout::TypeOnjuist);
-        QTest::newRow("too large for a number") << "99999999999" << int(Fout::Overloop);
-        QTest::newRow("negative") << "-1" << int(Fout::OngeldigeWaarde);
-        QTest::newRow("too large for a board") << "100000" << int(Fout::GeheugenVol);
+        QTest::addColumn<QString>("hoogte");
+        QTest::addColumn<QString>("melding");
+        const QString typen = u"Fout 13 bij 'Ok': Typen komen niet overeen: hier hoort een getal"_s;
+        const QString overloop = u"Fout 6 bij 'Ok': Overloop: het getal is te groot of te klein"_s;
+        const QString negatief = u"Fout 380 bij 'Ok': Ongeldige waarde (een negatieve maat)."_s;
+        const QString vol = u"Fout 7 bij 'Ok': Onvoldoende geheugen (een te grote afbeelding)."_s;
+        Geval("word", "negen", "9", typen + u" (negen)."_s);
+        Geval("word below", "9", "negen", typen + u" (negen)."_s);
+        Geval("empty", "", "9", typen + u'.');
+        Geval("too large for a number", "99999999999", "9", overloop + u" (99999999999)."_s);
+        Geval("negative", "-1", "9", negatief);
+        Geval("negative height", "9", "-1", negatief);
+        Geval("both negative", "-16", "-19", negatief);
+        Geval("largest number", "2147483647", "2147483647", vol);
+        Geval("1 by 4400", "1", "4400", vol);
+        Geval("4400 by 1", "4400", "1", vol);
+        Geval("32767 by 0", "32767", "0", vol);
+        Geval("0 by 32767", "0", "32767", vol);
+        Geval("111000 by 0", "111000", "0", vol);
+        Geval("just too wide", "245", "19", vol);
+        Geval("just too high", "16", "291", vol);
+        Geval("just too large", "69", "69", vol);
     }
-    void impossibleSizesKeepThePuzzle()
+    void whatIsNoSizeKeepsThePuzzle()
     {
         QFETCH(QString, breedte);
-        QFETCH(int, fout);
+        QFETCH(QString, hoogte);
+        QFETCH(QString, melding);
         Bord bord;
-        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
-        bord.Klik(Qt::RightButton, 2, 2);
-        const QImage pic = bord.Pic(), groot = bord.Groot();
+        Vul(bord);
+        const Stand ervoor = bord.Nu();
+        const qint64 geheugen = Geheugen();
         NieuwForm form;
-        form.Text1->setText(u"nieuw"_s);
-        form.Combo1->setEditText(breedte);
-        QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), fout);
-        QCOMPARE(PuzzelNaam, u"nieuw"_s);
-        QVERIFY(!form.Unloaded());
-        QVERIFY(bord.Pic() == pic);
-        QVERIFY(bord.Groot() == groot);
-        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(16, 19));
-        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
-        QCOMPARE(bord.Venster.windowTitle(), u"Raster Atelier (16x19)"_s);
+        form.show();
+        VulIn(form, u"nieuw"_s, breedte, hoogte);
+        form.OkKnop->click();
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+        QVERIFY(form.isVisible() && !form.Unloaded());
+        QCOMPARE(bord.Veranderd(ervoor), u"Bestandsnaam PuzzelNaam"_s); // the name is taken before
+        QVERIFY(Geheugen() - geheugen < 64 << 20);
     }
 
-    void sizesOutsideTheListsAreTaken_data()
+    void anyOtherSizeIsTaken_data()
     {
-        QTest::addColumn<QString>("tekst");
-        QTest::addColumn<int>("maat");
-        QTest::newRow("zero") << "0" << 0;
-        QTest::newRow("larger") << "20" << 20;
-        QTest::newRow("rounded to even") << "10.5" << 10;
-        QTest::newRow("blanks") << " 11 " << 11;
+        QTest::addColumn<QString>("breedte");
+        QTest::addColumn<QString>("hoogte");
+        QTest::addColumn<QSize>("maat");
+        Geval("nothing", "0", "0", QSize(0, 0));
+        Geval("no height", "240", "0", QSize(240, 0));
+        Geval("no width", "0", "290", QSize(0, 290));
+        Geval("smaller", "8", "1", QSize(8, 1));
+        Geval("larger", "20", "21", QSize(20, 21));
+        Geval("rounded to even", "10.5", "11.5", QSize(10, 12));
+        Geval("blanks", " 11 ", "12", QSize(11, 12));
+        Geval("widest", "244", "19", QSize(244, 19));
+        Geval("highest", "16", "290", QSize(16, 290));
+        Geval("largest", "68", "68", QSize(68, 68));
     }
-    void sizesOutsideTheListsAreTaken()
+    void anyOtherSizeIsTaken()
     {
-        QFETCH(QString, tekst);
-        QFETCH(int, maat);
+        QFETCH(QString, breedte);
+        QFETCH(QString, hoogte);
+        QFETCH(QSize, maat);
         Bord bord;
+        bord.Venster.show();
+        const qint64 geheugen = Geheugen();
         NieuwForm form;
-        form.Text1->setText(u"naam"_s);
-        form.Combo1->setEditText(tekst);
-        form.Combo2->setEditText(tekst);
-        form.OkKnop_Click();
-        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(maat, maat));
-        QCOMPARE(bord.Pic().size(), QSize(maat * 30 + 1, maat * 30 + 1));
+        VulIn(form, u"naam"_s, breedte, hoogte);
+        const std::clock_t begin = std::clock();
+        form.OkKnop->click();
+        const double seconden = double(std::clock() - begin) / CLOCKS_PER_SEC;
+        const qint64 erbij = Geheugen() - geheugen;
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        QCOMPARE(QSize(BoardWidth, BoardHeight), maat);
+        QCOMPARE(bord.Venster.Pic->size(), QSize(maat.width() * 30 + 1, maat.height() * 30 + 1));
+        QCOMPARE(bord.Venster.PicGroot->size(), QSize(maat.width() * 120 + 3, maat.height() * 120 + 3));
+        QVERIFY2(seconden < 1, qPrintable(QString::number(seconden)));
+        QVERIFY2(erbij < qint64{256 + 64} << 20, qPrintable(QString::number(erbij >> 20)));
+        QVERIFY(!bord.Venster.grab().isNull()); // all is painted, and nothing raised on the way
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
     void closingDuringTheSecondWaitChangesNothing()
     {
         Bord bord;
+        const Stand ervoor = bord.Nu();
         NieuwForm form;
         form.show();
-        form.Text1->setText(u"naam"_s);
+        VulIn(form, u"naam"_s, u"12"_s, u"14"_s);
         QTimer::singleShot(0, &form, [&form] { // the first wait; the next turn of events is in the second one
             QTimer::singleShot(0, &form, [&form] { form.Unload(); });
         });
-        QVERIFY_EXCEPTION_THROWN(form.OkKnop_Click(), Afgebroken);
+        QVERIFY_THROWS_EXCEPTION(Afgebroken, form.OkKnop_Click());
         QVERIFY(form.Unloaded());
-        QVERIFY(PuzzelNaam.isEmpty());
-        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.4) < 1e-6);
+        QCOMPARE(bord.Veranderd(ervoor), QString());
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
     }
 
     void cancelChangesNothing()
     {
         Bord bord;
+        Vul(bord);
+        const Stand ervoor = bord.Nu();
         NieuwForm form;
-        form.Text1->setText(u"naam"_s);
-        form.Option[3]->click();
-        form.CancelKnop_Click();
+        VulIn(form, u"naam"_s, u"12"_s, u"14"_s, 3);
+        form.CancelKnop->click();
         QVERIFY(form.Unloaded());
-        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.4) < 1e-6);
-        QVERIFY(PuzzelNaam.isEmpty());
-        QCOMPARE(PuzzelType, Zweeds);
-        QCOMPARE(bord.Venster.Bestandsnaam->text(), u"Puzzelnaam"_s);
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 };
 

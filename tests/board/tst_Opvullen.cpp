@@ -3,57 +3,115 @@
 #include "support/Bord.h"
 
 #include <QGuiApplication>
-#include <QTimer>
+#include <QPainter>
+
+#include <random>
 
 using namespace Qt::StringLiterals;
 
-/// Sees the pointer while the fill waits.
-class ZandloperKlok : public DirecteKlok
+/// What the fill asked of the random generator and of the clock, in its order.
+static QStringList Verloop;
+/// The letters that the generator gives, one after the other and round again.
+static QString Letters;
+static qsizetype Gegeven;
+
+// This program has a random generator of its own, linked in place of the real one.
+void Toeval::Randomize()
+{
+    Verloop += u"Randomize"_s;
+}
+double Toeval::Rnd()
+{
+    Verloop += u"Rnd"_s;
+    const QChar letter = Letters[Gegeven++ % Letters.size()];
+    return (letter.unicode() - u'A' + (Gegeven % 2 == 0 ? 0.001 : 0.999)) /
+           26; // from edge to edge of the letter's part
+}
+void Toeval::Zaad(std::uint32_t) {}
+void Toeval::ZonderZaad() {}
+
+/// Notes each wait, and what is seen meanwhile.
+class KijkKlok : public DirecteKlok
 {
 public:
     void Slaap(double seconden, QEventLoop::ProcessEventsFlags welke) override
     {
         const QCursor *pointer = QGuiApplication::overrideCursor();
-        Zandloper = pointer && pointer->shape() == Qt::WaitCursor;
+        Verloop += u"%1 s"_s.arg(seconden, 0, 'g', 3);
+        Zandloper = Zandloper && pointer && pointer->shape() == Qt::WaitCursor;
+        InTwips = InTwips && Main().Pic->ScaleMode() == ScaleModes::Twips;
         Welke = welke;
         DirecteKlok::Slaap(seconden, welke);
     }
-    bool Zandloper = false;
+    bool Zandloper = true;
+    bool InTwips = true; ///< what is painted meanwhile counts on it
     QEventLoop::ProcessEventsFlags Welke;
 };
 
 class tst_Opvullen : public QObject
 {
     Q_OBJECT
+
+    /// The board with a letter in each cell, column after column, each printed by itself.
+    static QImage MetLetters(const QImage &pic, int breedte, int hoogte, const QString &letters)
+    {
+        QImage beeld = pic;
+        QPainter painter(&beeld);
+        for (int kolom = 0; kolom < breedte; ++kolom)
+            for (int rij = 0; rij < hoogte; ++rij) {
+                const QChar letter = letters[(kolom * hoogte + rij) % letters.size()];
+                const int x = letter == u'W' ? 8 : letter == u'I' ? 15 : 11;
+                const QImage los = Gedrukt({31, 31}, QString(letter), x, 7, u"Arial"_s, 12, true, qRgb(80, 80, 80));
+                painter.drawImage(kolom * 30 + 1, rij * 30 + 1, los, 1, 1, 29, 29);
+            }
+        return beeld;
+    }
+
 private slots:
+    void init()
+    {
+        Letters = u"QWERTYUIOPASDFGHJKLZXCVBNM"_s;
+        Gegeven = 0;
+        Verloop.clear();
+    }
+
+    void everyEmptyCellGetsALetter_data()
+    {
+        QTest::addColumn<QSize>("maat");
+        QTest::addColumn<QString>("letters");
+        Geval("largest", QSize(16, 19), "QWERTYUIOPASDFGHJKLZXCVBNM");
+        Geval("smallest", QSize(9, 9), "AZ");
+        Geval("wide letters", QSize(9, 10), "W");
+        Geval("narrow letters", QSize(10, 9), "I");
+    }
     void everyEmptyCellGetsALetter()
     {
+        QFETCH(QSize, maat);
+        QFETCH(QString, letters);
+        Letters = letters;
         Bord bord;
-        bord.Begin(Woordzoeker, 16, 19);
-        const QImage groot = bord.Groot();
-        Toeval::Zaad(1);
+        bord.Begin(Woordzoeker, maat.width(), maat.height());
+        const Stand ervoor = bord.Nu();
+        const QImage leeg = bord.Pic();
         VulLegeVakjes();
-        const QImage pic = bord.Pic();
-        for (int kolom = 0; kolom < 16; ++kolom)
-            for (int rij = 0; rij < 19; ++rij)
-                QVERIFY(HeeftInkt(pic, Binnen(kolom, rij)));
-        QVERIFY(bord.Groot() == groot);
-        QVERIFY(!PuzzelGewijzigd);
-        QVERIFY(bord.Venster.Pic->ScaleMode() == ScaleModes::Twips);
+        QCOMPARE(bord.Pic(), MetLetters(leeg, maat.width(), maat.height(), letters));
+        QCOMPARE(bord.Veranderd(ervoor), u"Pic"_s); // the puzzle doesn't count as changed
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void aSecondFillChangesNothing()
     {
-        Bord bord;
-        bord.Begin(Woordzoeker, 16, 19);
-        for (quint32 zaad = 0; zaad < 5; ++zaad) {
-            Toeval::Zaad(zaad);
-            TekenRaster(16, 19);
+        std::mt19937 reeks(2026);
+        for (int keer = 0; keer < 5; ++keer) {
+            Letters.clear();
+            for (int i = 0; i < 304; ++i)
+                Letters += QChar(u'A' + static_cast<char16_t>(reeks() % 26));
+            Bord bord;
+            bord.Begin(Woordzoeker, 16, 19);
             VulLegeVakjes();
-            const QImage eens = bord.Pic();
+            const Stand eens = bord.Nu();
             VulLegeVakjes();
-            QVERIFY(bord.Pic() == eens);
+            QCOMPARE(bord.Veranderd(eens), QString());
         }
     }
 
@@ -76,58 +134,78 @@ private slots:
                      qPrintable(QString(QChar(65 + letter))));
     }
 
+    void onlyTheMiddleLineDecides_data()
+    {
+        QTest::addColumn<QPoint>("pixel"); // from the corner of the cell
+        QTest::addColumn<QRgb>("kleur");
+        QTest::addColumn<bool>("vol");
+        Geval("nearly white", QPoint(15, 15), qRgb(254, 255, 255), true);
+        Geval("nearly white green", QPoint(15, 15), qRgb(255, 254, 255), true);
+        Geval("nearly white blue", QPoint(15, 15), qRgb(255, 255, 254), true);
+        Geval("white", QPoint(15, 15), qRgb(255, 255, 255), false);
+        Geval("first of the line", QPoint(6, 15), qRgb(0, 0, 0), true);
+        Geval("last of the line", QPoint(23, 15), qRgb(0, 0, 0), true);
+        Geval("before it", QPoint(5, 15), qRgb(0, 0, 0), false);
+        Geval("behind it", QPoint(24, 15), qRgb(0, 0, 0), false);
+        Geval("the line above", QPoint(15, 14), qRgb(0, 0, 0), false);
+        Geval("the line below", QPoint(15, 16), qRgb(0, 0, 0), false);
+    }
     void onlyTheMiddleLineDecides()
+    {
+        QFETCH(QPoint, pixel);
+        QFETCH(QRgb, kleur);
+        QFETCH(bool, vol);
+        Letters = u"M"_s;
+        Bord bord;
+        bord.Begin(Woordzoeker, 9, 9);
+        for (int kolom = 0; kolom < 9; ++kolom)
+            for (int rij = 0; rij < 9; ++rij)
+                bord.Venster.Pic->SetPixel(kolom * 30 + pixel.x(), rij * 30 + pixel.y(), kleur);
+        VulLegeVakjes();
+        QCOMPARE(Verloop.count(u"Rnd"_s), vol ? 0 : 81);
+    }
+
+    void eachLetterBeginsANewSeries()
+    {
+        Bord bord;
+        bord.Begin(Woordzoeker, 9, 10);
+        KijkKlok klok;
+        Klok::Gebruik(&klok);
+        VulLegeVakjes();
+        QStringList verwacht;
+        for (int cel = 0; cel < 90; ++cel)
+            verwacht += {u"Randomize"_s, u"Rnd"_s, u"0.01 s"_s};
+        QCOMPARE(Verloop, verwacht);
+    }
+
+    void aFilledCellTakesItsTimeToo()
     {
         Bord bord;
         bord.Begin(Woordzoeker, 9, 9);
-        PictureBox &pic = *bord.Venster.Pic;
-        pic.SetPixel(30 + 6, 15, qRgb(254, 255, 255)); // first pixel of the line in cell B-01: filled
-        pic.SetPixel(60 + 23, 15, qRgb(0, 0, 0));      // last one in C-01: filled
-        pic.SetPixel(90 + 5, 15, qRgb(0, 0, 0));       // one before it in D-01: empty
-        pic.SetPixel(120 + 24, 15, qRgb(0, 0, 0));     // one behind it in E-01: empty
-        pic.SetPixel(150 + 15, 14, qRgb(0, 0, 0));     // another line in F-01: empty
         VulLegeVakjes();
-        const QImage beeld = bord.Pic();
-        const auto inktInCel = [&](int kolom) { return InktVlak(beeld, Binnen(kolom, 0)).width() > 3; };
-        QVERIFY(!inktInCel(1));
-        QVERIFY(!inktInCel(2));
-        QVERIFY(inktInCel(3));
-        QVERIFY(inktInCel(4));
-        QVERIFY(inktInCel(5));
-    }
-
-    void wideAndNarrowLettersAreMoved()
-    {
-        // Of each letter, the first that the series gives: its ink against the same letter printed without moving.
-        Bord bord;
-        bord.Begin(Woordzoeker, 16, 19);
-        Toeval::Zaad(4);
+        bord.Klik(Qt::RightButton, 0, 1);
+        bord.Klik(Qt::RightButton, 0, 1); // one cell is empty again
+        KijkKlok klok;
+        Klok::Gebruik(&klok);
+        Verloop.clear();
         VulLegeVakjes();
-        const QImage pic = bord.Pic();
-        Toeval::Zaad(4);
-        QStringList gezien;
-        for (int kolom = 0; kolom < 16; ++kolom)
-            for (int rij = 0; rij < 19; ++rij) {
-                const QString letter(QChar(65 + static_cast<int>(Toeval::Rnd() * 26)));
-                const int verschuiving = letter == "W"_L1 ? -3 : letter == "I"_L1 ? 4 : 0;
-                const QImage los =
-                    Gedrukt({31, 31}, letter, 11 + verschuiving, 7, u"Arial"_s, 12, true, qRgb(80, 80, 80));
-                QVERIFY(pic.copy(Binnen(kolom, rij)) == los.copy(QRect(1, 1, 29, 29)));
-                gezien += letter;
-            }
-        QVERIFY(gezien.contains(u"W"_s) && gezien.contains(u"I"_s));
+        QStringList verwacht(81, u"0.01 s"_s);
+        verwacht.insert(1, u"Randomize"_s);
+        verwacht.insert(2, u"Rnd"_s);
+        QCOMPARE(Verloop, verwacht);
     }
 
     void theFillCanBeSeenAsItRuns()
     {
         Bord bord;
-        ZandloperKlok klok;
+        bord.Begin(Woordzoeker, 9, 9);
+        KijkKlok klok;
         Klok::Gebruik(&klok);
-        bord.Begin(Woordzoeker, 9, 10);
         VulLegeVakjes();
-        QVERIFY(qAbs(klok.Gewacht() - 0.01 * 90) < 1e-6);
         QVERIFY(klok.Zandloper);
-        QCOMPARE(klok.Welke, QEventLoop::ExcludeUserInputEvents);
+        QVERIFY(klok.InTwips);
+        QCOMPARE(klok.Welke, QEventLoop::ExcludeUserInputEvents); // clicks and keys wait until it is done
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 };
 

@@ -1,158 +1,172 @@
 #include "board/Raster.h"
 #include "support/Bord.h"
 
+#include <QFontMetricsF>
+#include <QPainter>
+
 using namespace Qt::StringLiterals;
 
 static const QRgb Lijn = qRgb(150, 150, 150);
 static const QRgb Wit = qRgb(255, 255, 255);
 static const QRgb Zwart = qRgb(0, 0, 0);
 
+static QImage Doek(int breedte, int hoogte, QRgb kleur)
+{
+    QImage beeld(breedte, hoogte, QImage::Format_RGB32);
+    beeld.fill(kleur);
+    return beeld;
+}
+
+/// What the boards and their rulers should be, drawn by the toolkit itself, in pixels.
+static QImage Raster(int breedte, int hoogte, const QList<int> &banden = {})
+{
+    QImage beeld = Doek(breedte * 30 + 1, hoogte * 30 + 1, Wit);
+    QPainter painter(&beeld);
+    for (int x = 0; x <= breedte; ++x)
+        painter.fillRect(x * 30, 0, 1, beeld.height(), QColor(Lijn));
+    for (int y = 0; y <= hoogte; ++y)
+        painter.fillRect(0, y * 30, beeld.width(), 1, QColor(Lijn));
+    for (const int band : banden) {
+        painter.fillRect(band, 0, 3, beeld.height(), QColor(Lijn));
+        painter.fillRect(0, band, beeld.width(), 3, QColor(Lijn));
+    }
+    return beeld;
+}
+
+static QImage Tegels(const QImage &tegel, int breedte, int hoogte, const QList<int> &banden = {})
+{
+    QImage beeld = Doek(breedte * 120 + 3, hoogte * 120 + 3, Wit);
+    QPainter painter(&beeld);
+    for (int x = 0; x < breedte; ++x)
+        for (int y = 0; y < hoogte; ++y)
+            painter.drawImage(x * 120, y * 120, tegel);
+    for (const int band : banden) {
+        painter.fillRect(band, 0, 10, beeld.height(), QColor(Zwart));
+        painter.fillRect(0, band, beeld.width(), 10, QColor(Zwart));
+    }
+    return beeld;
+}
+
+/// A ruler with so many texts, each a step further on than the one before.
+static QImage Liniaal(int breedte, int hoogte, QPoint plaats, QPoint stap, const QStringList &teksten)
+{
+    QFont font(u"Liberation Sans"_s);
+    font.setPixelSize(13);
+    font.setBold(true);
+    font.setHintingPreference(QFont::PreferNoHinting);
+    font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    QImage beeld = Doek(breedte, hoogte, qRgb(230, 230, 190));
+    QPainter painter(&beeld);
+    painter.setFont(font);
+    plaats.ry() += qRound(QFontMetricsF(font).ascent());
+    for (const QString &tekst : teksten) {
+        painter.drawText(plaats, tekst);
+        plaats += stap;
+    }
+    return beeld;
+}
+
+static QImage Rijnummers(int hoogte)
+{
+    const QStringList nummers = u"01 02 03 04 05 06 07 08 09 10 11 12 13 14 15 16 17 18 19"_s.split(u' ');
+    return Liniaal(30, hoogte * 30 + 14, QPoint(6, 14), QPoint(0, 30), nummers.first(hoogte));
+}
+
+static QImage Kolomletters(int breedte)
+{
+    const QStringList letters = u"A B C D E F G H I J K L M N O P"_s.split(u' ');
+    return Liniaal(breedte * 30 + 14, 20, QPoint(17, 2), QPoint(30, 0), letters.first(breedte));
+}
+
 class tst_Raster : public QObject
 {
     Q_OBJECT
-
-    /// Whether every pixel of a rectangle has this colour.
-    static bool IsVlak(const QImage &beeld, QRect vlak, QRgb kleur)
-    {
-        return beeld.rect().contains(vlak) && !HeeftInkt(beeld, vlak, kleur);
-    }
-
 private slots:
-    void sizesOfTheBoards_data()
+    void theWholeBoard_data()
     {
+        QTest::addColumn<quint8>("soort");
         QTest::addColumn<int>("breedte");
         QTest::addColumn<int>("hoogte");
-        QTest::newRow("largest") << 16 << 19;
-        QTest::newRow("smallest") << 9 << 9;
-        QTest::newRow("wide") << 16 << 9;
+        Geval("largest", Zweeds, 16, 19);
+        Geval("smallest", Zweeds, 9, 9);
+        Geval("wide", Woordzoeker, 16, 9);
+        Geval("high", Kruiswoord, 9, 19);
+        Geval("in between", Zweeds, 12, 14);
+        Geval("Sudoku", Sudoku, 9, 9);
+        Geval("Filippine", Filippine, 16, 19);
     }
-    void sizesOfTheBoards()
+    void theWholeBoard()
     {
+        QFETCH(quint8, soort);
         QFETCH(int, breedte);
         QFETCH(int, hoogte);
-        Bord bord;
-        bord.Begin(Zweeds, breedte, hoogte);
-        QCOMPARE(bord.Pic().size(), QSize(breedte * 30 + 1, hoogte * 30 + 1));
-        QCOMPARE(bord.Groot().size(), QSize(breedte * 120 + 3, hoogte * 120 + 3));
-        QCOMPARE(bord.Venster.Label1->size(), QSize(breedte * 30 + 14, hoogte * 30 + 14));
-        QCOMPARE(bord.Venster.Frame8->width(), breedte * 30 + 14);
-        QCOMPARE(bord.Venster.PicR->x(), breedte * 30 + 14 + 13);
-        QCOMPARE(bord.Venster.PicR->height(), hoogte * 30 + 14);
-        QCOMPARE(bord.Venster.PicO->y(), hoogte * 30 + 14 + 53);
-        QCOMPARE(bord.Venster.PicO->width(), breedte * 30 + 14);
-    }
-
-    void gridLinesLieOnMultiplesOfACell()
-    {
-        Bord bord;
-        const QImage pic = bord.Pic();
-        for (int y = 0; y < pic.height(); ++y)
-            for (int x = 0; x < pic.width(); ++x)
-                if (pic.pixel(x, y) != (x % 30 == 0 || y % 30 == 0 ? Lijn : Wit))
-                    QFAIL(qPrintable(u"pixel %1, %2"_s.arg(x).arg(y)));
-    }
-
-    void aSudokuHasBandsRoundItsBoxes()
-    {
-        Bord bord;
-        bord.Begin(Sudoku, 9, 9);
-        const QImage pic = bord.Pic();
-        for (const int band : {89, 179}) {
-            QVERIFY(IsVlak(pic, QRect(band, 0, 3, 271), Lijn));
-            QVERIFY(IsVlak(pic, QRect(0, band, 271, 3), Lijn));
-            QCOMPARE(pic.pixel(band - 1, 15), Wit);
-            QCOMPARE(pic.pixel(band + 3, 15), Wit);
-            QCOMPARE(pic.pixel(15, band - 1), Wit);
-            QCOMPARE(pic.pixel(15, band + 3), Wit);
+        const bool isSudoku = soort == Sudoku;
+        Testbank bank;
+        MainForm main; // nothing has been drawn on it yet
+        const QImage tegel = main.PicVak->Image();
+        PuzzelType = soort;
+        for (const bool vuil : {false, true}) { // the second time over what was drawn meanwhile
+            if (vuil) {
+                main.Pic->BoxFull(0, 0, 1e5, 1e5, Zwart);
+                main.PicGroot->BoxFull(0, 0, 1e6, 1e6, Zwart);
+            }
+            TekenBord(breedte, hoogte);
+            QCOMPARE(main.Pic->Image(), Raster(breedte, hoogte, isSudoku ? QList{89, 179} : QList<int>()));
+            QCOMPARE(main.PicGroot->Image(), Tegels(tegel, breedte, hoogte, isSudoku ? QList{357, 717} : QList<int>()));
+            QCOMPARE(main.PicR->Image(), Rijnummers(hoogte));
+            QCOMPARE(main.PicO->Image(), Kolomletters(breedte));
         }
-        const QImage groot = bord.Groot();
-        for (const int band : {357, 717}) {
-            QVERIFY(IsVlak(groot, QRect(band, 0, 10, 1083), Zwart));
-            QVERIFY(IsVlak(groot, QRect(0, band, 1083, 10), Zwart));
-            QCOMPARE(groot.pixel(band - 1, 60), Wit);
-            QCOMPARE(groot.pixel(band + 10, 60), Wit);
-        }
+        QCOMPARE(main.Label1->geometry(), QRect(12, 52, breedte * 30 + 14, hoogte * 30 + 14));
+        QCOMPARE(main.Frame8->geometry(), QRect(12, 6, breedte * 30 + 14, 36));
+        QCOMPARE(main.Pic->pos(), QPoint(18, 58));
+        QCOMPARE(main.PicR->pos(), QPoint(breedte * 30 + 14 + 13, 52));
+        QCOMPARE(main.PicO->pos(), QPoint(12, hoogte * 30 + 14 + 53));
     }
 
-    void otherKindsHaveNoBands()
-    {
-        Bord bord;
-        bord.Begin(Kruiswoord, 9, 9);
-        QCOMPARE(bord.Pic().pixel(89, 15), Wit);
-        QCOMPARE(bord.Groot().pixel(357, 60), Wit);
-    }
-
-    void theLargeBoardIsTiledWithOverlappingFrames()
+    void theTileIsWhiteInAThinFrame()
     {
         Bord bord;
         const QImage tegel = bord.Venster.PicVak->Image();
         QCOMPARE(tegel.size(), QSize(123, 123));
-        const QImage groot = bord.Groot();
-        for (const QPoint cel : {QPoint(0, 0), QPoint(7, 9), QPoint(15, 18)})
-            QVERIFY(groot.copy(QRect(cel * 120, tegel.size())) == tegel);
-        QVERIFY(IsVlak(groot, BinnenGroot(3, 3), Wit));
-        QVERIFY(groot.pixel(2, 60) != Wit);
+        for (int y = 0; y < 123; ++y)
+            for (int x = 0; x < 123; ++x)
+                QCOMPARE(tegel.pixel(x, y) == Wit, QRect(3, 3, 117, 117).contains(x, y));
     }
 
-    void drawingAgainWipesBothBoards()
+    void theHiddenPartOfTheBoardIsWipedToo()
     {
         Bord bord;
         bord.Venster.Pic->BoxFull(0, 0, 7215, 8565, Zwart);
         bord.Venster.PicGroot->BoxFull(0, 0, 28845, 34245, Zwart);
         bord.Begin(Zweeds, 9, 9);
         bord.Begin(Zweeds, 16, 19);
-        QVERIFY(IsVlak(bord.Pic(), Binnen(15, 18), Wit));
-        QVERIFY(IsVlak(bord.Groot(), BinnenGroot(15, 18), Wit));
-    }
-
-    void nineByNineHasNineLettersAndNineNumbers()
-    {
-        Bord bord;
-        const QRgb achter = qRgb(230, 230, 190);
-        bord.Begin(Zweeds, 9, 9);
-        const QImage rijen = bord.Venster.PicR->Image(), kolommen = bord.Venster.PicO->Image();
-        int nummers = 0, letters = 0;
-        for (int i = 0; i < 19; ++i) {
-            nummers += HeeftInkt(rijen, QRect(0, 14 + i * 30, 30, 16), achter);
-            letters += HeeftInkt(kolommen, QRect(13 + i * 30, 0, 20, 20), achter);
-        }
-        QCOMPARE(nummers, 9);
-        QCOMPARE(letters, 9);
-    }
-
-    void theRulersShowLettersAndTwoDigits()
-    {
-        Bord bord;
-        const QRgb achter = qRgb(230, 230, 190);
-        const auto letter = [&](const QString &tekst, int x, int y, QSize maat) {
-            QImage beeld = Gedrukt(maat, tekst, x, y, u"Arial"_s, 9.75, true, Zwart);
-            return InktVlak(beeld, beeld.rect());
-        };
-        const QImage rijen = bord.Venster.PicR->Image(), kolommen = bord.Venster.PicO->Image();
-        QCOMPARE(InktVlak(rijen, QRect(0, 10, 30, 24), achter), letter(u"01"_s, 6, 14, {30, 40}));
-        QCOMPARE(InktVlak(kolommen, QRect(10, 0, 24, 20), achter), letter(u"A"_s, 17, 2, {40, 20}));
-        QCOMPARE(InktVlak(kolommen, QRect(460, 0, 24, 20), achter).left(),
-                 letter(u"P"_s, 17 + 450, 2, {500, 20}).left());
+        QCOMPARE(bord.Pic(), Raster(16, 19));
+        QCOMPARE(bord.Groot(), Tegels(bord.Venster.PicVak->Image(), 16, 19));
     }
 
     void theRulersKeepWhatALargerBoardLeft()
     {
         Bord bord;
-        const QImage ervoor = bord.Venster.PicR->Image();
         bord.Begin(Zweeds, 9, 9);
-        QCOMPARE(bord.Venster.PicR->Image().height(), 9 * 30 + 14);
-        bord.Venster.PicR->SetSize(450, 8760); // shown again as it was, though only nine numbers were drawn anew
-        const QRect onder(0, 10 * 30, 30, 9 * 30);
-        QVERIFY(bord.Venster.PicR->Image().copy(onder) == ervoor.copy(onder));
+        QCOMPARE(bord.Venster.PicR->Image(), Rijnummers(9));
+        QCOMPARE(bord.Venster.PicO->Image(), Kolomletters(9));
+        bord.Venster.PicR->SetSize(450, 8760); // shown again as they were, though only nine were drawn anew
+        bord.Venster.PicO->SetSize(7410, 300);
+        QCOMPARE(bord.Venster.PicR->Image(), Rijnummers(19));
+        QCOMPARE(bord.Venster.PicO->Image(), Kolomletters(16));
     }
 
-    void drawingTheRulersAgainDoesNotThickenThem()
+    void theRulersAreDrawnOverWhatStandsOnThem()
     {
         Bord bord;
-        const QImage rijen = bord.Venster.PicR->Image(), kolommen = bord.Venster.PicO->Image();
+        bord.Venster.PicR->SetPixel(29, 200, Zwart);
+        bord.Venster.PicO->SetPixel(3, 19, Zwart);
         bord.Begin(Zweeds, 16, 19);
-        QVERIFY(bord.Venster.PicR->Image() == rijen);
-        QVERIFY(bord.Venster.PicO->Image() == kolommen);
+        QImage rijen = Rijnummers(19), kolommen = Kolomletters(16);
+        rijen.setPixel(29, 200, Zwart);
+        kolommen.setPixel(3, 19, Zwart);
+        QCOMPARE(bord.Venster.PicR->Image(), rijen);
+        QCOMPARE(bord.Venster.PicO->Image(), kolommen);
     }
 
     void impossibleSizesChangeNothing_data()
@@ -160,13 +174,13 @@ private slots:
         QTest::addColumn<int>("breedte");
         QTest::addColumn<int>("hoogte");
         QTest::addColumn<int>("fout");
-        QTest::newRow("negative") << -1 << 9 << int(Fout::OngeldigeWaarde);
-        QTest::newRow("negative height") << 9 << -1 << int(Fout::OngeldigeWaarde);
-        QTest::newRow("hundred thousand") << 100000 << 100000 << int(Fout::GeheugenVol);
-        QTest::newRow("hundred") << 100 << 100 << int(Fout::GeheugenVol);
-        QTest::newRow("wide without a height") << 150000 << 0 << int(Fout::GeheugenVol);
-        QTest::newRow("high without a width") << 0 << 150000 << int(Fout::GeheugenVol);
-        QTest::newRow("largest number") << 2147483647 << 2147483647 << int(Fout::GeheugenVol);
+        Geval("negative", -1, 9, int(Fout::OngeldigeWaarde));
+        Geval("negative height", 9, -1, int(Fout::OngeldigeWaarde));
+        Geval("hundred thousand", 100000, 100000, int(Fout::GeheugenVol));
+        Geval("hundred", 100, 100, int(Fout::GeheugenVol));
+        Geval("wide without a height", 150000, 0, int(Fout::GeheugenVol));
+        Geval("high without a width", 0, 150000, int(Fout::GeheugenVol));
+        Geval("largest number", 2147483647, 2147483647, int(Fout::GeheugenVol));
     }
     void impossibleSizesChangeNothing()
     {
@@ -175,21 +189,59 @@ private slots:
         QFETCH(int, fout);
         Bord bord;
         bord.Venster.Pic->BoxFull(15, 15, 400, 400, Zwart);
-        const QImage pic = bord.Pic(), groot = bord.Groot();
+        const Stand ervoor = bord.Nu();
+        QCOMPARE(FoutVan([&] { ControleerBord(breedte, hoogte); }), fout);
         QCOMPARE(FoutVan([&] { TekenRaster(breedte, hoogte); }), fout);
         QCOMPARE(FoutVan([&] { TekenGroot(breedte, hoogte); }), fout);
-        QVERIFY(bord.Pic() == pic);
-        QVERIFY(bord.Groot() == groot);
+        QCOMPARE(FoutVan([&] { TekenBord(breedte, hoogte); }), fout);
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
+    // Each of the four pictures can be the one that is too large: here its hidden part leaves no room to grow.
+    void everyPictureIsLookedAtBeforehand_data()
+    {
+        QTest::addColumn<QString>("naam");
+        for (const char *naam : {"Pic", "PicGroot", "PicR", "PicO"})
+            Geval(naam, naam);
+    }
+    void everyPictureIsLookedAtBeforehand()
+    {
+        QFETCH(QString, naam);
+        Bord bord;
+        QCOMPARE(FoutVan([] { ControleerBord(17, 20); }), 0);
+        auto *box = Vind<PictureBox>(bord.Venster, naam);
+        const QSize maat = box->size();
+        constexpr int Most = 1 << 26; // pixels
+        if (naam == "PicR"_L1)
+            box->resize(Most / maat.height(), maat.height()); // it grows downward only
+        else
+            box->resize(maat.width(), Most / maat.width());
+        box->SetPixel(0, 0, Zwart);
+        box->resize(maat);
+        QCOMPARE(FoutVan([] { ControleerBord(16, 19); }), 0);
+        QCOMPARE(FoutVan([] { ControleerBord(17, 20); }), int(Fout::GeheugenVol));
+    }
+
+    void zeroAndForeignSizesAreTakenAsTheyStand_data()
+    {
+        QTest::addColumn<int>("breedte");
+        QTest::addColumn<int>("hoogte");
+        Geval("nothing", 0, 0);
+        Geval("no height", 12, 0);
+        Geval("no width", 0, 12);
+        Geval("one cell", 1, 1);
+        Geval("wide", 40, 3);
+    }
     void zeroAndForeignSizesAreTakenAsTheyStand()
     {
+        QFETCH(int, breedte);
+        QFETCH(int, hoogte);
         Bord bord;
-        bord.Begin(Zweeds, 0, 0);
-        QCOMPARE(bord.Pic().size(), QSize(1, 1));
-        QVERIFY(IsVlak(bord.Groot(), QRect(0, 0, 3, 3), Wit));
-        bord.Begin(Zweeds, 40, 3);
-        QCOMPARE(bord.Pic().size(), QSize(40 * 30 + 1, 3 * 30 + 1));
+        bord.Venster.PicGroot->BoxFull(0, 0, 1e6, 1e6, Zwart);
+        bord.Begin(Zweeds, breedte, hoogte);
+        QCOMPARE(bord.Pic(), Raster(breedte, hoogte));
+        QCOMPARE(bord.Groot(), Tegels(bord.Venster.PicVak->Image(), breedte, hoogte));
+        QCOMPARE(bord.Venster.Label1->size(), QSize(breedte * 30 + 14, hoogte * 30 + 14));
     }
 };
 

@@ -1,14 +1,25 @@
 #include "board/MainForm.h"
+#include "board/NieuwForm.h"
 #include "board/Soorten.h"
+#include "documents/OpenFile.h"
+#include "documents/SaveForm.h"
 #include "support/Bord.h"
 
 #include <QMouseEvent>
+#include <QPainter>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
 static const QRgb Wit = qRgb(255, 255, 255);
 static const QRgb Donker = qRgb(60, 60, 60);
+
+/// The picture with a rectangle of it in one colour.
+static QImage Met(QImage beeld, QRect vlak, QRgb kleur)
+{
+    QPainter(&beeld).fillRect(vlak, QColor(kleur));
+    return beeld;
+}
 
 class tst_Selectie : public QObject
 {
@@ -19,11 +30,11 @@ private slots:
         QTest::addColumn<double>("x");
         QTest::addColumn<double>("y");
         QTest::addColumn<QString>("opschrift");
-        QTest::newRow("first") << 15.0 << 15.0 << "A-01 / 1";
-        QTest::newRow("C-07") << 2 * 450.0 + 225 << 6 * 450.0 + 225 << "C-07 / 99";
-        QTest::newRow("ninth row") << 15.0 << 8 * 450.0 + 15 << "A-09 / 129";
-        QTest::newRow("tenth row") << 15.0 << 9 * 450.0 + 15 << "A-10 / 145";
-        QTest::newRow("last") << 16 * 450.0 - 15 << 19 * 450.0 - 15 << "P-19 / 304";
+        Geval("first", 15.0, 15.0, "A-01 / 1");
+        Geval("C-07", 2 * 450.0 + 225, 6 * 450.0 + 225, "C-07 / 99");
+        Geval("ninth row", 15.0, 8 * 450.0 + 15, "A-09 / 129");
+        Geval("tenth row", 15.0, 9 * 450.0 + 15, "A-10 / 145");
+        Geval("last", 16 * 450.0 - 15, 19 * 450.0 - 15, "P-19 / 304");
     }
     void thePointerChoosesTheCell()
     {
@@ -35,16 +46,35 @@ private slots:
         QCOMPARE(bord.Venster.Label6->Caption(), opschrift);
     }
 
+    void everyCellIsFoundFromEdgeToEdge()
+    {
+        Bord bord;
+        for (int kolom = 0; kolom < 16; ++kolom)
+            for (int rij = 0; rij < 19; ++rij)
+                for (const int binnen : {15, 435}) {
+                    bord.Venster.Pic_MouseMove(kolom * 450 + binnen, rij * 450 + 450 - binnen);
+                    QCOMPARE(CurCol, kolom);
+                    QCOMPARE(CurRow, rij);
+                    QCOMPARE(CurCell, 16 * rij + kolom + 1);
+                }
+    }
+
     void onAGridLineTheEarlierCellStays()
     {
         Bord bord;
-        bord.Wijs(1, 3);
-        bord.Venster.Pic_MouseMove(900, 225);
-        QCOMPARE(CurCol, 1);
-        QCOMPARE(CurRow, 0);
-        bord.Venster.Pic_MouseMove(225, 900);
-        QCOMPARE(CurCol, 0);
-        QCOMPARE(CurRow, 0);
+        for (int kolom = 0; kolom < 16; ++kolom)
+            for (int rij = 0; rij < 19; ++rij) {
+                const auto blijft = [&](int x, int y, int kolomDan, int rijDan) {
+                    bord.Wijs(kolom, rij);
+                    bord.Venster.Pic_MouseMove(x, y);
+                    return CurCol == kolomDan && CurRow == rijDan && CurCell == 16 * rijDan + kolomDan + 1;
+                };
+                QVERIFY(blijft(900, 2 * 450 + 225, kolom, 2)); // from column B, and from any other one
+                QVERIFY(blijft(5 * 450 + 225, 900, 5, rij));
+                QVERIFY(blijft(0, 0, kolom, rij));
+                QVERIFY(blijft(16 * 450, 19 * 450, kolom, rij));
+                QVERIFY(blijft(kolom * 450, rij * 450, kolom, rij));
+            }
     }
 
     void cellsAreNumberedByTheCurrentWidth()
@@ -57,26 +87,40 @@ private slots:
         QCOMPARE(CurCell, 10);
     }
 
-    void aFilippineShowsTheRowOnly()
+    void theCoordinatesByKind_data()
     {
+        QTest::addColumn<quint8>("soort");
+        QTest::addColumn<QString>("zevende");
+        QTest::addColumn<QString>("negende");
+        QTest::addColumn<QString>("tiende");
+        for (const quint8 soort : {Zweeds, Woordzoeker, Kruiswoord, Sudoku})
+            Geval(QByteArray::number(soort), soort, "E-07 / 101", "E-09 / 133", "E-10 / 149");
+        Geval("Filippine", Filippine, "07", "09", "10");
+        Geval("no kind", quint8(77), "E-07 / 101", "E-09 / 133", "E-10 / 149");
+    }
+    void theCoordinatesByKind()
+    {
+        QFETCH(quint8, soort);
         Bord bord;
-        bord.Begin(Filippine, 16, 19);
+        bord.Begin(soort, 16, 19);
         bord.Wijs(4, 6);
-        QCOMPARE(bord.Venster.Label6->Caption(), u"07"_s);
+        QTEST(bord.Venster.Label6->Caption(), "zevende");
         bord.Wijs(4, 8);
-        QCOMPARE(bord.Venster.Label6->Caption(), u"09"_s);
+        QTEST(bord.Venster.Label6->Caption(), "negende");
         bord.Wijs(4, 9);
-        QCOMPARE(bord.Venster.Label6->Caption(), u"10"_s);
+        QTEST(bord.Venster.Label6->Caption(), "tiende");
     }
 
     void theRealPointerDoesTheSame()
     {
         Bord bord;
         bord.Venster.show();
-        QTest::mouseMove(bord.Venster.Pic, QPoint(3 * 30 + 10, 4 * 30 + 10));
+        const QPoint plaats(3 * 30 + 10, 4 * 30 + 10);
+        QTest::mouseMove(bord.Venster.Pic, plaats);
         QCOMPARE(bord.Venster.Label6->Caption(), u"D-05 / 68"_s);
-        QTest::mouseClick(bord.Venster.Pic, Qt::LeftButton, {}, QPoint(3 * 30 + 10, 4 * 30 + 10));
+        QTest::mouseClick(bord.Venster.Pic, Qt::LeftButton, {}, plaats);
         QVERIFY(bord.Venster.SoortPlaatsing->isVisible());
+        QCOMPARE(bord.Venster.SoortPlaatsing->pos(), bord.Venster.Pic->mapToGlobal(plaats));
         bord.Venster.SoortPlaatsing->close();
         QVERIFY(bord.Venster.Shape1->isVisible()); // dismissing the pop-up leaves the frame on the cell
     }
@@ -101,121 +145,179 @@ private slots:
     void theFrameLiesOnTheChosenCell()
     {
         Bord bord;
+        const QImage leeg = Getoond(*bord.Venster.Pic);
         QVERIFY(bord.Venster.Shape1->isHidden());
+        bord.Klik(Qt::MiddleButton, 2, 5); // sets the items of the pop-up
+        const Stand ervoor = bord.Nu();
         bord.Klik(Qt::LeftButton, 2, 5);
-        QVERIFY(!bord.Venster.Shape1->isHidden());
-        QCOMPARE(bord.Venster.Shape1->geometry(), QRect(2 * 30 + 1, 5 * 30 + 1, 30, 30));
-        const QImage kader = bord.Venster.Shape1->grab().toImage().convertToFormat(QImage::Format_RGB32);
-        for (const QPoint punt : {QPoint(0, 0), QPoint(1, 15), QPoint(29, 29), QPoint(15, 28)})
-            QCOMPARE(kader.pixel(punt), qRgb(0, 200, 0));
-        QVERIFY(kader.pixel(2, 15) != qRgb(0, 200, 0));
+        QCOMPARE(bord.Veranderd(ervoor), u"Shape1 SoortPlaatsing"_s); // the pop-up is open
+        bord.Venster.SoortPlaatsing->close();
+        QCOMPARE(bord.Veranderd(ervoor), u"Shape1"_s);
+        QImage verwacht = Met(leeg, QRect(61, 151, 30, 30), qRgb(0, 200, 0));
+        QPainter(&verwacht).drawImage(63, 153, leeg, 63, 153, 26, 26); // two pixels thick
+        QCOMPARE(Getoond(*bord.Venster.Pic), verwacht);
+        bord.Venster.Shape1->BorderColor = Qt::black;
+        bord.Klik(Qt::LeftButton, 2, 5); // each click sets it
+        QCOMPARE(Getoond(*bord.Venster.Pic), verwacht);
         bord.Venster.SoortPlaatsing->close();
     }
 
     void theItemsOfThePopUpByKind_data()
     {
-        QTest::addColumn<int>("soort");
+        QTest::addColumn<quint8>("soort");
         QTest::addColumn<QString>("ingeschakeld");
-        QTest::newRow("Zweeds") << int(Zweeds) << "1 2 9";
-        QTest::newRow("Woordzoeker") << int(Woordzoeker) << "2 5 9";
-        QTest::newRow("Kruiswoord") << int(Kruiswoord) << "2 9";
+        Geval("Zweeds", Zweeds, "1 2 9");
+        Geval("Woordzoeker", Woordzoeker, "2 5 9");
+        Geval("Kruiswoord", Kruiswoord, "2 9");
     }
     void theItemsOfThePopUpByKind()
     {
-        QFETCH(int, soort);
+        QFETCH(quint8, soort);
         QFETCH(QString, ingeschakeld);
         Bord bord;
-        bord.Begin(Woordzoeker, 9, 9);
-        bord.Klik(Qt::MiddleButton, 0, 0); // whatever the button
-        bord.Begin(static_cast<quint8>(soort), 9, 9);
+        for (const quint8 eerst : {Zweeds, Woordzoeker, Kruiswoord})
+            for (const Qt::MouseButton knop : {Qt::MiddleButton, Qt::RightButton}) { // whatever the button
+                bord.Begin(eerst, 9, 9);
+                bord.Klik(knop, 0, 0);
+                bord.Begin(soort, 9, 9);
+                bord.Klik(knop, 0, 0);
+                QStringList aan;
+                for (int i = 1; i <= 9; ++i) {
+                    const QAction *item = bord.Venster.SoortVakTekst[static_cast<std::size_t>(i)];
+                    if (!item->isSeparator() && item->isEnabled())
+                        aan += QString::number(i);
+                }
+                QCOMPARE(aan.join(u' '), ingeschakeld);
+                QVERIFY(bord.Venster.Shape1->isHidden());
+            }
+    }
+
+    void anotherKindLeavesTheItemsAlone_data()
+    {
+        QTest::addColumn<quint8>("soort");
+        Geval("Sudoku", Sudoku);
+        Geval("Filippine", Filippine);
+    }
+    void anotherKindLeavesTheItemsAlone()
+    {
+        QFETCH(quint8, soort);
+        Bord bord;
         bord.Klik(Qt::MiddleButton, 0, 0);
-        QStringList aan;
-        for (int i = 1; i <= 9; ++i) {
-            const QAction *item = bord.Venster.SoortVakTekst[static_cast<std::size_t>(i)];
-            if (!item->isSeparator() && item->isEnabled())
-                aan += QString::number(i);
-        }
-        QCOMPARE(aan.join(u' '), ingeschakeld);
-        QVERIFY(bord.Venster.Shape1->isHidden());
+        bord.Begin(soort, 9, 9);
+        const Stand ervoor = bord.Nu();
+        bord.Klik(Qt::MiddleButton, 0, 0);
+        QCOMPARE(bord.Veranderd(ervoor), soort == Filippine ? u"Label6"_s : QString());
     }
 
     void captionsOfThePopUps()
     {
         Bord bord;
-        QStringList items, sudoku;
-        for (const QAction *item : bord.Venster.SoortPlaatsing->actions())
-            items += item->isSeparator() ? u"-"_s : item->text();
-        for (const QAction *item : bord.Venster.SudokuMenu->actions())
-            sudoku += item->isSeparator() ? u"-"_s : item->text();
-        QCOMPARE(items.join(u'|'), u"Informatievakje plaatsen|Omschrijving en/of oplossing plaatsen|"
-                                   "Letter plaatsen|-|Lege vakjes opvullen|-|Vaknummer plaatsen|-|"
-                                   "Annuleren"_s);
-        QCOMPARE(sudoku.join(u'|'), u"1|2|3|4|5|6|7|8|9|-|Hint"_s);
+        const auto items = [](const QMenu &menu) {
+            QStringList lijst;
+            for (const QAction *item : menu.actions())
+                lijst += item->objectName() + u'=' + (item->isSeparator() ? u"-"_s : item->text());
+            return lijst;
+        };
+        QCOMPARE(items(*bord.Venster.SoortPlaatsing),
+                 (QStringList{u"SoortVakTekst(1)=Informatievakje plaatsen"_s,
+                              u"SoortVakTekst(2)=Omschrijving en/of oplossing plaatsen"_s,
+                              u"SoortVakTekst(3)=Letter plaatsen"_s, u"SoortVakTekst(4)=-"_s,
+                              u"SoortVakTekst(5)=Lege vakjes opvullen"_s, u"SoortVakTekst(6)=-"_s,
+                              u"SoortVakTekst(7)=Vaknummer plaatsen"_s, u"SoortVakTekst(8)=-"_s,
+                              u"SoortVakTekst(9)=Annuleren"_s}));
+        QCOMPARE(items(*bord.Venster.SudokuMenu).join(u' '),
+                 u"SuMe(1)=1 SuMe(2)=2 SuMe(3)=3 SuMe(4)=4 SuMe(5)=5 SuMe(6)=6 SuMe(7)=7 SuMe(8)=8 SuMe(9)=9 "
+                 "SuMe(10)=- SuMe(11)=Hint"_s);
+        for (const auto *menu : {bord.Venster.SoortPlaatsing, bord.Venster.SudokuMenu})
+            QVERIFY(menu->isHidden());
+        for (std::size_t i = 1; i <= 9; ++i)
+            QCOMPARE(bord.Venster.SoortVakTekst[i]->objectName(), u"SoortVakTekst(%1)"_s.arg(i));
+        for (std::size_t i = 1; i <= 11; ++i) {
+            QCOMPARE(bord.Venster.SuMe[i]->objectName(), u"SuMe(%1)"_s.arg(i));
+            QVERIFY(!bord.Venster.SuMe[i]->isEnabled()); // a Sudoku cannot be played yet
+        }
     }
 
     void thePopUpOfTheKindIsShown_data()
     {
-        QTest::addColumn<int>("soort");
-        QTest::addColumn<bool>("vakMenu");
-        QTest::addColumn<bool>("sudokuMenu");
-        QTest::newRow("Zweeds") << int(Zweeds) << true << false;
-        QTest::newRow("Woordzoeker") << int(Woordzoeker) << true << false;
-        QTest::newRow("Kruiswoord") << int(Kruiswoord) << true << false;
-        QTest::newRow("Sudoku") << int(Sudoku) << false << true;
-        QTest::newRow("Filippine") << int(Filippine) << false << false;
+        QTest::addColumn<quint8>("soort");
+        QTest::addColumn<QString>("menu");
+        Geval("Zweeds", Zweeds, "SoortPlaatsing");
+        Geval("Woordzoeker", Woordzoeker, "SoortPlaatsing");
+        Geval("Kruiswoord", Kruiswoord, "SoortPlaatsing");
+        Geval("Sudoku", Sudoku, "SudokuMenu");
+        Geval("Filippine", Filippine, "");
     }
     void thePopUpOfTheKindIsShown()
     {
-        QFETCH(int, soort);
-        QFETCH(bool, vakMenu);
-        QFETCH(bool, sudokuMenu);
+        QFETCH(quint8, soort);
+        QFETCH(QString, menu);
         Bord bord;
         bord.Venster.show();
-        bord.Begin(static_cast<quint8>(soort), 9, 9);
-        bord.Klik(Qt::LeftButton, 1, 1);
-        QCOMPARE(bord.Venster.SoortPlaatsing->isVisible(), vakMenu);
-        QCOMPARE(bord.Venster.SudokuMenu->isVisible(), sudokuMenu);
+        bord.Begin(soort, 9, 9);
+        bord.Wijs(1, 1);
+        bord.Venster.Pic_MouseDown(Qt::LeftButton, QPoint(120, 80));
+        QCOMPARE(bord.Venster.SoortPlaatsing->isVisible(), menu == "SoortPlaatsing"_L1);
+        QCOMPARE(bord.Venster.SudokuMenu->isVisible(), menu == "SudokuMenu"_L1);
         QVERIFY(bord.Venster.Shape1->isVisible());
+        if (!menu.isEmpty())
+            QCOMPARE(Vind<QMenu>(bord.Venster, menu)->pos(), QPoint(120, 80));
     }
 
     void aChosenItemIsToldByItsIndex()
     {
         Bord bord;
         QSignalSpy gekozen(&bord.Venster, &MainForm::VakMenuGekozen);
-        for (const int index : {1, 2, 5, 9}) {
+        for (const int index : {1, 2, 3, 5, 7, 9}) {
             bord.Venster.SoortVakTekst[static_cast<std::size_t>(index)]->setEnabled(true);
             bord.Venster.SoortVakTekst[static_cast<std::size_t>(index)]->trigger();
             QCOMPARE(gekozen.takeLast().at(0).toInt(), index);
+            QVERIFY(gekozen.isEmpty());
         }
     }
 
+    void aRightClickBlacksOutAndClears_data()
+    {
+        QTest::addColumn<int>("kolom");
+        QTest::addColumn<int>("rij");
+        Geval("in the middle", 3, 4);
+        Geval("first", 0, 0);
+        Geval("last", 15, 18);
+    }
     void aRightClickBlacksOutAndClears()
     {
+        QFETCH(int, kolom);
+        QFETCH(int, rij);
+        const QRgb vol = qRgb(1, 2, 3);
         Bord bord;
-        bord.Klik(Qt::RightButton, 3, 4);
-        QCOMPARE(InktVlak(bord.Pic(), Binnen(3, 4)), QRect(3 * 30 + 2, 4 * 30 + 2, 27, 27));
-        QCOMPARE(bord.Pic().pixel(3 * 30 + 15, 4 * 30 + 15), Donker);
-        QCOMPARE(InktVlak(bord.Groot(), BinnenGroot(3, 4)), QRect(3 * 120 + 6, 4 * 120 + 6, 111, 111));
-        QCOMPARE(bord.Groot().pixel(3 * 120 + 60, 4 * 120 + 60), Donker);
-        QVERIFY(VakZwart[4 * 16 + 3 + 1]);
-        bord.Klik(Qt::RightButton, 3, 4);
-        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(3, 4)));
-        QVERIFY(!HeeftInkt(bord.Groot(), BinnenGroot(3, 4)));
-        QVERIFY(!VakZwart[4 * 16 + 3 + 1]);
-        QVERIFY(!PuzzelGewijzigd);
+        bord.Venster.Pic->BoxFull(0, 0, 1e5, 1e5, vol); // so that it is seen what is wiped
+        bord.Venster.PicGroot->BoxFull(0, 0, 1e6, 1e6, vol);
+        bord.Klik(Qt::MiddleButton, kolom, rij);
+        const Stand ervoor = bord.Nu();
+        const QImage pic = bord.Pic(), groot = bord.Groot();
+        const QPoint hoek = QPoint(kolom, rij) * 30, hoekGroot = QPoint(kolom, rij) * 120;
+
+        bord.Klik(Qt::RightButton, kolom, rij);
+        QCOMPARE(bord.Pic(), Met(pic, QRect(hoek + QPoint(2, 2), QSize(27, 27)), Donker));
+        QCOMPARE(bord.Groot(), Met(groot, QRect(hoekGroot + QPoint(6, 6), QSize(111, 111)), Donker));
+        QCOMPARE(bord.Veranderd(ervoor), u"Pic PicGroot VakZwart"_s); // and the puzzle doesn't count as changed
+        QCOMPARE(std::count(VakZwart.begin(), VakZwart.end(), true), 1);
+        QVERIFY(VakZwart[static_cast<std::size_t>(CurCell)]);
+
+        bord.Klik(Qt::RightButton, kolom, rij); // the white box is larger than the dark one
+        QCOMPARE(bord.Pic(), Met(pic, QRect(hoek + QPoint(1, 1), QSize(29, 29)), Wit));
+        QCOMPARE(bord.Groot(), Met(groot, QRect(hoekGroot + QPoint(3, 3), QSize(117, 117)), Wit));
+        QCOMPARE(bord.Veranderd(ervoor), u"Pic PicGroot"_s);
     }
 
-    void clearingWipesTheWholeInsideButNotTheGrid()
+    void aSecondRightClickLeavesAWhiteCell()
     {
         Bord bord;
+        bord.Klik(Qt::MiddleButton, 3, 4);
+        const Stand ervoor = bord.Nu();
         bord.Klik(Qt::RightButton, 3, 4);
-        const QRect binnen = Binnen(3, 4);
-        bord.Venster.Pic->BoxFull(Twips::VanPixels(binnen.left()), Twips::VanPixels(binnen.top()),
-                                  Twips::VanPixels(binnen.right()), Twips::VanPixels(binnen.bottom()), qRgb(1, 2, 3));
         bord.Klik(Qt::RightButton, 3, 4);
-        QVERIFY(!HeeftInkt(bord.Pic(), binnen));
-        QCOMPARE(bord.Pic().pixel(3 * 30, 4 * 30 + 15), qRgb(150, 150, 150));
-        QCOMPARE(bord.Pic().pixel(4 * 30, 4 * 30 + 15), qRgb(150, 150, 150));
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void theToggleLooksAtItsOwnArrayOnly()
@@ -229,22 +331,63 @@ private slots:
         QVERIFY(HeeftInkt(bord.Pic(), Binnen(0, 2)));
     }
 
+    void nothingElseTouchesTheArray_data()
+    {
+        QTest::addColumn<QString>("wat");
+        for (const char *wat : {"another size", "new puzzle", "saving", "opening"})
+            Geval(wat, wat);
+    }
+    void nothingElseTouchesTheArray()
+    {
+        QFETCH(QString, wat);
+        Bord bord;
+        PuzzelNaam = u"Reis"_s;
+        SaveForm bewaar;
+        bewaar.Text1->setText(u"Reis"_s);
+        bewaar.SaveKnop_Click();
+        for (const std::size_t index : {std::size_t{1}, std::size_t{19}, std::size_t{304}})
+            VakZwart[index] = true;
+        const auto ervoor = VakZwart;
+        if (wat == "another size"_L1) {
+            bord.Begin(Zweeds, 9, 9);
+        } else if (wat == "new puzzle"_L1) {
+            NieuwForm form;
+            form.Text1->setText(u"Nieuw"_s);
+            form.OkKnop_Click();
+            QCOMPARE(PuzzelNaam, u"Nieuw"_s);
+        } else if (wat == "saving"_L1) {
+            SaveForm form;
+            form.Text1->setText(u"Zee"_s);
+            form.SaveKnop_Click();
+            QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).contains(u"Zee.lst"_s));
+        } else {
+            OpenFile form;
+            form.List1->SetListIndex(0);
+            form.OkKnop_Click();
+            QVERIFY(bord.Venster.windowTitle().startsWith(u"Zweedse"_s));
+        }
+        QVERIFY(VakZwart == ervoor);
+    }
+
     void rightClicksByKind_data()
     {
-        QTest::addColumn<int>("soort");
-        QTest::addColumn<bool>("zwart");
-        for (int soort = 1; soort <= 5; ++soort)
-            QTest::newRow(qPrintable(SoortVan(static_cast<quint8>(soort))->Opschrift)) << soort << (soort != Sudoku);
+        QTest::addColumn<quint8>("soort");
+        QTest::addColumn<QString>("veranderd");
+        for (const quint8 soort : {Zweeds, Woordzoeker, Kruiswoord, Filippine})
+            Geval(QByteArray::number(soort), soort, "Pic PicGroot VakZwart");
+        Geval("Sudoku", Sudoku, "");
+        Geval("no kind", quint8(77), "");
     }
     void rightClicksByKind()
     {
-        QFETCH(int, soort);
-        QFETCH(bool, zwart);
+        QFETCH(quint8, soort);
+        QFETCH(QString, veranderd);
         Bord bord;
-        bord.Begin(static_cast<quint8>(soort), 9, 9);
+        bord.Begin(soort, 9, 9);
+        bord.Klik(Qt::MiddleButton, 4, 4);
+        const Stand ervoor = bord.Nu();
         bord.Klik(Qt::RightButton, 4, 4);
-        QCOMPARE(bord.Pic().pixel(4 * 30 + 15, 4 * 30 + 15) == Donker, zwart);
-        QVERIFY(bord.Venster.Shape1->isHidden());
+        QCOMPARE(bord.Veranderd(ervoor), veranderd);
     }
 
     void aClickBeforeAnyMovementActsOnTheFirstCell()
@@ -255,6 +398,9 @@ private slots:
         QVERIFY(VakZwart[1]);
         QVERIFY(!VakZwart[0]);
         QCOMPARE(bord.Pic().pixel(15, 15), Donker);
+        bord.Venster.Pic_MouseDown(Qt::LeftButton, QPoint(0, 0));
+        QCOMPARE(bord.Venster.Shape1->geometry(), QRect(1, 1, 30, 30));
+        bord.Venster.SoortPlaatsing->close();
     }
 
     void theLastCellUsesTheLastIndex()
@@ -265,23 +411,44 @@ private slots:
         QVERIFY(VakZwart[304]);
     }
 
+    void aNumberBeyondTheArrayFailsAndChangesNothing_data()
+    {
+        QTest::addColumn<QSize>("maat");
+        QTest::addColumn<QPoint>("cel");
+        QTest::addColumn<int>("nummer");
+        Geval("the first beyond", QSize(16, 20), QPoint(0, 19), 305);
+        Geval("the next", QSize(16, 20), QPoint(1, 19), 306);
+        Geval("far away", QSize(30, 30), QPoint(29, 29), 900);
+    }
     void aNumberBeyondTheArrayFailsAndChangesNothing()
     {
+        QFETCH(QSize, maat);
+        QFETCH(QPoint, cel);
+        QFETCH(int, nummer);
         Bord bord;
-        bord.Begin(Zweeds, 30, 30);
-        bord.Wijs(29, 29);
-        QCOMPARE(FoutVan([&] { bord.Venster.Pic_MouseDown(Qt::RightButton, QPoint()); }), int(Fout::IndexBuitenBereik));
-        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(29, 29)));
+        bord.Begin(Zweeds, maat.width(), maat.height());
+        bord.Klik(Qt::MiddleButton, cel.x(), cel.y());
+        QCOMPARE(CurCell, nummer);
+        const Stand ervoor = bord.Nu();
+        emit bord.Venster.Pic->MouseDown(Qt::RightButton, QPoint());
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst,
+                 u"Fout 9 bij 'Puzzelveld': Index valt buiten het bereik (vakje %1)."_s.arg(nummer));
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void aKindThatThereIsNotDoesNothing()
     {
         Bord bord;
         PuzzelType = 77;
-        bord.Klik(Qt::LeftButton, 1, 1);
-        bord.Klik(Qt::RightButton, 1, 1);
-        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(1, 1)));
-        QVERIFY(SoortVan(0) == nullptr);
+        bord.Wijs(1, 1);
+        const Stand ervoor = bord.Nu();
+        for (const Qt::MouseButton knop : {Qt::LeftButton, Qt::MiddleButton, Qt::RightButton})
+            bord.Venster.Pic_MouseDown(knop, QPoint());
+        QCOMPARE(bord.Veranderd(ervoor), QString());
+        for (const quint8 type : {quint8(0), quint8(6), quint8(255)})
+            QVERIFY(SoortVan(type) == nullptr);
     }
 };
 

@@ -13,15 +13,15 @@ private slots:
     {
         QTest::addColumn<QString>("tekst");
         QTest::addColumn<QStringList>("regels"); // without the one that stays empty behind them
-        QTest::newRow("empty") << "" << QStringList{""};
-        QTest::newRow("one") << "spin" << QStringList{"spin"};
-        QTest::newRow("hard break") << "een\r\ntwee" << QStringList{"een", "twee"};
-        QTest::newRow("empty lines stay") << "\r\n\r\nomlaag" << QStringList{"", "", "omlaag"};
-        QTest::newRow("break at the end") << "slot\r\n" << QStringList{"slot", ""};
-        QTest::newRow("two breaks at the end") << "slot\r\n\r\n" << QStringList{"slot", "", ""};
-        QTest::newRow("soft wrap") << "hoeveelheid medicijn" << QStringList{"hoeveelheid ", "medicijn"};
-        QTest::newRow("soft and hard") << "hoeveelheid medicijn\r\nx" << QStringList{"hoeveelheid ", "medicijn", "x"};
-        QTest::newRow("line feed only") << "een\ntwee" << QStringList{"een", "twee"};
+        Geval("empty", "", QStringList{""});
+        Geval("one", "spin", QStringList{"spin"});
+        Geval("hard break", "een\r\ntwee", QStringList{"een", "twee"});
+        Geval("empty lines stay", "\r\n\r\nomlaag", QStringList{"", "", "omlaag"});
+        Geval("break at the end", "slot\r\n", QStringList{"slot", ""});
+        Geval("two breaks at the end", "slot\r\n\r\n", QStringList{"slot", "", ""});
+        Geval("soft wrap", "hoeveelheid medicijn", QStringList{"hoeveelheid ", "medicijn"});
+        Geval("soft and hard", "hoeveelheid medicijn\r\nx", QStringList{"hoeveelheid ", "medicijn", "x"});
+        Geval("line feed only", "een\ntwee", QStringList{"een", "twee"});
     }
     void theLinesOfABox()
     {

@@ -5,6 +5,7 @@
 #include "board/Raster.h"
 #include "platform/Kleur.h"
 #include "platform/Twips.h"
+#include "support/Stand.h"
 #include "support/Testbank.h"
 
 /// The main window with the empty board that the program starts with.
@@ -38,6 +39,10 @@ struct Bord
         Wijs(kolom, rij);
         Venster.Pic_MouseDown(knop, QPoint(0, 0));
     }
+
+    Stand Nu() const { return StandVan(Venster); }
+    /// The names of all that has changed since.
+    QString Veranderd(const Stand &sinds) const { return Verschil(sinds, Nu()); }
 
     QImage Pic() const { return Venster.Pic->Image(); }
     QImage Groot() const { return Venster.PicGroot->Image(); }

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "board/Algemeen.h"
+#include "board/MainForm.h"
+
+#include <QMap>
+#include <QVariant>
+
+/// All that can be seen of the puzzle and of the main window, by the names of the globals and the controls. The clock
+/// is left out: it goes on by itself.
+using Stand = QMap<QString, QVariant>;
+
+inline QVariantList Inhoud(const QWidget &control)
+{
+    if (const auto *label = qobject_cast<const Label *>(&control))
+        return {label->Caption()};
+    if (const auto *pic = qobject_cast<const PictureBox *>(&control))
+        return {pic->Image(), int(pic->ScaleMode())};
+    if (const auto *beeld = qobject_cast<const ImageBox *>(&control))
+        return {beeld->Picture()};
+    if (const auto *combo = qobject_cast<const QComboBox *>(&control))
+        return {combo->currentIndex()};
+    if (const auto *schuif = qobject_cast<const QScrollBar *>(&control))
+        return {schuif->value()};
+    QVariantList inhoud;
+    if (const auto *lijst = qobject_cast<const ListBox *>(&control)) {
+        inhoud += lijst->ListIndex();
+        for (int i = 0; i < lijst->ListCount(); ++i)
+            inhoud += lijst->List(i);
+    }
+    if (const auto *lijst = qobject_cast<const QTreeWidget *>(&control)) {
+        inhoud += lijst->currentIndex().row();
+        for (int i = 0; i < lijst->topLevelItemCount(); ++i)
+            for (int kolom = 0; kolom < lijst->columnCount(); ++kolom)
+                inhoud += lijst->topLevelItem(i)->text(kolom);
+    }
+    return inhoud;
+}
+
+inline Stand StandVan(const MainForm &main)
+{
+    const LineMark &lijn = *main.Line1;
+    QVariantList zwart;
+    for (const bool isZwart : VakZwart)
+        zwart += isZwart;
+    Stand stand{{"PuzzelType", PuzzelType},
+                {"BoardWidth", BoardWidth},
+                {"BoardHeight", BoardHeight},
+                {"CurCol", CurCol},
+                {"CurRow", CurRow},
+                {"CurCell", CurCell},
+                {"PuzzelNaam", PuzzelNaam},
+                {"PuzzelGewijzigd", PuzzelGewijzigd},
+                {"PijlSoort", PijlSoort},
+                {"KleurVakjes", KleurVakjes},
+                {"Orgineel", QVariantList{OrgineelRood, OrgineelGroen, OrgineelBlauw}},
+                {"PaginaTekst", PaginaTekst},
+                {"VakZwart", zwart},
+                {"Main", main.windowTitle()},
+                {"Line1.Punten", QVariantList{lijn.X1, lijn.Y1, lijn.X2, lijn.Y2}}};
+    for (const QAction *item : main.findChildren<QAction *>())
+        if (!item->objectName().isEmpty())
+            stand[item->objectName()] = QVariantList{item->text(), item->isEnabled(), item->isVisible()};
+    for (const QWidget *control : main.findChildren<QWidget *>()) {
+        const QString naam = control->objectName();
+        if (naam.isEmpty() || naam.startsWith(QLatin1String("qt_")) || control == main.KlokLabel)
+            continue;
+        QVariantList waarden{control->isHidden(), control->isEnabled()};
+        if (!control->isWindow()) // a menu is placed when it is shown
+            waarden += control->geometry();
+        stand[naam] = waarden + Inhoud(*control);
+    }
+    return stand;
+}
+
+/// The names of what differs, in their alphabetical order.
+inline QString Verschil(const Stand &ervoor, const Stand &erna)
+{
+    QStringList namen;
+    for (auto i = erna.begin(); i != erna.end(); ++i)
+        if (ervoor.value(i.key()) != i.value())
+            namen += i.key();
+    return namen.join(u' ');
+}
