@@ -1,38 +1,134 @@
 #include "editors/Filippine.h"
-#include "support/Bord.h"
+#include "editors/Verwacht.h"
 
 #include <QGuiApplication>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
 static const QRgb Wit = qRgb(255, 255, 255);
 
+static bool IsZandloper()
+{
+    const QCursor *pointer = QGuiApplication::overrideCursor();
+    return pointer && pointer->shape() == Qt::WaitCursor;
+}
+
+/// A picture with every red component, beside greens and blues of all sorts.
+static QImage AlleRoden(QSize maat)
+{
+    QImage beeld(maat, QImage::Format_RGB32);
+    for (int y = 0; y < maat.height(); ++y)
+        for (int x = 0; x < maat.width(); ++x)
+            beeld.setPixel(x, y, qRgb((x * 7 + y * 3) % 256, (x * 5 + y) % 256, (y * 11) % 256));
+    return beeld;
+}
+
+/// The picture without its pixels of red 150, as far as column `tot`.
+static QImage ZonderRaster(QImage beeld, int tot)
+{
+    for (int y = 0; y < beeld.height(); ++y)
+        for (int x = 0; x <= std::min(tot, beeld.width() - 1); ++x)
+            if (qRed(beeld.pixel(x, y)) == 150)
+                beeld.setPixel(x, y, Wit);
+    return beeld;
+}
+
+/// A board of answer cells, search cells, number cells and empty ones, with letters in them, of any size.
+static QImage VolBord(const Bord &bord, int kolommen, int rijen)
+{
+    QImage begin(kolommen * 30 + 1, rijen * 30 + 1, QImage::Format_RGB32);
+    begin.fill(Wit);
+    Verwacht beeld(begin);
+    for (int kolom = 0; kolom < kolommen; ++kolom)
+        for (int rij = 0; rij < rijen; ++rij) {
+            const QPoint hoek(kolom * 30, rij * 30);
+            switch ((kolom + 2 * rij) % 4) {
+            case 0:
+                beeld.Plak(bord.Venster.Vak1->Image(), hoek);
+                break;
+            case 1:
+                beeld.Plak(bord.Venster.Vak2->Image(), hoek);
+                break;
+            case 2:
+                beeld.Vul(QRect(hoek + QPoint(2, 2), QSize(27, 27)), qRgb(0, 0, 0));
+                break;
+            }
+            beeld.Druk(QChar(u'A' + (kolom + rij) % 26), hoek + QPoint(10, 7), Lettertype(u"Arial"_s, 12, true),
+                       qRgb(80, 80, 80));
+        }
+    return beeld.Beeld;
+}
+
+/// The board of VolBord with its answer cells and search cells empty, in so many columns and rows.
+static QImage Leeg(const Bord &bord, const QImage &vol, int kolommen, int rijen)
+{
+    Verwacht beeld(vol);
+    for (int kolom = 0; kolom < kolommen; ++kolom)
+        for (int rij = 0; rij < rijen; ++rij)
+            if ((kolom + 2 * rij) % 4 < 2)
+                beeld.Plak(((kolom + 2 * rij) % 4 == 0 ? bord.Venster.Vak1 : bord.Venster.Vak2)->Image(),
+                           QPoint(kolom * 30, rij * 30));
+    return beeld.Beeld;
+}
+
+static void ZetBeeld(PictureBox &box, const QImage &beeld)
+{
+    box.resize(beeld.size());
+    box.SetPicture(beeld);
+}
+
 class tst_Filippine : public QObject
 {
     Q_OBJECT
-
-    static void Plak(Bord &bord, const PictureBox &vak, int kolom, int rij)
+private slots:
+    void theTwoCellsHaveTheirReds()
     {
-        bord.Venster.Pic->PaintPicture(vak.Image(), QRectF(kolom * 450, rij * 450, 465, 465), QRectF(0, 0, 465, 465));
-        bord.Venster.Pic->FontSize = 12;
-        bord.Venster.Pic->CurrentX = kolom * 450 + 150;
-        bord.Venster.Pic->CurrentY = rij * 450 + 105;
-        bord.Venster.Pic->Print(u"A"_s);
+        Bord bord;
+        QCOMPARE(bord.Venster.Vak1->Image().size(), QSize(31, 31));
+        QCOMPARE(bord.Venster.Vak2->Image().size(), QSize(31, 31));
+        QCOMPARE(qRed(bord.Venster.Vak1->Image().pixel(5, 5)), 240);
+        QCOMPARE(qRed(bord.Venster.Vak2->Image().pixel(5, 5)), 174);
     }
 
-private slots:
-    void theRasterBecomesWhite()
+    void theRasterOfABoardBecomesWhite()
     {
         Bord bord;
         bord.Begin(Filippine, 16, 19);
-        bord.Venster.Pic->SetPixel(100, 100, qRgb(150, 3, 200)); // whatever it belongs to; green and blue don't matter
-        bord.Venster.Pic->SetPixel(101, 100, qRgb(151, 150, 150));
-        const QImage groot = bord.Groot();
+        bord.Venster.PicGroot->BoxFull(0, 0, 900, 900, qRgb(150, 150, 150));
+        Stand verwacht(bord);
+        verwacht.Pic.fill(Wit);
         VerwijderRaster(*bord.Venster.Pic);
-        QCOMPARE(InktVlak(bord.Pic(), bord.Pic().rect()), QRect(101, 100, 1, 1));
-        QVERIFY(bord.Groot() == groot);
+        QVERIFY(Stand(bord) == verwacht); // nor does it count as a change
         VerwijderRaster(*bord.Venster.Pic);
-        QCOMPARE(InktVlak(bord.Pic(), bord.Pic().rect()), QRect(101, 100, 1, 1));
+        QVERIFY(Stand(bord) == verwacht);
+    }
+
+    void aRedOf150AloneDecides()
+    {
+        Bord bord;
+        const QImage bont = AlleRoden({481, 571});
+        bord.Venster.Pic->SetPicture(bont);
+        VerwijderRaster(*bord.Venster.Pic);
+        QCOMPARE(Verschil(bord.Pic(), ZonderRaster(bont, 480)), QString());
+    }
+
+    void theRasterGoesFromLeftToRightUnderAnHourglass()
+    {
+        Bord bord;
+        PictureBox &doel = *bord.Venster.Pic;
+        const QImage bont = AlleRoden({40, 25});
+        ZetBeeld(doel, bont);
+        int keren = 0;
+        QTimer kijk; // it is let through after every column
+        connect(&kijk, &QTimer::timeout, this, [&] {
+            QCOMPARE(Verschil(doel.Image(), ZonderRaster(bont, keren)), QString());
+            QVERIFY(IsZandloper());
+            ++keren;
+        });
+        kijk.start(0);
+        VerwijderRaster(doel);
+        QVERIFY(keren >= 40);
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
@@ -40,31 +136,83 @@ private slots:
     {
         Bord bord;
         bord.Begin(Filippine, 16, 19);
-        Plak(bord, *bord.Venster.Vak1, 3, 4);
-        Plak(bord, *bord.Venster.Vak2, 15, 18);
-        bord.Venster.Pic->BoxFull(5 * 450 + 30, 4 * 450 + 30, 5 * 450 + 420, 4 * 450 + 420,
-                                  qRgb(0, 0, 0)); // a number cell
-        const QImage ervoor = bord.Pic();
+        const QImage vol = VolBord(bord, 16, 19);
+        bord.Venster.Pic->SetPicture(vol);
+        Stand verwacht(bord);
+        verwacht.Pic = Leeg(bord, vol, 16, 19);
+        QVERIFY(verwacht.Pic != vol);
         VerwijderLetters(*bord.Venster.Pic);
-        const QImage erna = bord.Pic();
-        QVERIFY(erna.copy(QRect(90, 120, 31, 31)) == bord.Venster.Vak1->Image());
-        QVERIFY(erna.copy(QRect(450, 540, 31, 31)) == bord.Venster.Vak2->Image());
-        QVERIFY(erna.copy(Binnen(5, 4)) == ervoor.copy(Binnen(5, 4)));
-        QCOMPARE(erna.pixel(7 * 30 + 15, 15), Wit);
-        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 16 * 0.2) < 1e-6);
+        QCOMPARE(Verschil(bord.Pic(), verwacht.Pic), QString());
+        QVERIFY(Stand(bord) == verwacht);
         VerwijderLetters(*bord.Venster.Pic);
-        QVERIFY(bord.Pic() == erna);
-        QVERIFY(!QGuiApplication::overrideCursor());
-        QVERIFY(!PuzzelGewijzigd);
+        QVERIFY(Stand(bord) == verwacht);
     }
 
-    void aSmallerBoardIsNoDifference()
+    void onlyTheRedOfOnePixelDecides_data()
+    {
+        QTest::addColumn<QPoint>("plaats"); // of the one pixel that is coloured, in the cell
+        QTest::addColumn<QRgb>("kleur");
+        QTest::addColumn<int>("vak"); // that is painted, 0: none
+        QTest::newRow("240") << QPoint(5, 5) << qRgb(240, 1, 254) << 1;
+        QTest::newRow("174") << QPoint(5, 5) << qRgb(174, 240, 240) << 2;
+        for (const int rood : {0, 150, 173, 175, 239, 241, 255})
+            QTest::addRow("%d", rood) << QPoint(5, 5) << qRgb(rood, 240, 174) << 0;
+        for (const QPoint ernaast : {QPoint(4, 5), QPoint(6, 5), QPoint(5, 4), QPoint(5, 6)}) {
+            QTest::addRow("240 at %d,%d", ernaast.x(), ernaast.y()) << ernaast << qRgb(240, 240, 220) << 0;
+            QTest::addRow("174 at %d,%d", ernaast.x(), ernaast.y()) << ernaast << qRgb(174, 214, 160) << 0;
+        }
+    }
+    void onlyTheRedOfOnePixelDecides()
+    {
+        QFETCH(QPoint, plaats);
+        QFETCH(QRgb, kleur);
+        QFETCH(int, vak);
+        Bord bord;
+        for (const QPoint cel : {QPoint(0, 0), QPoint(7, 4), QPoint(15, 18)}) {
+            bord.Begin(Filippine, 16, 19);
+            bord.Venster.Pic->SetPixel(cel.x() * 30 + plaats.x(), cel.y() * 30 + plaats.y(), kleur);
+            Verwacht verwacht(bord.Pic());
+            if (vak > 0)
+                verwacht.Plak((vak == 1 ? bord.Venster.Vak1 : bord.Venster.Vak2)->Image(), cel * 30);
+            VerwijderLetters(*bord.Venster.Pic);
+            QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
+        }
+    }
+
+    void itIsAlways16By19Cells_data()
+    {
+        QTest::addColumn<int>("kolommen");
+        QTest::addColumn<int>("rijen");
+        QTest::newRow("a smaller board") << 9 << 9;
+        QTest::newRow("a larger picture") << 18 << 21;
+    }
+    void itIsAlways16By19Cells()
+    {
+        QFETCH(int, kolommen);
+        QFETCH(int, rijen);
+        Bord bord;
+        PictureBox doel(&bord.Venster);
+        const QImage vol = VolBord(bord, kolommen, rijen);
+        ZetBeeld(doel, vol);
+        VerwijderLetters(doel);
+        QCOMPARE(Verschil(doel.Image(), Leeg(bord, vol, std::min(kolommen, 16), std::min(rijen, 19))), QString());
+        QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 16 * 0.2) < 1e-6);
+    }
+
+    void theLettersGoColumnByColumnUnderAnHourglass()
     {
         Bord bord;
-        bord.Begin(Filippine, 9, 9);
-        Plak(bord, *bord.Venster.Vak1, 8, 8);
+        const QImage vol = VolBord(bord, 16, 19);
+        bord.Venster.Pic->SetPicture(vol);
+        int kolom = 0;
+        KijkKlok klok([&] {
+            QCOMPARE(Verschil(bord.Pic(), Leeg(bord, vol, ++kolom, 19)), QString());
+            QVERIFY(IsZandloper());
+        });
         VerwijderLetters(*bord.Venster.Pic);
-        QVERIFY(bord.Pic().copy(Binnen(8, 8)) == bord.Venster.Vak1->Image().copy(1, 1, 29, 29));
+        QCOMPARE(klok.Wachttijden, QList<double>(16, 0.2));
+        QCOMPARE(klok.Welke, QList<QEventLoop::ProcessEventsFlags>(16, QEventLoop::ExcludeUserInputEvents));
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 };
 

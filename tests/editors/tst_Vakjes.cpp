@@ -1,4 +1,5 @@
 #include "editors/VakForm.h"
+#include "platform/Plaatjes.h"
 #include "support/Bord.h"
 
 using namespace Qt::StringLiterals;
@@ -41,6 +42,8 @@ class tst_Vakjes : public QObject
 {
     Q_OBJECT
 private slots:
+    void theStripHasEightTilesOfItsSize() { QCOMPARE(Plaatjes::Beeld(u"vakjes"_s).size(), QSize(8 * 43, 43)); }
+
     void aTileIsAQuarterOfTheLargeBoard_data()
     {
         QTest::addColumn<int>("soort");
