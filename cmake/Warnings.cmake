@@ -9,7 +9,8 @@ target_compile_options(warnings INTERFACE
   -Woverloaded-virtual  # an event handler with the wrong signature is never called
   -Wold-style-cast      # a cast must be findable
   -Wnull-dereference    # found at -O2
-  -Wduplicated-cond -Wlogical-op  # copied conditions
+  $<$<CXX_COMPILER_ID:GNU>:-Wduplicated-cond> $<$<CXX_COMPILER_ID:GNU>:-Wlogical-op>  # copied conditions; only g++ knows these
+  $<$<CXX_COMPILER_ID:Clang>:-Wno-sign-conversion>          # clang++ counts it to -Wconversion, g++ does not
 )
 if(RASTERATELIER_WERROR)
   target_compile_options(warnings INTERFACE -Werror)
@@ -17,4 +18,7 @@ endif()
 if(RASTERATELIER_ASAN)
   target_compile_options(warnings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(warnings INTERFACE -fsanitize=address,undefined)
+endif()
+if(RASTERATELIER_FUZZ)
+  target_compile_options(warnings INTERFACE -fsanitize=fuzzer-no-link) # the fuzzer follows which code an input reaches
 endif()
