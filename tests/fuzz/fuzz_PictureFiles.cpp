@@ -18,11 +18,21 @@ static void Zet(const QString &pad, const QByteArray &inhoud)
     EIS(bestand.open(QIODevice::WriteOnly) && bestand.write(inhoud) == inhoud.size());
 }
 
-/// The size that the head of a bitmap file tells.
-static QSize Maat(const QByteArray &inhoud)
+template <class Getal> static qint64 Uit(const QByteArray &inhoud, qsizetype plaats)
 {
-    EIS(inhoud.size() >= 54);
-    return {qFromLittleEndian<qint32>(inhoud.data() + 18), std::abs(qFromLittleEndian<qint32>(inhoud.data() + 22))};
+    EIS(plaats + qsizetype{sizeof(Getal)} <= inhoud.size());
+    return qFromLittleEndian<Getal>(inhoud.data() + plaats);
+}
+
+/// What holds for a picture and the bitmap file that it was read from: the size is told, and every row is there.
+static void Vergelijk(const QImage &beeld, const QByteArray &inhoud)
+{
+    EIS(beeld.width() == Uit<qint32>(inhoud, 18) && beeld.height() == std::abs(Uit<qint32>(inhoud, 22)));
+    const qint64 compressie = Uit<quint32>(inhoud, 30);
+    if (compressie == 1 || compressie == 2) // run lengths
+        return;
+    const qint64 rij = (beeld.width() * Uit<quint16>(inhoud, 28) + 31) / 32 * 4;
+    EIS(Uit<quint32>(inhoud, 10) + rij * beeld.height() <= inhoud.size());
 }
 
 void Probeer(const QByteArray &inhoud)
@@ -37,9 +47,9 @@ void Probeer(const QByteArray &inhoud)
         EIS(fout.nummer() == Fout::OngeldigeAfbeelding || fout.nummer() == Fout::GeheugenVol);
         return;
     }
-    EIS(beeld.size() == Maat(inhoud));
     EIS(!beeld.isNull() && beeld.format() == QImage::Format_RGB32);
     EIS(beeld.sizeInBytes() <= GrootsteBeeld);
+    Vergelijk(beeld, inhoud);
     if (beeld.sizeInBytes() > 1 << 20) // a large picture costs time and is saved as a small one is
         return;
     Files::SavePicture(beeld, pad);
