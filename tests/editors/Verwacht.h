@@ -54,9 +54,9 @@ inline QString Verschil(const QImage &is, const QImage &hoort)
 }
 
 /// All that an editor may change.
-struct Stand
+struct EditorStand
 {
-    explicit Stand(const Bord &bord)
+    explicit EditorStand(const Bord &bord)
         : Pic(bord.Pic()), Groot(bord.Groot()), Rijen(bord.Venster.Rijen()), Aantal(bord.Venster.Label11->Caption()),
           Laatste(LaatsteOplossing), Gewijzigd(PuzzelGewijzigd)
     {
@@ -67,7 +67,7 @@ struct Stand
                            .arg(box->FontBold)
                            .arg(box->ForeColor, 8, 16);
     }
-    bool operator==(const Stand &) const = default;
+    bool operator==(const EditorStand &) const = default;
 
     QImage Pic, Groot;
     QStringList Letters; ///< that the two boards print with
@@ -103,11 +103,11 @@ private:
 inline void Klik(
     const Bord &bord, ImageButton &knop, const std::function<void()> &kijk = [] {})
 {
-    const Stand ervoor(bord);
+    const EditorStand ervoor(bord);
     const QPoint plaats = knop.pos();
     KijkKlok klok([&] {
         QCOMPARE(knop.pos(), plaats + QPoint(2, 2));
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
         kijk();
     });

@@ -96,12 +96,12 @@ private slots:
         Bord bord;
         bord.Begin(Filippine, 16, 19);
         bord.Venster.PicGroot->BoxFull(0, 0, 900, 900, qRgb(150, 150, 150));
-        Stand verwacht(bord);
+        EditorStand verwacht(bord);
         verwacht.Pic.fill(Wit);
         VerwijderRaster(*bord.Venster.Pic);
-        QVERIFY(Stand(bord) == verwacht); // nor does it count as a change
+        QVERIFY(EditorStand(bord) == verwacht); // nor does it count as a change
         VerwijderRaster(*bord.Venster.Pic);
-        QVERIFY(Stand(bord) == verwacht);
+        QVERIFY(EditorStand(bord) == verwacht);
     }
 
     void aRedOf150AloneDecides()
@@ -138,14 +138,14 @@ private slots:
         bord.Begin(Filippine, 16, 19);
         const QImage vol = VolBord(bord, 16, 19);
         bord.Venster.Pic->SetPicture(vol);
-        Stand verwacht(bord);
+        EditorStand verwacht(bord);
         verwacht.Pic = Leeg(bord, vol, 16, 19);
         QVERIFY(verwacht.Pic != vol);
         VerwijderLetters(*bord.Venster.Pic);
         QCOMPARE(Verschil(bord.Pic(), verwacht.Pic), QString());
-        QVERIFY(Stand(bord) == verwacht);
+        QVERIFY(EditorStand(bord) == verwacht);
         VerwijderLetters(*bord.Venster.Pic);
-        QVERIFY(Stand(bord) == verwacht);
+        QVERIFY(EditorStand(bord) == verwacht);
     }
 
     void onlyTheRedOfOnePixelDecides_data()

@@ -194,7 +194,7 @@ private slots:
         QFETCH(QString, melding);
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
-        const Stand ervoor(bord);
+        const EditorStand ervoor(bord);
         TekstForm form;
         form.Text1->setText(omschrijving);
         form.Text2->setText(oplossing);
@@ -206,7 +206,7 @@ private slots:
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
         QVERIFY(!form.Unloaded());
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QCOMPARE(form.Text2->text(), oplossing);
     }
 
@@ -224,13 +224,13 @@ private slots:
         QFETCH(int, fout);
         Bord bord;
         PuzzelType = Kruiswoord;
-        const Stand ervoor(bord);
+        const EditorStand ervoor(bord);
         TekstForm form;
         form.Text1->setText(u"dier"_s);
         form.Text2->setText(u"aap"_s);
         form.Combo1->setEditText(nummer);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), fout);
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QVERIFY(!form.Unloaded());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
@@ -239,13 +239,13 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
-        const Stand ervoor(bord);
+        const EditorStand ervoor(bord);
         TekstForm form;
         form.Text1->setText(u"dier"_s);
         form.Text2->setText(u"aap"_s);
         Klik(bord, *form.CancelKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 

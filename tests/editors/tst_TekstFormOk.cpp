@@ -196,12 +196,12 @@ private slots:
         QFETCH(int, lengte);
         Bord bord;
         PuzzelType = Kruiswoord;
-        const Stand ervoor(bord);
+        const EditorStand ervoor(bord);
         TekstForm form;
         const QString woord = u"ij"_s + QString(lengte - 1, u'a');
         VulIn(form, {0, 0, 0, woord});
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::Overloop));
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QVERIFY(!form.Unloaded());
         QCOMPARE(form.Text2->text(), woord);
     }
@@ -273,7 +273,7 @@ private slots:
         if (soort == Woordzoeker)
             verwacht.GroteLetter({2, 3}, u"O"_s);
         verwacht.Vergelijk(bord); // in the fonts that the boards have
-        const Stand stand(bord);
+        const EditorStand stand(bord);
         QCOMPARE(stand.Letters, (QStringList{u"Courier New 12 1 ff505050"_s, u"Arial 48 1 ff505050"_s}));
         QCOMPARE(stand.Aantal, u"2 Items"_s);
         QCOMPARE(bord.Rij(0), u"-|eerst|woord|-"_s);
@@ -305,15 +305,15 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
-        Stand verwacht(bord);
+        EditorStand verwacht(bord);
         TekstForm form;
         form.VoegRegelToe(u"V"_s, u"Dier"_s, u"Aap"_s, 12);
         verwacht.Rijen += Rij{u"C-04 / 51-V"_s, u"Dier"_s, u"Aap"_s, u"-"_s};
-        QVERIFY(Stand(bord) == verwacht);
+        QVERIFY(EditorStand(bord) == verwacht);
         PuzzelType = Kruiswoord;
         form.VoegRegelToe(u"H"_s, QString(), u"noot"_s, 12);
         verwacht.Rijen += Rij{u"C-04 / 51-H"_s, QString(), u"noot"_s, u"12"_s};
-        QVERIFY(Stand(bord) == verwacht);
+        QVERIFY(EditorStand(bord) == verwacht);
         QVERIFY(!form.Unloaded());
     }
 

@@ -227,13 +227,13 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
-        const Stand ervoor(bord);
+        const EditorStand ervoor(bord);
         VakForm form;
         form.HScroll1->setValue(5);
         form.Text1->SetText(u"tekst"_s);
         Klik(bord, *form.CancelKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QCOMPARE(PijlSoort, quint8(5)); // it keeps its last value
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }

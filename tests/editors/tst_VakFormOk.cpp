@@ -291,13 +291,13 @@ private slots:
         bord.Venster.Pic->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = Groen});
         bord.Venster.PicGroot->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = Groen});
         bord.Venster.Label11->SetCaption(u"iets"_s);
-        Stand verwacht(bord);
+        EditorStand verwacht(bord);
         Plaats(bord, 2, 3, 7, u"tekst"_s);
         verwacht.Letters[1] = u"Arial Narrow 13 1 ff000000"_s;
         verwacht.Gewijzigd = true;
         verwacht.Pic = bord.Pic();
         verwacht.Groot = bord.Groot();
-        QVERIFY(Stand(bord) == verwacht); // no row, no count
+        QVERIFY(EditorStand(bord) == verwacht); // no row, no count
         QCOMPARE(PijlSoort, quint8(7));
     }
 
@@ -324,10 +324,10 @@ private slots:
     {
         Bord bord;
         OrgineelRood = -1; // what a settings file may hold
-        const Stand ervoor(bord);
+        const EditorStand ervoor(bord);
         VakForm form;
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::OngeldigArgument));
-        QVERIFY(Stand(bord) == ervoor);
+        QVERIFY(EditorStand(bord) == ervoor);
         QVERIFY(!form.Unloaded());
         OrgineelRood = 300; // above 255 counts as 255
         form.OkKnop_Click();

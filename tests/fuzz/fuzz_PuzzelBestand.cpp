@@ -7,20 +7,23 @@
 
 using namespace Qt::StringLiterals;
 
-/// Whether a field is read as it was written, which nothing quotes.
-static bool BlijftHeel(const QString &veld)
+/// Whether a row is read as it was written, which nothing quotes.
+static bool BlijftHeel(const Rij &rij)
 {
     const auto scheidt = [](QChar teken) { return teken == u',' || teken == u'\r' || teken == u'\n'; };
-    return std::none_of(veld.begin(), veld.end(), scheidt) && (veld.isEmpty() || !u" \t\""_s.contains(veld.front()));
+    const auto blijftHeel = [&](const QString &veld) {
+        return std::none_of(veld.begin(), veld.end(), scheidt) &&
+               (veld.isEmpty() || !u" \t\""_s.contains(veld.front()));
+    };
+    return blijftHeel(Trim(rij.Vaknummer)) && blijftHeel(rij.Omschrijving) && blijftHeel(rij.Oplossing) &&
+           blijftHeel(rij.Nr);
 }
 
 static void ControleerRijen(const PuzzelLijst &lijst)
 {
-    EIS(lijst.Rijen.isEmpty() || (lijst.Soort && lijst.Breedte && lijst.Hoogte));
-    for (const QStringList &rij : lijst.Rijen) {
-        EIS(rij.size() == 4);
-        EIS(!Trim(rij[0]).isEmpty());
-    }
+    EIS((lijst.Rijen.isEmpty() && !lijst.Heel) || (lijst.Soort && lijst.Breedte && lijst.Hoogte));
+    for (const Rij &rij : lijst.Rijen)
+        EIS(!Trim(rij.Vaknummer).isEmpty());
 }
 
 /// What a file that is cut off has of a whole one: nothing else, but for the last row, in which the cut may be.
@@ -38,13 +41,12 @@ static void ControleerSchrijven(const PuzzelLijst &lijst)
         LeesPuzzelLijst(SchrijfPuzzelLijst(*lijst.Soort, *lijst.Breedte, *lijst.Hoogte, lijst.Rijen));
     ControleerRijen(terug);
     EIS(terug.Soort == lijst.Soort && terug.Breedte == lijst.Breedte && terug.Hoogte == lijst.Hoogte);
-    QList<QStringList> rijen = lijst.Rijen;
-    for (QStringList &rij : rijen) {
-        rij[0] = Trim(rij[0]);
-        if (!std::all_of(rij.begin(), rij.end(), BlijftHeel))
-            return;
-    }
-    EIS(terug.Rijen == rijen);
+    if (!std::all_of(lijst.Rijen.begin(), lijst.Rijen.end(), BlijftHeel))
+        return;
+    QList<Rij> rijen = lijst.Rijen;
+    for (Rij &rij : rijen)
+        rij.Vaknummer = Trim(rij.Vaknummer);
+    EIS(terug.Heel && terug.Rijen == rijen);
 }
 
 void Probeer(const QByteArray &inhoud)
