@@ -3,7 +3,7 @@
 #include "Adressen.h"
 
 #include "app/AboutForm.h"
-#include "app/Opstarten.h"
+#include "app/Afsluiten.h"
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/NieuwForm.h"
