@@ -5,6 +5,7 @@
 #include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
 #include "platform/ListBox.h"
+#include "platform/ListView.h"
 #include "platform/PictureBox.h"
 #include "platform/Shapes.h"
 
@@ -14,7 +15,6 @@
 #include <QMenu>
 #include <QScrollBar>
 #include <QTimer>
-#include <QTreeWidget>
 
 /// The one window that stays open. Its controls hold the puzzle: Pic, PicGroot and ListView1. Each of its areas has its
 /// layout and its handlers in a source file of its own.
@@ -54,7 +54,7 @@ public:
     PictureBox *Pic, *PicGroot, *PicVak, *PicR, *PicO, *Vak1, *Vak2;
     RectMark *Shape1;
     LineMark *Line1;
-    QTreeWidget *ListView1;
+    ListView *ListView1;
     ListBox *List1, *List2, *List3;
     QComboBox *Combo1;
     QScrollBar *ScrolLengte;

@@ -7,29 +7,16 @@
 #include "platform/Berichten.h"
 #include "platform/Getallen.h"
 #include "platform/Kleur.h"
-#include "platform/Twips.h"
 
-#include <QHeaderView>
 #include <QSignalBlocker>
-#include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
 
-/// Shows the beginning of a text: a file may hold one of megabytes.
-class BeginVanTekst : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-    QString displayText(const QVariant &waarde, const QLocale &) const override
-    {
-        constexpr int MostCharacters = 260;
-        return waarde.toString().left(MostCharacters);
-    }
-};
-
 void MainForm::MaakLijst()
 {
-    ListView1 = Maak<QTreeWidget>("ListView1", u"Lijst van geplaatste woorden"_s);
+    const QList<ListView::Column> kolommen{
+        {u"Vaknummer"_s, 1320}, {u"Omschrijving"_s, 2160}, {u"Oplossing"_s, 1350}, {u"Nr."_s, 630}};
+    ListView1 = Maak<ListView>("ListView1", u"Lijst van geplaatste woorden"_s, nullptr, kolommen);
     Frame7 = MaakFrame("Frame7", u"Lijst"_s);
     DelKnop = MaakKnopMetTip("DelKnop", u" Verwijder een item uit bovenstaande lijst "_s, u"knop-wissen"_s, Frame7);
     Label10 = MaakLabel("Label10", u"Item verwijderen"_s, Frame7);
@@ -41,20 +28,9 @@ void MainForm::MaakLijst()
     Zet(Label10, 1170, 315);
     Zet(Label11, 4350, 315);
 
-    ListView1->setHeaderLabels({u"Vaknummer"_s, u"Omschrijving"_s, u"Oplossing"_s, u"Nr."_s});
-    ListView1->header()->setStretchLastSection(false);
-    ListView1->header()->setSectionsMovable(false);
-    ListView1->header()->setMinimumSectionSize(20);
-    int kolom = 0;
-    for (const int breedte : {1320, 2160, 1350, 630})
-        ListView1->setColumnWidth(kolom++, Twips::NaarPixels(breedte));
-    ListView1->setRootIsDecorated(false);
-    ListView1->setUniformRowHeights(true);
-    ListView1->setItemDelegate(new BeginVanTekst(ListView1));
     Kleur(ListView1, RGB(220, 220, 250), RGB(0, 0, 0));
 
-    bij(ListView1, &QTreeWidget::itemClicked, [this] { ListView1_ItemClick(); });
-    bij(ListView1, &QTreeWidget::itemSelectionChanged, [this] { ListView1_ItemClick(); });
+    bij(ListView1, &ListView::ItemClick, &MainForm::ListView1_ItemClick);
     bij(DelKnop, &ImageButton::clicked, &MainForm::DelKnop_Click);
 }
 
@@ -131,7 +107,6 @@ QList<Rij> MainForm::Rijen() const
 
 void MainForm::WisRijen()
 {
-    const QSignalBlocker stil(ListView1);
     ListView1->clear();
 }
 

@@ -1,19 +1,9 @@
 #include "platform/ListBox.h"
 
-#include <QSignalBlocker>
-
-ListBox::ListBox(QWidget *ouder) : QListView(ouder)
+ListBox::ListBox(QWidget *ouder) : RowChoice(ouder)
 {
     setModel(&model_);
     setUniformItemSizes(true);
-    setEditTriggers(NoEditTriggers);
-    setSelectionMode(SingleSelection);
-    connect(this, &QListView::clicked, this, &ListBox::Click);
-    connect(this, &QListView::doubleClicked, this, &ListBox::DblClick);
-    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-        if (ListIndex() >= 0)
-            emit Click();
-    });
 }
 
 void ListBox::AddItem(const QString &tekst)
@@ -30,10 +20,8 @@ void ListBox::SetItems(const QStringList &teksten)
 
 void ListBox::RemoveItem(int index)
 {
-    const QSignalBlocker stil(selectionModel());
+    selectionModel()->clear();
     model_.removeRow(index);
-    selectionModel()->reset();
-    viewport()->update();
 }
 
 QString ListBox::List(int index) const
@@ -50,4 +38,11 @@ int ListBox::ListIndex() const
 void ListBox::SetListIndex(int index)
 {
     selectionModel()->setCurrentIndex(model_.index(index), QItemSelectionModel::ClearAndSelect);
+}
+
+void ListBox::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    RowChoice::mouseDoubleClickEvent(event);
+    if (event->button() == Qt::LeftButton)
+        emit DblClick();
 }

@@ -1,10 +1,12 @@
 #pragma once
 
+#include "platform/RowChoice.h"
+
 #include <QListView>
 #include <QStringListModel>
 
 /// A list of texts of which one can be selected.
-class ListBox : public QListView
+class ListBox : public RowChoice<QListView>
 {
     Q_OBJECT
 public:
@@ -23,8 +25,12 @@ public:
     QString Text() const { return List(ListIndex()); }
 
 signals:
-    void Click();    ///< a row was chosen, by pointer or key
-    void DblClick(); ///< a row was clicked twice
+    void Click();    ///< a row was chosen, or the chosen row was clicked again
+    void DblClick(); ///< a double click anywhere in the list: without a chosen row when it was below the rows
+
+protected:
+    void RowChosen() override { emit Click(); }
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
     QStringListModel model_;

@@ -212,6 +212,53 @@ private slots:
         QVERIFY(bord.Venster.Line1->isVisible());
     }
 
+    // A solution too long shows a message each time that its row is handled.
+    void aClickIsHandledOnce()
+    {
+        Bord bord;
+        bord.Venster.show();
+        bord.Venster.VoegRijenToe(
+            {{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}, {u"A-02 / 17-H"_s, {}, QString(73, u'a'), u"-"_s}});
+        QTreeWidget &lijst = *bord.Venster.ListView1;
+        const QPoint midden = lijst.visualItemRect(lijst.topLevelItem(1)).center();
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, midden);
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, midden);
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 2);
+        QTest::keyClick(&lijst, Qt::Key_Up);
+        QTest::keyClick(&lijst, Qt::Key_Down);
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 3);
+    }
+
+    void noClickTakesTheSelectionAway()
+    {
+        Bord bord;
+        bord.Venster.show();
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
+        QTreeWidget &lijst = *bord.Venster.ListView1;
+        const QPoint midden = lijst.visualItemRect(lijst.topLevelItem(0)).center();
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, Qt::ControlModifier, midden);
+        QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, QPoint(midden.x(), lijst.viewport()->height() - 5));
+        QCOMPARE(lijst.selectedItems().size(), 1);
+        QVERIFY(bord.Venster.Line1->isVisible());
+        bord.Bank.Script.Antwoorden = {Antwoord::Nee};
+        bord.Venster.DelKnop_Click();
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1); // it has a row to ask about
+    }
+
+    void whatTheProgramItselfDoesIsNoClick()
+    {
+        Bord bord;
+        const QSignalSpy klik(bord.Venster.ListView1, &ListView::ItemClick);
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}, {u"A-02 / 17-H"_s, {}, u"noot"_s, {}}});
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        bord.Venster.DelKnop_Click();
+        QCOMPARE(bord.Venster.ListView1->selectedItems().size(), 1);
+        bord.Venster.VoegRijenToe({{u"-"_s, {}, u"mies"_s, {}}});
+        bord.Venster.WisRijen();
+        QCOMPARE(klik.size(), 0);
+    }
+
     void deletingAsksAndLeavesTheBoardAlone()
     {
         Bord bord;
