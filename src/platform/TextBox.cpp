@@ -1,7 +1,11 @@
 #include "platform/TextBox.h"
 
+#include "platform/BeginVan.h"
+
 #include <QAbstractTextDocumentLayout>
-#include <QEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMimeData>
 #include <QTextBlock>
 #include <QTextLayout>
 
@@ -16,7 +20,7 @@ TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     document()->setDocumentMargin(2);
-    connect(this, &QTextEdit::textChanged, this, [this] { wrapWidth_ = -1; });
+    connect(this, &QTextEdit::textChanged, this, [this] { lineOfChar_.clear(); });
 }
 
 QString TextBox::Text() const
@@ -24,10 +28,62 @@ QString TextBox::Text() const
     return toPlainText().replace(u'\n', "\r\n"_L1);
 }
 
+// The beginning of a text that fits in that many characters, its line ends made into CR LF.
+static QString Passend(const QString &tekst, qsizetype ruimte)
+{
+    QString passend = tekst;
+    passend.replace("\r\n"_L1, "\n"_L1);
+    for (const QChar einde : {QChar(u'\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
+        passend.replace(einde, u'\n');
+    return BeginVan(passend.replace(u'\n', "\r\n"_L1), ruimte);
+}
+
 void TextBox::SetText(const QString &tekst)
 {
-    if (toPlainText() != tekst) // what stands there already is no change
-        setPlainText(tekst);
+    const QString passend = Passend(tekst, MaxLength);
+    if (Text() != passend) // what stands there already is no change
+        setPlainText(passend);
+}
+
+qsizetype TextBox::Room() const
+{
+    const QString gekozen = textCursor().selectedText();
+    const auto einden = gekozen.count(QChar::ParagraphSeparator) + gekozen.count(QChar::LineSeparator);
+    return MaxLength - Text().size() + gekozen.size() + einden;
+}
+
+// For all that is pasted or dropped. Qt's own routine looks at the first format without asking whether there is one: a
+// clipboard that nobody owns has none.
+void TextBox::insertFromMimeData(const QMimeData *source)
+{
+    const QString tekst = Passend(source->text(), Room());
+    if (tekst.isEmpty())
+        return;
+    textCursor().insertText(tekst);
+    ensureCursorVisible();
+}
+
+// The characters that a key types; none when it does something else. AltGr comes as Ctrl and Alt together.
+static QString Typt(QKeyEvent &event)
+{
+    if (event.matches(QKeySequence::InsertParagraphSeparator) || event.matches(QKeySequence::InsertLineSeparator))
+        return u"\r\n"_s;
+    const bool opdracht = event.modifiers() & Qt::ControlModifier && !(event.modifiers() & Qt::AltModifier);
+    const QString tekst = event.text();
+    return opdracht || tekst.isEmpty() || tekst[0] < u' ' || tekst[0] == u'\x7f' ? QString() : tekst;
+}
+
+void TextBox::keyPressEvent(QKeyEvent *event)
+{
+    if (const qsizetype tekens = Typt(*event).size(); tekens == 0 || tekens <= Room())
+        QTextEdit::keyPressEvent(event);
+}
+
+void TextBox::inputMethodEvent(QInputMethodEvent *event)
+{
+    const int vervangt = event->replacementLength();
+    event->setCommitString(Passend(event->commitString(), Room() + vervangt), event->replacementStart(), vervangt);
+    QTextEdit::inputMethodEvent(event);
 }
 
 int TextBox::LineCount() const
@@ -51,21 +107,22 @@ void TextBox::changeEvent(QEvent *event)
 {
     QTextEdit::changeEvent(event);
     if (event->type() == QEvent::FontChange)
-        wrapWidth_ = -1;
+        lineOfChar_.clear();
 }
 
 const std::vector<int> &TextBox::Lines() const
 {
-    const int width = this->width() - 2 * frameWidth();
-    if (wrapWidth_ == width)
-        return lineOfChar_;
     // Wrapping is fixed to the box's width here, so that a box that was never shown wraps like the one on the screen.
-    const_cast<TextBox *>(this)->setLineWrapColumnOrWidth(width);
-    document()->setTextWidth(width);
-    document()->documentLayout()->documentSize(); // lays out the whole text
-    wrapWidth_ = width;
+    const int width = this->width() - 2 * frameWidth();
+    if (wrapWidth_ != width) {
+        const_cast<TextBox *>(this)->setLineWrapColumnOrWidth(width);
+        wrapWidth_ = width;
+        lineOfChar_.clear();
+    }
+    if (!lineOfChar_.empty())
+        return lineOfChar_;
+    document()->documentLayout()->documentSize(); // lays out what has changed
 
-    lineOfChar_.clear();
     int firstLine = 0;
     for (QTextBlock block = document()->begin(); block.isValid(); block = block.next()) {
         const QTextLayout &layout = *block.layout();

@@ -2,6 +2,7 @@
 
 #include <QTextEdit>
 
+#include <limits>
 #include <vector>
 
 /// A multi-line box of plain text that wraps at its own width and tells its lines as it displays them. In its text, and
@@ -12,6 +13,9 @@ class TextBox : public QTextEdit
 public:
     explicit TextBox(QWidget *ouder);
 
+    /// The most characters that the box takes: typed, inserted or set. A line end is two.
+    qsizetype MaxLength = std::numeric_limits<qsizetype>::max();
+
     QString Text() const;
     void SetText(const QString &tekst);
 
@@ -20,12 +24,16 @@ public:
     int LineFromChar(qsizetype index) const;
 
 protected:
+    void insertFromMimeData(const QMimeData *source) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    void inputMethodEvent(QInputMethodEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
+    qsizetype Room() const; ///< for characters in place of the selection
     const std::vector<int> &Lines() const;
 
-    mutable std::vector<int> lineOfChar_; ///< of each character, and of the end of the text behind them
-    mutable int wrapWidth_ = -1;          ///< the width that lineOfChar_ holds for; -1 when text or font has changed
+    mutable std::vector<int> lineOfChar_; ///< of each character, and of the end of the text; empty when not known
+    mutable int wrapWidth_ = -1;          ///< the width that the text is wrapped at
 };
