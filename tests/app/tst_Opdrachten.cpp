@@ -2,6 +2,8 @@
 #include "app/Opstarten.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
+#include "platform/ImageButton.h"
+#include "platform/LineBox.h"
 #include "support/Bestuurder.h"
 #include "support/Bord.h"
 
@@ -145,8 +147,27 @@ private slots:
         Programma programma;
         programma.Main().HelpKnop->click();
         QCOMPARE(programma.Shell.Geopend.size(), 1);
-        QVERIFY(programma.Shell.Geopend[0].toLocalFile().endsWith(u"/Data/help.pdf"_s));
-        QVERIFY(qAbs(programma.Scherm.Bank.TestKlok.Gewacht() - 0.2) < 1e-6);
+        QCOMPARE(programma.Shell.Geopend[0], QUrl::fromLocalFile(AppPath + u"/Data/help.pdf"_s));
+        QCOMPARE(programma.Scherm.Bank.TestKlok.Gewacht(), 0.2);
+    }
+
+    void aSecondClickDuringThePressEffectRunsTheCommandTwice()
+    {
+        Programma programma;
+        ImageButton *knop = programma.Main().HelpKnop;
+        const QPoint plaats = knop->pos();
+        QMetaObject::invokeMethod(knop, &ImageButton::click, Qt::QueuedConnection);
+        knop->click();
+        QCOMPARE(programma.Shell.Geopend.size(), 2);
+        QCOMPARE(knop->pos(), plaats);
+    }
+
+    void theClockShowsNoTimeUntilItsFirstTick()
+    {
+        Programma programma;
+        programma.Main().Timer1->setInterval(3600000);
+        QCoreApplication::processEvents();
+        QCOMPARE(programma.Main().KlokLabel->Caption(), u"00:00"_s);
     }
 
     void theAboutButtonOpensItsWindow()
@@ -167,15 +188,26 @@ private slots:
     void theVisibleBoardGoesToTheClipboard()
     {
         Programma programma;
+        MainForm &main = programma.Main();
         programma.Scherm.Klik(Qt::RightButton, 3, 4);
-        programma.Main().ToolsKlemboard->trigger();
+        programma.Scherm.Klik(Qt::LeftButton, 1, 1);
+        main.SoortPlaatsing->close();
+        main.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
+        main.ListView1_ItemClick();
+        QVERIFY(main.Shape1->isVisible() && main.Line1->isVisible()); // neither is drawn into the board
+        QVERIFY(Getoond(*main.Pic) != programma.Scherm.Pic());
+        const Stand ervoor = programma.Scherm.Nu();
+        main.ToolsKlemboard->trigger();
         const QImage klembord = QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32);
-        QVERIFY(klembord == programma.Scherm.Pic()); // at screen size, with its grid lines
+        QCOMPARE(klembord, programma.Scherm.Pic()); // at screen size, with its grid lines
         QCOMPARE(klembord.pixel(30, 15), qRgb(150, 150, 150));
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), QString());
         QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst,
+        const Bericht &bericht = programma.Scherm.Bank.Script.Gezien[0];
+        QCOMPARE(bericht.Tekst,
                  u"Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."_s);
-        QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
+        QCOMPARE(bericht.Soort, Knoppen::Ok);
+        QCOMPARE(bericht.Plaatje, Icoon::Geen);
     }
 
     void aFilippineCanBeCleared()
@@ -218,16 +250,33 @@ private slots:
         QVERIFY(programma.Main().Shape1->isHidden());
     }
 
+    void anyOtherItemOnlyHidesTheFrame_data()
+    {
+        QTest::addColumn<int>("index");
+        for (const int index : {3, 4, 6, 7, 8, 9}) // "Annuleren" is 9; the editors of 3 and 7 aren't there yet
+            Geval(QByteArray::number(index), index);
+    }
+    void anyOtherItemOnlyHidesTheFrame()
+    {
+        QFETCH(int, index);
+        Programma programma;
+        programma.Scherm.Klik(Qt::LeftButton, 3, 4);
+        programma.Main().SoortPlaatsing->close();
+        const Stand ervoor = programma.Scherm.Nu();
+        emit programma.Main().VakMenuGekozen(index);
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Shape1"_s);
+        QVERIFY(programma.Main().Shape1->isHidden());
+        QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty());
+    }
+
     void cancellingThePopUpOnlyHidesTheFrame()
     {
         Programma programma;
         programma.Scherm.Klik(Qt::LeftButton, 3, 4);
         programma.Main().SoortPlaatsing->close();
-        const QImage pic = programma.Scherm.Pic();
+        const Stand ervoor = programma.Scherm.Nu();
         programma.Main().SoortVakTekst[9]->trigger();
-        QVERIFY(programma.Main().Shape1->isHidden());
-        QVERIFY(programma.Scherm.Pic() == pic);
-        QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty());
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Shape1"_s);
     }
 
     void theFillAsksFirst()
@@ -237,11 +286,13 @@ private slots:
         for (const Antwoord antwoord : {Antwoord::Nee, Antwoord::Ja}) {
             programma.Scherm.Klik(Qt::LeftButton, 0, 0);
             programma.Main().SoortPlaatsing->close();
+            const Stand ervoor = programma.Scherm.Nu();
             programma.Scherm.Bank.Script.Antwoorden = {antwoord};
             programma.Main().SoortVakTekst[5]->trigger();
-            QCOMPARE(HeeftInkt(programma.Scherm.Pic(), Binnen(8, 8)), antwoord == Antwoord::Ja);
+            QCOMPARE(programma.Scherm.Veranderd(ervoor), antwoord == Antwoord::Ja ? u"Pic Shape1"_s : u"Shape1"_s);
             QVERIFY(programma.Main().Shape1->isHidden());
         }
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 2);
         const Bericht &vraag = programma.Scherm.Bank.Script.Gezien[0];
         QCOMPARE(vraag.Tekst, u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s);
         QCOMPARE(vraag.Titel, u"Fill"_s);
@@ -262,21 +313,50 @@ private slots:
         QFETCH(double, gewacht);
         for (const Antwoord antwoord : {Antwoord::Nee, Antwoord::Ja}) {
             Programma programma;
+            MainForm &main = programma.Main();
             const QByteArray ervoor = programma.Instellingen();
+            main.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
             KleurVakjes = 2;
             PuzzelGewijzigd = true;
+            const Stand stand = programma.Scherm.Nu();
             programma.Scherm.Bank.Script.Antwoorden = {antwoord};
             if (manier == "menu"_L1)
-                programma.Main().FileExit->trigger();
+                main.FileExit->trigger();
             else if (manier == "knop"_L1)
-                programma.Main().ExitKnop->click();
+                main.ExitKnop->click();
             else
-                programma.Main().close();
+                main.close();
             QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
-            QCOMPARE(programma.Main().isVisible(), antwoord == Antwoord::Nee);
-            QCOMPARE(programma.Instellingen() == ervoor, antwoord == Antwoord::Nee);
-            QVERIFY(qAbs(programma.Scherm.Bank.TestKlok.Gewacht() - gewacht) < 1e-6);
+            QCOMPARE(main.isVisible(), antwoord == Antwoord::Nee);
+            QCOMPARE(programma.Scherm.Veranderd(stand), QString());
+            const QByteArray bewaard = QByteArray(ervoor).replace("\r\n1\r\n", "\r\n2\r\n");
+            QVERIFY(bewaard != ervoor);
+            QCOMPARE(programma.Instellingen(), antwoord == Antwoord::Nee ? ervoor : bewaard);
+            QCOMPARE(programma.Scherm.Bank.TestKlok.Gewacht(), gewacht);
         }
+    }
+
+    void aNewPuzzleKeepsTheQuestionAtTheEnd_data()
+    {
+        QTest::addColumn<bool>("gewijzigd");
+        Geval("after a saved one", false);
+        Geval("after unsaved changes", true);
+    }
+    void aNewPuzzleKeepsTheQuestionAtTheEnd()
+    {
+        QFETCH(bool, gewijzigd);
+        Programma programma;
+        PuzzelGewijzigd = gewijzigd;
+        Bestuurder bestuurder(u"NieuwForm"_s, [](Form &form) {
+            Vind<LineBox>(form, u"Text1"_s)->setText(u"nieuw"_s);
+            Vind<ImageButton>(form, u"OkKnop"_s)->click();
+        });
+        programma.Main().FileNew->trigger();
+        QCOMPARE(PuzzelNaam, u"nieuw"_s);
+        programma.Scherm.Bank.Script.Antwoorden = {Antwoord::Nee};
+        programma.Main().close();
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), gewijzigd ? 1 : 0);
+        QCOMPARE(programma.Main().isVisible(), gewijzigd);
     }
 
     void aFailureInAnEditorKeepsWindowAndPuzzle()

@@ -376,29 +376,6 @@ private slots:
         QCOMPARE(uitleg->Caption(), u"Maak een keus."_s);
     }
 
-    void aPictureIsAsLargeAsItsPlace()
-    {
-        TestVenster venster;
-        ImageBox *beeld = venster.MaakBeeld("Image1", u"Richting"_s, u"richting-h"_s);
-        TestVenster::Zet(beeld, 150, 150, 480, 720);
-        QImage verwacht(32, 48, QImage::Format_ARGB32_Premultiplied);
-        verwacht.fill(qRgb(10, 200, 30));
-        {
-            QPainter painter(&verwacht);
-            painter.drawPixmap(0, 0, Plaatjes::Pixmap(u"richting-h"_s, QSize(32, 48), 1));
-        }
-        const auto getoond = [&] {
-            return beeld->grab().toImage().convertToFormat(QImage::Format_ARGB32_Premultiplied);
-        };
-        QCOMPARE(getoond(), verwacht);
-        beeld->SetPicture(u"richting-v"_s);
-        QCOMPARE(beeld->Picture(), u"richting-v"_s);
-        QVERIFY(getoond() != verwacht);
-        beeld->SetPicture(QString());
-        verwacht.fill(qRgb(10, 200, 30));
-        QCOMPARE(getoond(), verwacht);
-    }
-
     void theFirstOptionIsChosen()
     {
         TestVenster venster;
@@ -468,30 +445,22 @@ private slots:
         QCOMPARE(combo->lineEdit()->cursorPosition(), 1);
     }
 
-    void aScrollBarMovesOneAtATimeAndTakesTheFocus()
+    void aScrollBarMovesOneAtATime()
     {
         TestVenster venster;
-        QScrollBar *schuif = venster.MaakSchuif("HScroll1", u"Soort"_s, 2, 19);
+        QScrollBar *schuif = venster.MaakSchuif("HScroll1", u"Soort"_s, 2, 19, venster.Knop);
+        QCOMPARE(schuif->parentWidget(), venster.Knop);
+        QCOMPARE(schuif->objectName(), u"HScroll1"_s);
+        QCOMPARE(schuif->accessibleName(), u"Soort"_s);
         QCOMPARE(schuif->value(), 2);
+        QCOMPARE(schuif->minimum(), 2);
         QCOMPARE(schuif->maximum(), 19);
         QCOMPARE(schuif->orientation(), Qt::Horizontal);
-        venster.show();
-        venster.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&venster));
-        schuif->setFocus();
-        QTest::keyClick(schuif, Qt::Key_Right);
-        QCOMPARE(schuif->value(), 3);
-        for (const auto &[toets, waarde] :
-             {std::pair(Qt::Key_Down, 4), std::pair(Qt::Key_PageDown, 5), std::pair(Qt::Key_Left, 4),
-              std::pair(Qt::Key_Up, 3), std::pair(Qt::Key_PageUp, 2), std::pair(Qt::Key_End, 19)}) {
+        for (const auto &[toets, waarde] : {std::pair(Qt::Key_Right, 3), std::pair(Qt::Key_PageDown, 4),
+                                            std::pair(Qt::Key_Left, 3), std::pair(Qt::Key_PageUp, 2)}) {
             QTest::keyClick(schuif, toets);
             QCOMPARE(schuif->value(), waarde);
         }
-        venster.Vak->setFocus();
-        const QImage zonder = schuif->grab().toImage();
-        QTest::keyClick(&venster, Qt::Key_Tab);
-        QCOMPARE(QApplication::focusWidget(), schuif);
-        QVERIFY(schuif->grab().toImage() != zonder); // and shows it
     }
 
     // --- closing ---

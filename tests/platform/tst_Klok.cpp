@@ -54,6 +54,12 @@ private slots:
         Klok::ProgrammaEindigt(false);
     }
 
+    void aProgramThatHasJustBegunWaits() // the first test: nothing has been set yet
+    {
+        DirecteKlok klok;
+        QVERIFY(!IsAfgebroken(klok));
+    }
+
     void theTimerCountsTheSecondsSinceMidnight()
     {
         Klok klok;
@@ -139,6 +145,15 @@ private slots:
         QCOMPARE(klok.Gevraagd, std::vector{1.0});
     }
 
+    void aRestIsRoundingUpToAMicrosecond()
+    {
+        LijstKlok onder(0, {1 - 9e-7}), boven(0, {1 - 11e-7, 1});
+        onder.Wacht(1);
+        QCOMPARE(onder.Gevraagd.size(), std::size_t{1});
+        boven.Wacht(1);
+        QCOMPARE(boven.Gevraagd.size(), std::size_t{2});
+    }
+
     void aSmallRestIsSleptToo()
     {
         LijstKlok klok(100, {100.999, 101});
@@ -166,6 +181,13 @@ private slots:
         LijstKlok klok(86399.9, {0.05});
         klok.Wacht(0.2, QEventLoop::ExcludeUserInputEvents);
         QCOMPARE(klok.Gevraagd.size(), std::size_t{1});
+    }
+
+    void aClockThatStandsStillIsNoMidnight()
+    {
+        LijstKlok klok(100, {100, 100.2});
+        klok.Wacht(0.2, QEventLoop::ExcludeUserInputEvents);
+        QCOMPARE(klok.Gevraagd.size(), std::size_t{2});
     }
 
     void theKindOfEventsIsHandedOn_data()

@@ -146,11 +146,15 @@ private slots:
 
     void theColoursAreSet()
     {
-        Label label(u"I"_s, nullptr);
+        QWidget venster;
+        Label label(u"I"_s, &venster);
         label.SetFont(Lettertype(u"Arial"_s, 48, true));
+        const QRgb achter = venster.palette().color(QPalette::Window).rgb();
+        QCOMPARE(Getoond(venster).pixel(0, 0), achter); // what lies below it is seen
         label.SetBackColor(qRgb(10, 200, 30));
         label.SetForeColor(qRgb(200, 10, 30));
-        const QImage beeld = label.grab().toImage();
+        QCOMPARE(Getoond(venster).pixel(0, 0), qRgb(10, 200, 30));
+        const QImage beeld = Getoond(label);
         QCOMPARE(beeld.pixel(0, 0), qRgb(10, 200, 30));
         QCOMPARE(beeld.pixel(beeld.width() / 2, beeld.height() / 2), qRgb(200, 10, 30));
     }
