@@ -2,6 +2,7 @@
 #include "support/Bord.h"
 
 #include <QPainter>
+#include <QSignalSpy>
 #include <QStyledItemDelegate>
 
 using namespace Qt::StringLiterals;
