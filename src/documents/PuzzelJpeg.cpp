@@ -2,6 +2,7 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "platform/Bewaren.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
 #include "platform/PictureFiles.h"
@@ -31,7 +32,11 @@ bool MaakPuzzelJpeg(const QString &naam)
     if (!beurt.tryLock(Geduld))
         return false;
     const QString tussen = Files::Pad(AppPath, {TussenNaam});
-    negeer([&] { Files::SavePicture(Main().PicGroot->Image(), tussen); });
+    negeer([&] {
+        BestandenSet set(BestandenSet::Duur::Vluchtig);
+        Files::SavePicture(Main().PicGroot->Image(), tussen, set);
+        set.PlaatsAlles();
+    });
     if (Files::Dir(tussen) != TussenNaam)
         return false;
     negeer([&] { Files::BmpToJpeg(tussen, Files::Pad(FotoMap(), {naam + u".jpg"_s}), 100); });

@@ -98,7 +98,7 @@ void BestandenSet::Zet(const QString &pad, std::initializer_list<QByteArrayView>
     bool geschreven = true;
     for (const QByteArrayView deel : delen)
         geschreven = geschreven && schijf.Schrijf(nieuw, deel);
-    geschreven = geschreven && schijf.Spoel(nieuw);
+    geschreven = geschreven && (!blijvend_ || schijf.Spoel(nieuw));
     nieuw.close();
     if (!geschreven) {
         schijf.Verwijder(nieuw.fileName());
@@ -142,7 +142,8 @@ void BestandenSet::PlaatsAlles()
     for (const Deel &deel : std::exchange(delen_, {}))
         if (!Plaats(deel))
             mislukt = map_ + u'/' + deel.Naam;
-    Schijf::Huidig().SpoelMap(map_);
+    if (blijvend_)
+        Schijf::Huidig().SpoelMap(map_);
     SluitNota();
     if (!mislukt.isEmpty())
         throw Fout(Fout::SchijfFout, mislukt);

@@ -14,7 +14,10 @@
 class BestandenSet
 {
 public:
-    BestandenSet() = default;
+    /// What is there for a moment only need not come to the disk.
+    enum class Duur { Blijvend, Vluchtig };
+
+    explicit BestandenSet(Duur duur = Duur::Blijvend) : blijvend_(duur == Duur::Blijvend) {}
     ~BestandenSet(); ///< what was not put in place is removed
     Q_DISABLE_COPY_MOVE(BestandenSet)
 
@@ -39,6 +42,7 @@ private:
     void SluitNota();
     bool Plaats(const Deel &deel) const;
 
+    bool blijvend_;
     QString map_;
     QFile nota_;
     int geteld_ = 0;

@@ -24,6 +24,7 @@ private slots:
     void whatIsNotPutInPlaceIsRemoved();
     void theCallsOfASet();
     void theCallsOfOneFile();
+    void theCallsOfAFileForAMoment();
     void anotherSpellingIsTakenOver();
     void rightsAreKept();
     void aFileThatFailsLeavesTheOthers();
@@ -163,6 +164,20 @@ void TestBewaren::theCallsOfOneFile()
                           u"Spoel "_s + n + u"-1"_s, u"Verplaats "_s + n + u"-1 > a1.bmp"_s, u"SpoelMap "_s + map,
                           u"Verwijder "_s + n})
                  .join(u'\n'));
+}
+
+void TestBewaren::theCallsOfAFileForAMoment()
+{
+    HaperendeSchijf schijf;
+    BestandenSet set(BestandenSet::Duur::Vluchtig);
+    set.Zet(Pad("a1.bmp"), {"nieuw"});
+    set.PlaatsAlles();
+    const QString n = u".rasteratelier-*"_s;
+    QCOMPARE(schijf.Logboek.join(u'\n'),
+             (QStringList{u"Open "_s + n, u"Grijp "_s + n, u"Open "_s + n + u"-1"_s, u"Schrijf "_s + n + u"-1"_s,
+                          u"Verplaats "_s + n + u"-1 > a1.bmp"_s, u"Verwijder "_s + n})
+                 .join(u'\n'));
+    QCOMPARE(Inhoud(), QByteArray("nieuw oud oud"));
 }
 
 void TestBewaren::anotherSpellingIsTakenOver()
