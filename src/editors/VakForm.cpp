@@ -67,6 +67,7 @@ void VakForm::Vul()
     Label3->SetFont(Lettertype(u"Arial"_s, 8.25, true));
     ImgR->BackColor = ImgO->BackColor = Achtergrond;
     Text1->setFont(Lettertype(u"Arial"_s, 12, true));
+    Text1->MaxLength = 10000; // laid out in some 40 ms without a blank, a longer one in the square of its length
     Kleur(Text1, RGB(30, 0, 0), RGB(230, 230, 230));
     Label2->SetFont(Lettertype(u"Arial"_s, 8.25, true));
     Label6->SetBackColor(RGB(150, 180, 180));

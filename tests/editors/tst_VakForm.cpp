@@ -2,6 +2,8 @@
 #include "editors/Verwacht.h"
 #include "platform/Plaatjes.h"
 
+#include <QClipboard>
+
 using namespace Qt::StringLiterals;
 
 static const QRgb Wit = qRgb(255, 255, 255);
@@ -268,6 +270,18 @@ private slots:
                     rest.Vul(QRect(x - 1, y - 1, 3, 3), Wit);
                 }
         QCOMPARE(InktVlak(rest.Beeld, rest.Beeld.rect()), QRect());
+    }
+
+    // A clue without a blank is laid out in the square of its length.
+    void aClueHasAtMostTenThousandCharacters()
+    {
+        Bord bord;
+        VakForm form;
+        QGuiApplication::clipboard()->setText(QString(300000, u'm'));
+        form.Text1->paste();
+        QCOMPARE(form.Text1->Text(), QString(10000, u'm'));
+        QTest::keyClick(form.Text1, Qt::Key_X);
+        QCOMPARE(form.Text1->Text().size(), 10000);
     }
 };
 

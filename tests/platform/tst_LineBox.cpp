@@ -3,6 +3,9 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QImage>
+#include <QMenu>
+#include <QMimeData>
 
 using namespace Qt::StringLiterals;
 
@@ -38,6 +41,48 @@ private slots:
         QGuiApplication::clipboard()->setText(tekst);
         geplakt.paste();
         QCOMPARE(geplakt.text(), over);
+    }
+
+    void whereThereIsNoTextNothingIsPasted_data()
+    {
+        QTest::addColumn<int>("soort");
+        QTest::newRow("no format") << 0;
+        QTest::newRow("html only") << 1;
+        QTest::newRow("an image only") << 2;
+    }
+    void whereThereIsNoTextNothingIsPasted()
+    {
+        QFETCH(int, soort);
+        auto *inhoud = new QMimeData;
+        if (soort == 1)
+            inhoud->setHtml(u"<b>aap</b>"_s);
+        else if (soort == 2)
+            inhoud->setImageData(QImage(3, 3, QImage::Format_RGB32));
+        QGuiApplication::clipboard()->setMimeData(inhoud);
+        LineBox box(nullptr);
+        box.setText(u"dier"_s);
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        QTest::keyClick(&box, Qt::Key_Insert, Qt::ShiftModifier);
+        const std::unique_ptr<QMenu> menu(box.createStandardContextMenu());
+        QVERIFY(menu);
+        QCOMPARE(box.text(), u"dier"_s);
+    }
+
+    void aTextOfMegabytesIsCutOff_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        QTest::addColumn<QString>("over");
+        QTest::newRow("one line") << QString(5000000, u'm') << QString(32767, u'm');
+        QTest::newRow("many lines") << u"dier\n"_s.repeated(1000000) << u"dier"_s;
+    }
+    void aTextOfMegabytesIsCutOff()
+    {
+        QFETCH(QString, tekst);
+        LineBox box(nullptr);
+        box.show();
+        QGuiApplication::clipboard()->setText(tekst);
+        QTest::keyClick(&box, Qt::Key_V, Qt::ControlModifier);
+        QTEST(box.text(), "over");
     }
 };
 
