@@ -17,7 +17,7 @@ void Probeer(const QByteArray &inhoud)
     EIS(plaats.Rij >= -10 && plaats.Rij <= 98); // two characters: from "-9" up to "99"
     EIS(plaats.Richting == tekst.back());
 
-    static const QRegularExpression vorm(u"^([A-P])-([0-9]{2}) / ([0-9]{1,3})-(.)$"_s);
+    static const QRegularExpression vorm(u"\\A([A-P])-([0-9]{2}) / ([0-9]{1,3})-(.)\\z"_s);
     const QRegularExpressionMatch delen = vorm.match(tekst);
     if (!delen.hasMatch() || delen.capturedView(3).startsWith(u'0'))
         return;

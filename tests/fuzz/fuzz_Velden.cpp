@@ -28,7 +28,7 @@ static bool IsFout(int nummer, auto &&opdracht)
 /// The whole number that a text is, if it is one.
 static std::optional<qint64> GeheelGetal(const QString &tekst)
 {
-    static const QRegularExpression vorm(u"^ *([+-]?[0-9]{1,18}) *$"_s);
+    static const QRegularExpression vorm(u"\\A *([+-]?[0-9]{1,18}) *\\z"_s);
     const QRegularExpressionMatch delen = vorm.match(tekst);
     return delen.hasMatch() ? std::optional(delen.captured(1).toLongLong()) : std::nullopt;
 }
