@@ -2,6 +2,7 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "board/Raster.h"
 #include "platform/Kleur.h"
 #include "platform/Screen.h"
 #include "platform/Toeval.h"
@@ -38,16 +39,17 @@ void VulLegeVakjes()
     PictureBox &pic = *Main().Pic;
     Screen::MousePointer(Screen::Hourglass);
     pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    const int bord = BordNummer();
     int x = 11;
-    for (int kolom = 1; kolom <= BoardWidth; ++kolom, x += Cell) {
+    for (int kolom = 1; kolom <= BoardWidth && BordNummer() == bord; ++kolom, x += Cell) {
         int y = 7;
-        for (int rij = 1; rij <= BoardHeight; ++rij, y += Cell) {
+        for (int rij = 1; rij <= BoardHeight && BordNummer() == bord; ++rij, y += Cell) {
             if (IsLeeg(pic, x, y)) {
                 pic.SetScaleMode(ScaleModes::Pixels);
                 DrukLetter(pic, x, y);
                 pic.SetScaleMode(ScaleModes::Twips);
             }
-            Wachten(0.01, QEventLoop::ExcludeUserInputEvents);
+            Wachten(0.01);
         }
     }
     Screen::MousePointer(Screen::Own);

@@ -109,8 +109,16 @@ void TekenGroot(int breedte, int hoogte)
         Banden(pic, 5355, 5490, 10755, 10890, RGB(0, 0, 0));
 }
 
+static int bordNummer = 0;
+
+int BordNummer()
+{
+    return bordNummer;
+}
+
 void TekenBord(int breedte, int hoogte)
 {
+    ++bordNummer;
     TekenRaster(breedte, hoogte);
     TekenGroot(breedte, hoogte);
 }

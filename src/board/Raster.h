@@ -15,5 +15,8 @@ void TekenRaster(int breedte, int hoogte);
 ///     |####|     white      |####|  <- also the left frame of the next tile
 void TekenGroot(int breedte, int hoogte);
 
+/// How many boards there have been. What works on one with events running ends when there is another.
+int BordNummer();
+
 /// A board appears: both pictures are drawn from nothing. Raises what ControleerBord raises, and nothing is drawn then.
 void TekenBord(int breedte, int hoogte);

@@ -2,6 +2,7 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "board/Raster.h"
 #include "platform/Kleur.h"
 #include "platform/Screen.h"
 
@@ -14,12 +15,12 @@ static constexpr int SearchRed = 174; ///< of Vak2, a cell of the vertical searc
 void VerwijderRaster(PictureBox &doel)
 {
     Screen::MousePointer(Screen::Hourglass);
-    for (int x = 0; x <= doel.width(); ++x) {
+    const int bord = BordNummer();
+    for (int x = 0; x <= doel.width() && BordNummer() == bord; ++x) {
         for (int y = 0; y <= doel.height(); ++y)
             if (qRed(doel.GetPixel(x, y)) == RasterRed)
                 doel.SetPixel(x, y, RGB(255, 255, 255));
-        // Clicks and keys wait: another puzzle must not come in between.
-        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QCoreApplication::processEvents();
     }
     Screen::MousePointer(Screen::Own);
 }
@@ -41,12 +42,13 @@ void VerwijderLetters(PictureBox &doel)
 {
     constexpr int Cell = 30, TileSize = 465;
     Screen::MousePointer(Screen::Hourglass);
-    for (int kolom = 0; kolom < 16; ++kolom) {
+    const int bord = BordNummer();
+    for (int kolom = 0; kolom < 16 && BordNummer() == bord; ++kolom) {
         for (int rij = 0; rij < 19; ++rij)
             if (const PictureBox *vak = LeegVak(doel, kolom * Cell, rij * Cell))
                 doel.PaintPicture(vak->Image(), QRectF(kolom * VakMaat, rij * VakMaat, TileSize, TileSize),
                                   QRectF(0, 0, TileSize, TileSize));
-        Wachten(0.2, QEventLoop::ExcludeUserInputEvents);
+        Wachten(0.2);
     }
     Screen::MousePointer(Screen::Own);
 }

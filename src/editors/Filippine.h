@@ -3,7 +3,8 @@
 #include "platform/PictureBox.h"
 
 // What turns the finished board of a Filippine into the blank puzzle. Both can be done more than once and cannot be
-// undone. The two kinds of answer cell are told apart by the red component of their background alone.
+// undone. Events run meanwhile; both end when another board appears. The two kinds of answer cell are told apart by the
+// red component of their background alone.
 
 /// Whitens the lines of the raster: every pixel whose red component is 150, whatever it belongs to.
 void VerwijderRaster(PictureBox &doel);

@@ -4,6 +4,7 @@
 
 #include <QGuiApplication>
 #include <QPainter>
+#include <QTimer>
 
 #include <random>
 
@@ -204,7 +205,19 @@ private slots:
         VulLegeVakjes();
         QVERIFY(klok.Zandloper);
         QVERIFY(klok.InTwips);
-        QCOMPARE(klok.Welke, QEventLoop::ExcludeUserInputEvents); // clicks and keys wait until it is done
+        QCOMPARE(klok.Welke, QEventLoop::AllEvents);
+        QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void theFillEndsWhenAnotherBoardAppears()
+    {
+        Bord bord;
+        bord.Begin(Woordzoeker, 9, 9);
+        QTimer::singleShot(0, &bord.Venster, [&] { bord.Begin(Zweeds, 9, 9); });
+        VulLegeVakjes();
+        QCOMPARE(InktVlak(bord.Pic(), Binnen(0, 0)), QRect());
+        QCOMPARE(InktVlak(bord.Pic(), Binnen(1, 0)), QRect());
+        QCOMPARE(InktVlak(bord.Pic(), Binnen(8, 8)), QRect());
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 };

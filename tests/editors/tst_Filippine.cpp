@@ -211,8 +211,25 @@ private slots:
         });
         VerwijderLetters(*bord.Venster.Pic);
         QCOMPARE(klok.Wachttijden, QList<double>(16, 0.2));
-        QCOMPARE(klok.Welke, QList<QEventLoop::ProcessEventsFlags>(16, QEventLoop::ExcludeUserInputEvents));
+        QCOMPARE(klok.Welke, QList<QEventLoop::ProcessEventsFlags>(16, QEventLoop::AllEvents));
         QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void bothEndWhenAnotherBoardAppears()
+    {
+        Bord bord;
+        for (const auto verwijder : {VerwijderRaster, VerwijderLetters}) {
+            bord.Venster.Pic->SetPicture(VolBord(bord, 16, 19));
+            QImage ander;
+            QTimer::singleShot(0, &bord.Venster, [&] {
+                bord.Begin(Filippine, 16, 19);
+                bord.Venster.Pic->SetPicture(VolBord(bord, 16, 19));
+                ander = bord.Pic();
+            });
+            verwijder(*bord.Venster.Pic);
+            QVERIFY(bord.Pic() == ander);
+            QVERIFY(!QGuiApplication::overrideCursor());
+        }
     }
 };
 
