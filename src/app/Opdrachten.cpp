@@ -90,6 +90,7 @@ QString MailDoel()
     return u"mailto:"_s + Adressen::Post + u"?subject=Rasteratelier V"_s + Versie + u" &body=Hallo Tessel,"_s;
 }
 
+// What stands in for the shell here can tell that a mail was not sent: then it is said.
 void HelpMail_Click()
 {
     GebruikersNaam = HaalGebruiker();
