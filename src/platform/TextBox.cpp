@@ -28,12 +28,12 @@ QString TextBox::Text() const
     return toPlainText().replace(u'\n', "\r\n"_L1);
 }
 
-// The beginning of a text that fits in that many characters, its line ends made into CR LF.
+// The beginning of a text that fits in that many characters, all that the box takes for a line end made into CR LF.
 static QString Passend(const QString &tekst, qsizetype ruimte)
 {
-    QString passend = tekst;
+    QString passend = BeginVan(tekst, ruimte); // at once: the rest may be megabytes
     passend.replace("\r\n"_L1, "\n"_L1);
-    for (const QChar einde : {QChar(u'\r'), QChar(QChar::LineSeparator), QChar(QChar::ParagraphSeparator)})
+    for (const QChar einde : {u'\r', u'\u2028', u'\u2029', u'\ufdd0', u'\ufdd1'})
         passend.replace(einde, u'\n');
     return BeginVan(passend.replace(u'\n', "\r\n"_L1), ruimte);
 }
@@ -49,7 +49,7 @@ qsizetype TextBox::Room() const
 {
     const QString gekozen = textCursor().selectedText();
     const auto einden = gekozen.count(QChar::ParagraphSeparator) + gekozen.count(QChar::LineSeparator);
-    return MaxLength - Text().size() + gekozen.size() + einden;
+    return qsizetype{MaxLength} - Text().size() + gekozen.size() + einden;
 }
 
 // For all that is pasted or dropped. Qt's own routine looks at the first format without asking whether there is one: a

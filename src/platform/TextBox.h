@@ -14,9 +14,10 @@ public:
     explicit TextBox(QWidget *ouder);
 
     /// The most characters that the box takes: typed, inserted or set. A line end is two.
-    qsizetype MaxLength = std::numeric_limits<qsizetype>::max();
+    int MaxLength = std::numeric_limits<int>::max();
 
     QString Text() const;
+    /// A text in the place of what is there, cut off at MaxLength. Every kind of line end becomes CR LF.
     void SetText(const QString &tekst);
 
     int LineCount() const; ///< lines as displayed; 1 for an empty box
