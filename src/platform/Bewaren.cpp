@@ -7,6 +7,7 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
+#include <QLockFile>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
@@ -16,6 +17,13 @@ using namespace Qt::StringLiterals;
 
 static const QString Voorvoegsel = u".rasteratelier-"_s;
 static constexpr int Digits = 16;
+static constexpr int Geduld = 2000; // milliseconds; changing the names of a set takes some hundredths of a second
+
+/// The file that says whose turn it is to change names in a folder.
+static QString BeurtPad(const QString &map)
+{
+    return map + u"/.rasteratelier.slot"_s;
+}
 
 // --- the note: a line "number/name/spelling" for each file, and what shows that it is whole ---
 
@@ -136,8 +144,11 @@ void BestandenSet::PlaatsAlles()
 {
     if (delen_.isEmpty())
         return;
-    if (delen_.size() > 1 || delen_.first().Spelling != delen_.first().Naam) // else one step does it
+    QLockFile beurt(BeurtPad(map_));
+    if (delen_.size() > 1 || delen_.first().Spelling != delen_.first().Naam) { // else one step does it
+        beurt.tryLock(Geduld); // who does not get its turn goes on all the same: what is saved is not lost for that
         SchrijfNota();
+    }
     QString mislukt;
     for (const Deel &deel : std::exchange(delen_, {}))
         if (!Plaats(deel))
@@ -185,7 +196,10 @@ void MaakAf(const QString &map)
     static const QRegularExpression vorm(
         QRegularExpression::anchoredPattern(u"\\.rasteratelier-[0-9a-f]{16}(-[0-9]+)?"_s));
     const QStringList namen =
-        QDir(map).entryList({Voorvoegsel + u'*'}, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Name);
+        QDir(map).entryList({u".rasteratelier*"_s}, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Name);
+    QLockFile beurt(BeurtPad(map));
+    if (namen.isEmpty() || !beurt.tryLock(Geduld))
+        return;
     for (const QString &naam : namen) { // a note comes before its files
         const qsizetype lengte = Voorvoegsel.size() + Digits;
         if (!vorm.match(naam).hasMatch())

@@ -6,11 +6,12 @@
 /// Files of one folder that are put in place whole: after a kill at any moment all are the old ones, or all the new.
 ///
 /// Each is written beside its place under a name of its own and brought to the disk. Then a note says what is to get
-/// which name, and the names are changed back to back. A writer holds its note for as long as it runs, so that others
-/// see whether the work is still going on; if it isn't, MaakAf finishes it.
+/// which name, and the names are changed back to back, by one writer in a folder at a time. A writer holds its note for
+/// as long as it runs, so that others see whether the work is still going on; if it isn't, MaakAf finishes it.
 ///
 ///     .rasteratelier-0123456789abcdef      the note, empty until all is written
 ///     .rasteratelier-0123456789abcdef-1    the first file
+///     .rasteratelier.slot                  whose turn it is
 class BestandenSet
 {
 public:
@@ -50,5 +51,6 @@ private:
 };
 
 /// Finishes in a folder what writers that run no more have left: files of which the note was written get their names,
-/// others are removed. Never fails; what cannot be done now stays for the next time.
+/// others are removed. Waits a moment for a writer that is changing names. Never fails; what cannot be done now stays
+/// for the next time.
 void MaakAf(const QString &map);

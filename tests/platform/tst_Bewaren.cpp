@@ -4,6 +4,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QThread>
 
 #include <optional>
 
@@ -30,11 +31,13 @@ private slots:
     void aFileThatFailsLeavesTheOthers();
     void aFileThatCannotComeToItsPlaceLeavesTheOthers();
     void twoSetsAtOnce();
+    void twoSetsThatArePlacedAtOnceAreEachWhole();
     void aSetGoesOnBehindItsPlacing();
 
     void theCallsOfFinishing();
     void aNoteThatIsTakenForALeftOneIsMadeAnew();
     void aWriterThatRunsIsLeftAlone();
+    void whoeverComesNextWaitsForTheNamesToBeChanged();
     void aWriterThatDiesLeavesTheOldOrTheNew();
     void finishingMayDieOrFailAnywhere_data();
     void finishingMayDieOrFailAnywhere();
@@ -248,6 +251,61 @@ void TestBewaren::twoSetsAtOnce()
     twee.PlaatsAlles();
     QCOMPARE(Inhoud(), QByteArray("twee twee oud"));
     QCOMPARE(Namen().size(), 3);
+}
+
+/// A disk that dawdles when the first name has been changed, while another process does something.
+class TrageSchijf : public Schijf
+{
+public:
+    explicit TrageSchijf(std::function<void()> ander) : ander_(std::move(ander)) { Gebruik(this); }
+    ~TrageSchijf() override { Gebruik(nullptr); }
+    Q_DISABLE_COPY_MOVE(TrageSchijf)
+
+    bool Verplaats(const QString &van, const QString &naar) override
+    {
+        const bool gelukt = Schijf::Verplaats(van, naar);
+        if (kind_ < 0) {
+            kind_ = fork();
+            if (kind_ == 0) {
+                Gebruik(nullptr);
+                ander_();
+                _exit(0);
+            }
+            QThread::msleep(300);
+        }
+        return gelukt;
+    }
+    void WachtOpAnder() const { waitpid(kind_, nullptr, 0); }
+
+private:
+    std::function<void()> ander_;
+    pid_t kind_ = -1;
+};
+
+void TestBewaren::twoSetsThatArePlacedAtOnceAreEachWhole()
+{
+    const TrageSchijf schijf([&] {
+        BestandenSet set;
+        set.Zet(Pad("a1.bmp"), {"ander"});
+        set.Zet(Pad("a2.bmp"), {"ander"});
+        set.Zet(Pad("A.LST"), {"ander"}, u"A.lst"_s);
+        set.PlaatsAlles();
+    });
+    Bewaar();
+    schijf.WachtOpAnder();
+    QCOMPARE(Inhoud(), QByteArray("ander ander ander"));
+    QCOMPARE(Namen(), (QStringList{"A.lst", "a1.bmp", "a2.bmp"}));
+}
+
+void TestBewaren::whoeverComesNextWaitsForTheNamesToBeChanged()
+{
+    const TrageSchijf schijf([&] {
+        MaakAf(bank_->Map());
+        bank_->Schrijf(u"gezien"_s, Inhoud());
+    });
+    Bewaar();
+    schijf.WachtOpAnder();
+    QCOMPARE(bank_->Inhoud(u"gezien"_s), Nieuw);
 }
 
 void TestBewaren::aSetGoesOnBehindItsPlacing()
