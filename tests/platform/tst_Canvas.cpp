@@ -293,17 +293,6 @@ private slots:
         }
     }
 
-    void aPictureIsAddedBitByBit()
-    {
-        Doek doek;
-        doek.BoxFull(0, 0, 15, 15, qRgb(0xE5, 0xAA, 0x5A));
-        doek.PaintPicture(Vierkleur(), QRectF(0, 0, 30, 30), QRectF(0, 0, 30, 30), PlakWijze::En);
-        QCOMPARE(doek.GetPixel(0, 0), qRgb(0x96 & 0xE5, 0x0F & 0xAA, 0x5A));
-        QCOMPARE(doek.GetPixel(1, 0), qRgb(0xE5, 0, 0));
-        QCOMPARE(doek.GetPixel(0, 1), qRgb(0xE5, 0xAA, 0x5A));
-        QCOMPARE(doek.GetPixel(1, 1), qRgb(0, 0, 0));
-    }
-
     void aPartOfAnotherSizeIsStretched()
     {
         QImage bron(20, 20, QImage::Format_RGB32);

@@ -1,20 +1,15 @@
-#include "platform/Form.h"
-#include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
+#include "support/TestVenster.h"
 #include "support/Testbank.h"
 
 #include <QAccessible>
 #include <QAction>
 #include <QComboBox>
 #include <QGuiApplication>
-#include <QLineEdit>
 #include <QMenuBar>
-#include <QPainter>
-#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
-#include <QScrollBar>
 #include <QTimer>
 
 #include <new>
@@ -23,57 +18,17 @@
 
 using namespace Qt::StringLiterals;
 
-/// A form with a button and a box, that lets a test place controls.
-class TestVenster : public Form
-{
-public:
-    explicit TestVenster(int breedte = 4590, int hoogte = 3450, bool menuBalk = false)
-        : Form(u"TestVenster"_s, u"Een titel"_s, breedte, hoogte, qRgb(10, 200, 30), menuBalk)
-    {
-        Knop = Maak<QPushButton>("ZoekKnop", u"Zoeken"_s, nullptr, u"..."_s);
-        Vak = Maak<QLineEdit>("Text1", u"Woord"_s, nullptr);
-    }
-
-    using Form::Gekozen;
-    using Form::Kleur;
-    using Form::Maak;
-    using Form::MaakBeeld;
-    using Form::MaakKnop;
-    using Form::MaakKnopMetTip;
-    using Form::MaakLabel;
-    using Form::MaakNummers;
-    using Form::MaakOpties;
-    using Form::MaakSchuif;
-    using Form::MaakUitleg;
-    using Form::MenuBalk;
-    using Form::PasOpScherm;
-    using Form::Sluit;
-    using Form::Wacht;
-    using Form::Zet;
-
-    void Knop_Click() { ++Geklikt; }
-    void Vak_Change(const QString &tekst) { Getypt += tekst; }
-    void Optie_Click(int index) { Gekozen_ += index; }
-
-    QPushButton *Knop;
-    QLineEdit *Vak;
-    int Geklikt = 0;
-    QStringList Getypt;
-    QList<int> Gekozen_;
-};
-
 class tst_Form : public QObject
 {
     Q_OBJECT
 private slots:
-    void cleanup() { bank_.reset(); }
-
     void init()
     {
         // The offscreen platform itself warns of windows of a fixed size.
         QTest::failOnWarning(QRegularExpression(u"^(?!This plugin does not support)"_s));
         bank_.emplace();
     }
+    void cleanup() { bank_.reset(); }
 
     // --- the window and its controls ---
 
@@ -345,122 +300,6 @@ private slots:
         const QString tekst = bank_->Script.Gezien[0].Tekst;
         QVERIFY2(tekst.contains("het lezen"_L1) && tekst.contains("te lang"_L1), qPrintable(tekst));
         QVERIFY(bank_->Script.Gezien[0].Plaatje == Icoon::Kritiek);
-    }
-
-    // --- the controls that many windows have ---
-
-    void aDialogHasNothingToMinimiseOrMaximiseIt()
-    {
-        const TestVenster venster;
-        QVERIFY(venster.windowFlags() & Qt::WindowCloseButtonHint);
-        QVERIFY(!(venster.windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
-        QCOMPARE(venster.windowType(), Qt::Dialog);
-    }
-
-    void aTipIsAlsoTheNameForAScreenReader()
-    {
-        TestVenster venster;
-        const ImageButton *knop = venster.MaakKnopMetTip("DelKnop", u" Puzzel verwijderen "_s, u"knop-wissen"_s);
-        QCOMPARE(knop->objectName(), u"DelKnop"_s);
-        QCOMPARE(knop->toolTip(), u" Puzzel verwijderen "_s);
-        QCOMPARE(knop->accessibleName(), u"Puzzel verwijderen"_s);
-        QCOMPARE(venster.MaakKnop("SaveKnop", u"Opslaan"_s, u"knop-opslaan"_s)->toolTip(), QString());
-    }
-
-    void anExplanationIsWrappedFromTheTopLeft()
-    {
-        TestVenster venster;
-        const Label *uitleg = venster.MaakUitleg("Label5", u"Maak een keus."_s);
-        QVERIFY(uitleg->wordWrap());
-        QCOMPARE(uitleg->alignment(), Qt::AlignLeft | Qt::AlignTop);
-        QCOMPARE(uitleg->Caption(), u"Maak een keus."_s);
-    }
-
-    void theFirstOptionIsChosen()
-    {
-        TestVenster venster;
-        const QList<QRadioButton *> opties = venster.MaakOpties({u"een"_s, u"twee"_s});
-        QCOMPARE(opties[0]->objectName(), u"Option1"_s);
-        QCOMPARE(opties[1]->objectName(), u"Option2"_s);
-        QCOMPARE(opties[1]->text(), u"twee"_s);
-        QCOMPARE(TestVenster::Gekozen(opties), 0);
-        opties[1]->click();
-        QCOMPARE(TestVenster::Gekozen(opties), 1);
-    }
-
-    void theListOfANumberBoxStandsAtItsText_data()
-    {
-        QTest::addColumn<int>("nu");
-        QTest::addColumn<QString>("omlaag");
-        QTest::addColumn<QString>("omhoog");
-        Geval("in the middle", 12, u"13"_s, u"11"_s);
-        Geval("the first", 9, u"10"_s, u"9"_s);
-        Geval("the last", 16, u"16"_s, u"15"_s);
-    }
-    void theListOfANumberBoxStandsAtItsText()
-    {
-        QFETCH(int, nu);
-        TestVenster venster;
-        QComboBox *combo = venster.MaakNummers("Combo1", u"Getal"_s, 9, 16, nu);
-        QCOMPARE(combo->currentText(), QString::number(nu));
-        QTest::keyClick(combo, Qt::Key_Down);
-        QTEST(combo->currentText(), "omlaag");
-        combo->setEditText(QString::number(nu));
-        QTest::keyClick(combo, Qt::Key_Up);
-        QTEST(combo->currentText(), "omhoog");
-    }
-
-    void anyTextMayBeTypedInANumberBox()
-    {
-        TestVenster venster;
-        QComboBox *combo = venster.MaakNummers("Combo1", u"Getal"_s, 9, 16, 40);
-        QCOMPARE(combo->currentText(), u"40"_s);
-        QCOMPARE(combo->count(), 8);
-        combo->setEditText(u"twaalf"_s);
-        QTest::keyClick(combo, Qt::Key_Return);
-        QCOMPARE(combo->currentText(), u"twaalf"_s);
-        QCOMPARE(combo->count(), 8);
-    }
-
-    void theListFollowsWhatIsTyped()
-    {
-        TestVenster venster;
-        QComboBox *combo = venster.MaakNummers("Combo1", u"Getal"_s, 9, 16, 9);
-        combo->lineEdit()->selectAll();
-        QTest::keyClicks(combo->lineEdit(), u"12"_s);
-        combo->lineEdit()->setCursorPosition(1);
-        QTest::keyClick(combo->lineEdit(), Qt::Key_Delete);
-        QTest::keyClicks(combo->lineEdit(), u"4"_s);
-        QCOMPARE(combo->currentText(), u"14"_s);
-        QTest::keyClick(combo, Qt::Key_Down);
-        QCOMPARE(combo->currentText(), u"15"_s);
-        combo->setEditText(u"102"_s);
-        combo->lineEdit()->setCursorPosition(2);
-        QTest::keyClick(combo->lineEdit(), Qt::Key_Delete); // "10" is in the list: the cursor stays all the same
-        QCOMPARE(combo->lineEdit()->cursorPosition(), 2);
-        combo->setEditText(u"1x1"_s);
-        combo->lineEdit()->setCursorPosition(1);
-        QTest::keyClick(combo->lineEdit(), Qt::Key_Delete);
-        QCOMPARE(combo->currentText(), u"11"_s);
-        QCOMPARE(combo->lineEdit()->cursorPosition(), 1);
-    }
-
-    void aScrollBarMovesOneAtATime()
-    {
-        TestVenster venster;
-        QScrollBar *schuif = venster.MaakSchuif("HScroll1", u"Soort"_s, 2, 19, venster.Knop);
-        QCOMPARE(schuif->parentWidget(), venster.Knop);
-        QCOMPARE(schuif->objectName(), u"HScroll1"_s);
-        QCOMPARE(schuif->accessibleName(), u"Soort"_s);
-        QCOMPARE(schuif->value(), 2);
-        QCOMPARE(schuif->minimum(), 2);
-        QCOMPARE(schuif->maximum(), 19);
-        QCOMPARE(schuif->orientation(), Qt::Horizontal);
-        for (const auto &[toets, waarde] : {std::pair(Qt::Key_Right, 3), std::pair(Qt::Key_PageDown, 4),
-                                            std::pair(Qt::Key_Left, 3), std::pair(Qt::Key_PageUp, 2)}) {
-            QTest::keyClick(schuif, toets);
-            QCOMPARE(schuif->value(), waarde);
-        }
     }
 
     // --- closing ---
