@@ -60,7 +60,10 @@ class Journey:
         return (self.desktop.output / "program.log").read_text(encoding="utf-8", errors="replace")
 
     def check_said(self):
-        bad = re.findall(r"^.*(?:runtime error:|Sanitizer|Q[A-Za-z]+::).*$", self.said(), re.MULTILINE)
+        # We ask for all rows of a list, which may go meanwhile; the toolkit says so of the one that has gone.
+        asked = "QAccessibleTree::indexFromLogical: invalid index"
+        said = "\n".join(line for line in self.said().splitlines() if asked not in line)
+        bad = re.findall(r"^.*(?:runtime error:|Sanitizer|Q[A-Za-z]+::).*$", said, re.MULTILINE)
         equal("warnings of the program", bad, [])
 
 
