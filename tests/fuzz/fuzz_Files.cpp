@@ -3,6 +3,7 @@
 #include "Fuzz.h"
 
 #include "platform/Files.h"
+#include "platform/Fout.h"
 
 #include <QDir>
 #include <QRegularExpression>
