@@ -404,7 +404,9 @@ void TestBewaren::finishingMayDieOrFailAnywhere_data()
 void TestBewaren::finishingMayDieOrFailAnywhere()
 {
     QFETCH(bool, sterft);
-    for (int aanroep = 1; aanroep <= 21; ++aanroep) {
+    // Killed amid its writing; with half a note; with a whole one; amid its names; between the spellings; before the
+    // end.
+    for (const int aanroep : {8, 13, 14, 18, 20, 21}) {
         bool bezig = true;
         for (int tweede = 1; bezig; ++tweede) {
             init();

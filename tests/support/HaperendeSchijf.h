@@ -36,8 +36,9 @@ public:
             Schijf::Schrijf(bestand, deel.first(deel.size() / 2));
         return Mag("Schrijf", bestand.fileName()) && Schijf::Schrijf(bestand, deel);
     }
-    bool Spoel(QFile &bestand) override { return Mag("Spoel", bestand.fileName()) && Schijf::Spoel(bestand); }
-    bool SpoelMap(const QString &map) override { return Mag("SpoelMap", map) && Schijf::SpoelMap(map); }
+    // These two only count: that it came to the disk would show after a power cut alone.
+    bool Spoel(QFile &bestand) override { return Mag("Spoel", bestand.fileName()); }
+    bool SpoelMap(const QString &map) override { return Mag("SpoelMap", map); }
     Greep Grijp(QFile &bestand) override
     {
         return Mag("Grijp", bestand.fileName()) ? Schijf::Grijp(bestand) : Greep::Onmogelijk;
