@@ -138,7 +138,7 @@ Vakje LeesVakje(const Regel &regel, const Puzzel &puzzel)
 Woord LeesWoord(const Regel &regel, const Puzzel &puzzel)
 {
     regel.Eis(u"woord|PLAATS|H of V|OPLOSSING|OMSCHRIJVING"_s);
-    const Woord woord{LeesCel(regel, puzzel), regel.Velden[2] == "H"_L1, regel.Velden[3], regel.Velden[4]};
+    Woord woord{LeesCel(regel, puzzel), regel.Velden[2] == "H"_L1, regel.Velden[3], regel.Velden[4]};
     if (!woord.Horizontaal && regel.Velden[2] != "V"_L1)
         regel.WeigerVeld(2, u"is geen richting: H of V"_s);
     const qsizetype letters = MetCode(KleineLetters(woord.Oplossing).remove(u' ')).size();
