@@ -16,7 +16,7 @@
 #include <sys/locking.h>
 #endif
 
-static Schijf *vervanger = nullptr;
+static Schijf *andereSchijf = nullptr;
 
 Schijf::~Schijf() = default;
 
@@ -96,10 +96,10 @@ Schijf::Greep Schijf::Grijp(QFile &bestand)
 Schijf &Schijf::Huidig()
 {
     static Schijf echte;
-    return vervanger ? *vervanger : echte;
+    return andereSchijf ? *andereSchijf : echte;
 }
 
 void Schijf::Gebruik(Schijf *schijf)
 {
-    vervanger = schijf;
+    andereSchijf = schijf;
 }
