@@ -18,3 +18,8 @@ qsizetype AantalVakjes(const QString &oplossing)
 {
     return Hoofdletters(oplossing).replace("IJ"_L1, "?"_L1).size();
 }
+
+qsizetype AantalLetters(QString woord)
+{
+    return woord.replace("IJ"_L1, "Y"_L1).size();
+}

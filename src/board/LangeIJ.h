@@ -11,3 +11,5 @@ QString MetCode(QString woord);
 QString ZonderCode(QString woord);
 /// How many cells a word of the entry list takes: in capitals, with each "IJ" as one.
 qsizetype AantalVakjes(const QString &oplossing);
+/// How many letters a word of the word panel has: each "IJ" is one, in capitals only.
+qsizetype AantalLetters(QString woord);

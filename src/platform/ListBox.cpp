@@ -1,20 +1,34 @@
 #include "platform/ListBox.h"
 
+#include "platform/Alfabet.h"
+
+#include <algorithm>
+
 ListBox::ListBox(QWidget *ouder) : RowChoice(ouder)
 {
     setModel(&model_);
     setUniformItemSizes(true);
 }
 
+int ListBox::Plaats(const QString &tekst) const
+{
+    if (!Sorted)
+        return model_.rowCount();
+    const QStringList teksten = model_.stringList();
+    return static_cast<int>(std::upper_bound(teksten.begin(), teksten.end(), tekst, AlfabetischVoor) - teksten.begin());
+}
+
 void ListBox::AddItem(const QString &tekst)
 {
-    const int rij = model_.rowCount();
+    const int rij = Plaats(tekst);
     model_.insertRow(rij);
     model_.setData(model_.index(rij), tekst);
 }
 
-void ListBox::SetItems(const QStringList &teksten)
+void ListBox::SetItems(QStringList teksten)
 {
+    if (Sorted)
+        SorteerAlfabetisch(teksten);
     model_.setStringList(teksten);
 }
 

@@ -12,15 +12,20 @@ class ListBox : public RowChoice<QListView>
 public:
     explicit ListBox(QWidget *ouder);
 
+    /// Keeps its texts in the order of Alfabet.h; equal ones in the order of their coming. To be set before it is
+    /// filled.
+    bool Sorted = false;
+
     void AddItem(const QString &tekst);
     /// Fills the list with these texts in one go.
-    void SetItems(const QStringList &teksten);
+    void SetItems(QStringList teksten);
     void RemoveItem(int index); ///< leaves nothing selected
     void Clear() { SetItems({}); }
 
     int ListCount() const { return model_.rowCount(); }
     QString List(int index) const; ///< empty for an index that is not there
-    int ListIndex() const;         ///< -1 when nothing is selected
+    QStringList Items() const { return model_.stringList(); }
+    int ListIndex() const; ///< -1 when nothing is selected
     void SetListIndex(int index);
     QString Text() const { return List(ListIndex()); }
 
@@ -33,5 +38,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
 private:
+    int Plaats(const QString &tekst) const; ///< the row for a text that comes
+
     QStringListModel model_;
 };

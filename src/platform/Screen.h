@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QtGlobal>
+
 /// The screen's pointer.
 namespace Screen {
 
@@ -9,5 +11,14 @@ inline constexpr int Own = 99; ///< the program's own pointer, after busy work
 
 /// Shows the pointer of a kind everywhere: the hourglass until another kind is asked for.
 void MousePointer(int soort);
+
+/// The hourglass for as long as it lives; then the program's own pointer, also when a failure ends the work.
+class Bezig
+{
+public:
+    Bezig() { MousePointer(Hourglass); }
+    ~Bezig() { MousePointer(Own); }
+    Q_DISABLE_COPY_MOVE(Bezig)
+};
 
 } // namespace Screen

@@ -2,6 +2,9 @@
 
 #include "platform/CodePage.h"
 
+#include <algorithm>
+#include <array>
+
 QString Trim(QStringView tekst)
 {
     while (tekst.startsWith(u' '))
@@ -28,4 +31,36 @@ QString KleineLetters(QString tekst)
     for (QChar &teken : tekst)
         teken = BinnenCodePage(teken, teken.toLower());
     return tekst;
+}
+
+using Tabel = std::array<char, 256>;
+
+static Tabel MaakTabel(QString (*zet)(QString))
+{
+    Tabel tabel{};
+    for (int teken = 0; teken < 256; ++teken) {
+        const char byte = static_cast<char>(teken);
+        tabel[static_cast<size_t>(teken)] = Files::NaarBytes(zet(Files::NaarTekst({&byte, 1}))).front();
+    }
+    return tabel;
+}
+
+static QByteArray Vertaal(QByteArrayView tekst, const Tabel &tabel)
+{
+    QByteArray vertaald(tekst.size(), Qt::Uninitialized);
+    std::transform(tekst.begin(), tekst.end(), vertaald.begin(),
+                   [&](char teken) { return tabel[static_cast<quint8>(teken)]; });
+    return vertaald;
+}
+
+QByteArray Hoofdletters(QByteArrayView tekst)
+{
+    static const Tabel tabel = MaakTabel(Hoofdletters);
+    return Vertaal(tekst, tabel);
+}
+
+QByteArray KleineLetters(QByteArrayView tekst)
+{
+    static const Tabel tabel = MaakTabel(KleineLetters);
+    return Vertaal(tekst, tabel);
 }

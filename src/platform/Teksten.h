@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 
 /// The text without the blanks (U+0020) at both its ends. Tabs, hard spaces and line ends stay.
@@ -10,3 +11,8 @@ QString Trim(QStringView tekst);
 
 QString Hoofdletters(QString tekst);
 QString KleineLetters(QString tekst);
+
+// The same of a text at rest, in bytes of that page.
+
+QByteArray Hoofdletters(QByteArrayView tekst);
+QByteArray KleineLetters(QByteArrayView tekst);

@@ -30,7 +30,7 @@ void VeldLezer::SlaScheidingOver()
         Neem(1);
 }
 
-QString VeldLezer::Tekst()
+VeldLezer::Veld VeldLezer::LeesVeld()
 {
     if (Einde())
         throw Fout(Fout::EindeBestand);
@@ -42,18 +42,31 @@ QString VeldLezer::Tekst()
         return Neem(std::find_if(rest_.begin(), rest_.end(), isEinde) - rest_.begin());
     };
     slaBlanksOver();
-    QString tekst;
-    if (rest_.startsWith('"')) {
+    Veld veld{{}, rest_.startsWith('"')};
+    if (veld.InQuotes) {
         Neem(1);
-        tekst = NaarTekst(neemTot([](char c) { return c == '"'; }));
+        veld.Bytes = neemTot([](char c) { return c == '"'; });
         if (!Einde())
             Neem(1);
         slaBlanksOver();
     } else {
-        tekst = NaarTekst(neemTot([](char c) { return c == ',' || IsLineEnd(c); }));
+        veld.Bytes = neemTot([](char c) { return c == ',' || IsLineEnd(c); });
     }
     SlaScheidingOver();
-    return tekst;
+    return veld;
+}
+
+QString VeldLezer::Tekst()
+{
+    return NaarTekst(LeesVeld().Bytes);
+}
+
+QByteArrayView VeldLezer::Item()
+{
+    Veld veld = LeesVeld();
+    while (!veld.InQuotes && veld.Bytes.endsWith(' '))
+        veld.Bytes.chop(1);
+    return veld.Bytes;
 }
 
 quint8 VeldLezer::Byte()

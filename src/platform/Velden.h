@@ -15,11 +15,20 @@ public:
 
     bool Einde() const { return rest_.isEmpty(); }
     QString Tekst();
+    /// A word of a word file, in bytes of the code page: the blanks behind it go too, unless it stood in quotes.
+    QByteArrayView Item();
     quint8 Byte();
     qint16 Int16();
     qint32 Int32();
 
 private:
+    struct Veld
+    {
+        QByteArrayView Bytes;
+        bool InQuotes;
+    };
+
+    Veld LeesVeld();
     QByteArrayView Neem(qsizetype aantal);
     void SlaScheidingOver();
 
