@@ -16,6 +16,11 @@
 #include "editors/VakForm.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
+#include "platform/Screen.h"
+#include "wordlib/AddForm.h"
+#include "wordlib/FormMain.h"
+#include "wordlib/MissingForm.h"
+#include "wordlib/ZoekForm.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -46,6 +51,10 @@ void VerbindOpdrachten()
     Koppel(main.FileSave, Toon<SaveForm>);
     Koppel(main.FileExit, [] { Main().close(); });
     Koppel(main.BiebOnlineWoordenboek, [] { OpenDocument(Adressen::Woordenboek); });
+    Koppel(main.BiebInternZoeken, BiebInternZoeken_Click);
+    Koppel(main.BiebWoordzoeker, Toon<FormMain>);
+    Koppel(main.BiebOntbrekendeLetters, Toon<MissingForm>);
+    Koppel(main.ToolsAdd, Toon<AddForm>);
     Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
     Koppel(main.HelpHelp, OpenHelp);
     Koppel(main.HelpSpecialeTekens, ToonSpecialeTekens);
@@ -77,6 +86,14 @@ void SoortVakTekst_Click(int index)
         break;
     }
     Main().Shape1->hide();
+}
+
+// The load takes a moment: the window that loads takes the notice and the hourglass away again.
+void BiebInternZoeken_Click()
+{
+    Main().Label2->show();
+    Screen::MousePointer(Screen::Hourglass);
+    Toon<ZoekForm>();
 }
 
 void ToolsKlemboard_Click()

@@ -10,6 +10,7 @@ void VerbindOpdrachten();
 /// the frame round the cell is hidden then. @param index 1..9
 void SoortVakTekst_Click(int index);
 
+void BiebInternZoeken_Click();
 void ToolsKlemboard_Click();
 void HelpMail_Click();
 void HelpKnop_Click();

@@ -23,6 +23,7 @@ quint8 KleurVakjes;
 qint16 OrgineelRood, OrgineelGroen, OrgineelBlauw;
 QString PaginaTekst;
 QString GebruikersNaam;
+qint32 PosX, PosY;
 QString AppPath;
 std::array<bool, 305> VakZwart;
 
@@ -38,6 +39,7 @@ void BeginWaarden()
     PuzzelType = Zweeds;
     PaginaTekst = Adressen::Uitgever;
     CurCol = CurRow = CurCell = 0;
+    PosX = PosY = 0;
     PuzzelNaam.clear();
     PuzzelGewijzigd = false;
     VakZwart.fill(false);

@@ -31,6 +31,7 @@ extern qint16 OrgineelGroen;
 extern qint16 OrgineelBlauw;
 extern QString PaginaTekst;    ///< the text on all print pages
 extern QString GebruikersNaam; ///< the user's name, filled where it is needed
+extern qint32 PosX, PosY;      ///< scratch values; PosX is the last word that the database search goes to
 extern QString AppPath;        ///< the folder of the program: all data files are found below it
 
 /// True where a right click has blacked a cell out, by CurCell; index 0 is never used. Nothing but that click reads or

@@ -45,6 +45,16 @@ public:
     /// Shows the number of rows on Label11.
     void ToonAantal();
 
+    // The word panel: MainFormWoorden.cpp.
+    void ScrolLengte_Change();
+    void OkKnop_Click();
+    void LoadKnop_Click();
+    void List1_Click();
+    void List2_Click();
+    void List3_Click();
+    /// The one way in which a word tool hands over what it found: List1 holds these words, in capitals.
+    void GeefWoorden(const QStringList &woorden);
+
     /// Asked when the window is to close; false keeps it open.
     std::function<bool()> MagSluiten;
 
@@ -95,9 +105,12 @@ private:
     void MaakMenuBalk(); // in MainFormMenu.cpp
     void MaakPopups();   // in MainFormMenu.cpp
 
+    void ToonGekozen(const QString &woord, Label &lengte, const QString &tekst);
     QFrame *MaakFrame(const char *naam, const QString &leesnaam);
     PictureBox *MaakVerborgen(const char *naam, const QString &plaatje);
     void ZwartOmzetten();
+
+    QStringList File1_; ///< the names of the word lists, as they were last read
 };
 
 /// The main window. There is one.

@@ -18,10 +18,8 @@ struct MenuRegel
 
 static void MaakItem(QWidget &balkOfMenu, const MenuRegel &regel)
 {
-    *regel.Item = new QAction(regel.Opschrift, &balkOfMenu);
-    (*regel.Item)->setObjectName(QLatin1String(regel.Naam));
+    *regel.Item = MaakItem(balkOfMenu, regel.Naam, regel.Opschrift);
     (*regel.Item)->setEnabled(false);
-    balkOfMenu.addAction(*regel.Item);
 }
 
 static void VulMenu(QMenuBar &balk, const char *naam, const QString &opschrift, const QList<MenuRegel> &regels)

@@ -1,5 +1,14 @@
+#include "board/Algemeen.h"
+#include "board/LangeIJ.h"
 #include "board/MainForm.h"
+#include "board/WoordPaden.h"
+#include "board/Woordlijst.h"
+#include "platform/Berichten.h"
+#include "platform/Files.h"
+#include "platform/Fout.h"
 #include "platform/Kleur.h"
+#include "platform/Screen.h"
+#include "platform/Teksten.h"
 
 using namespace Qt::StringLiterals;
 
@@ -46,7 +55,10 @@ void MainForm::MaakDatabaseDeel()
     Label18->SetBackColor(RGB(150, 180, 180));
     CopyLabel->SetForeColor(RGB(0, 0, 0));
     CopyLabel->setToolTip(u" Copytekst "_s);
-    OkKnop->setEnabled(false); // there is no database yet
+
+    bij(ScrolLengte, &QScrollBar::valueChanged, &MainForm::ScrolLengte_Change);
+    bij(OkKnop, &ImageButton::clicked, &MainForm::OkKnop_Click);
+    bij(List1, &ListBox::Click, &MainForm::List1_Click);
 }
 
 void MainForm::MaakWoordlijstDeel()
@@ -86,5 +98,79 @@ void MainForm::MaakWoordlijstDeel()
         Combo1->addItem(QString::number(lengte));
     Combo1->addItem(u"Alles"_s);          // a second time, wanted so
     Label8->setAlignment(Qt::AlignRight); // its texts would be cut off on the other side
-    LoadKnop->setEnabled(false);          // there are no lists yet
+
+    bij(LoadKnop, &ImageButton::clicked, &MainForm::LoadKnop_Click);
+    bij(List2, &ListBox::Click, &MainForm::List2_Click);
+    bij(List3, &ListBox::Click, &MainForm::List3_Click);
+}
+
+void MainForm::ScrolLengte_Change()
+{
+    Label16->SetCaption(u"Woordlengte (%1)"_s.arg(ScrolLengte->value()));
+}
+
+static QString WoordenGevonden(const ListBox &lijst)
+{
+    return QString::number(lijst.ListCount()) + u" Woorden gevonden"_s;
+}
+
+void MainForm::OkKnop_Click()
+{
+    OkKnop->Druk();
+    const bool gevonden = negeer([this] {
+        const Screen::Bezig bezig;
+        List1->Clear();
+        Wachten(0);
+        List1->SetItems(ZoekLengte(Files::Lees(DatabasePad()), ScrolLengte->value()));
+    });
+    if (gevonden)
+        Label3->SetCaption(WoordenGevonden(*List1));
+    else
+        MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+}
+
+void MainForm::LoadKnop_Click()
+{
+    LoadKnop->Druk();
+    List3->Clear();
+    negeer([this] { LeesOnderwerpen(File1_); });
+    List3->SetItems(File1_);
+}
+
+void MainForm::List3_Click()
+{
+    List2->Clear();
+    QStringList woorden = LeesWoordlijst(Files::Lees(WoordlijstPad(List3->Text())));
+    if (Combo1->currentText() != "Alles"_L1)
+        woorden.removeIf(
+            [lengte = Combo1->currentText().toInt()](const QString &woord) { return MetCode(woord).size() != lengte; });
+    for (QString &woord : woorden)
+        woord = Hoofdletters(woord);
+    List2->SetItems(woorden);
+    Label8->SetCaption(QString::number(List2->ListCount()));
+}
+
+void MainForm::ToonGekozen(const QString &woord, Label &lengte, const QString &tekst)
+{
+    lengte.SetCaption(tekst.arg(AantalLetters(woord)));
+    CopyLabel->SetCaption(KleineLetters(woord));
+}
+
+void MainForm::List1_Click()
+{
+    ToonGekozen(List1->Text(), *Label9, u"Lengte (%1) letters"_s);
+}
+
+void MainForm::List2_Click()
+{
+    ToonGekozen(List2->Text(), *Label8, u"%1 Letters"_s);
+}
+
+void MainForm::GeefWoorden(const QStringList &woorden)
+{
+    QStringList inHoofdletters;
+    for (const QString &woord : woorden)
+        inHoofdletters += Hoofdletters(woord);
+    List1->SetItems(inHoofdletters);
+    Label3->SetCaption(WoordenGevonden(*List1));
 }

@@ -37,6 +37,8 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
         opmaak->addItem(new QSpacerItem(280, 0), opmaak->rowCount(), 0, 1, opmaak->columnCount());
     if (icoon == Icoon::Kritiek)
         box.setIcon(QMessageBox::Critical);
+    else if (icoon == Icoon::Waarschuwing)
+        box.setIcon(QMessageBox::Warning);
     else if (knoppen == Knoppen::JaNee)
         box.setIcon(QMessageBox::Question);
     if (knoppen == Knoppen::Ok) {

@@ -244,3 +244,11 @@ void Form::Kleur(QWidget *control, QRgb achter, QRgb voor)
     palet.setColor(QPalette::Disabled, QPalette::Text, qRgb(120, 120, 120));
     control->setPalette(palet);
 }
+
+QAction *MaakItem(QWidget &menu, const char *naam, const QString &opschrift)
+{
+    auto *item = new QAction(opschrift, &menu);
+    item->setObjectName(QLatin1String(naam));
+    menu.addAction(item);
+    return item;
+}

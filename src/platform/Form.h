@@ -8,6 +8,7 @@
 
 class ImageBox;
 class ImageButton;
+class QAction;
 class QComboBox;
 class QMenuBar;
 class QRadioButton;
@@ -113,6 +114,9 @@ private:
     QMenuBar *menuBalk_ = nullptr;
     bool unloaded_ = false;
 };
+
+/// An item at the end of a menu or of a menu bar.
+QAction *MaakItem(QWidget &menu, const char *naam, const QString &opschrift);
 
 /// Opens a form modally and waits until it is closed.
 template <class Vorm> void Toon()

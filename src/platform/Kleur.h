@@ -8,7 +8,7 @@
 
 /// A colour from three parts. A part above 255 counts as 255, as the platform has it; a negative one raises
 /// Fout::OngeldigArgument.
-inline QRgb RGB(int rood, int groen, int blauw)
+constexpr QRgb RGB(int rood, int groen, int blauw)
 {
     if (rood < 0 || groen < 0 || blauw < 0)
         throw Fout(Fout::OngeldigArgument);

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QStringList>
+
+// Where the words are.
+
+/// The word database.
+QString DatabasePad();
+/// The word list of a subject. Raises Fout::OngeldigeNaam for a subject that can't be a file's name.
+QString WoordlijstPad(const QString &onderwerp);
+/// Reads which subjects there are. A folder that can't be read leaves them as they are.
+void LeesOnderwerpen(QStringList &onderwerpen);
