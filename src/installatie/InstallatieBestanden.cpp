@@ -1,0 +1,89 @@
+#include "installatie/InstallatieBestanden.h"
+
+#include "platform/CodePage.h"
+#include "platform/Teksten.h"
+
+#include <QRegularExpression>
+#include <QSet>
+
+#include <algorithm>
+#include <set>
+
+using namespace Qt::StringLiterals;
+
+static QStringList Regels(const QByteArray &bron)
+{
+    if (!bron.isValidUtf8())
+        throw BronFout("not valid UTF-8");
+    return QString::fromUtf8(bron).replace("\r\n"_L1, "\n"_L1).split(u'\n', Qt::SkipEmptyParts);
+}
+
+static QByteArray Regel(const QString &woord)
+{
+    return Files::NaarBytes(woord) + "\r\n";
+}
+
+/// Small letters without their accents, and ligatures as the two letters that they join.
+static QString ZonderAccenten(const QString &woord)
+{
+    QString kaal = woord.normalized(QString::NormalizationForm_D);
+    kaal.removeIf([](QChar teken) { return teken.isMark(); });
+    return kaal.replace(u'\u0133', "ij"_L1).replace(u'\u00E6', "ae"_L1).replace(u'\u0153', "oe"_L1);
+}
+
+// --- the word database ---
+
+static bool HeeftHoofdletter(const QString &regel)
+{
+    return std::any_of(regel.begin(), regel.end(), [](QChar teken) { return teken.isUpper(); });
+}
+
+static bool IsPuzzelwoord(const QString &woord)
+{
+    const auto isLetter = [](QChar teken) { return teken >= u'a' && teken <= u'z'; };
+    return woord.size() >= 2 && std::all_of(woord.begin(), woord.end(), isLetter);
+}
+
+QByteArray MaakWoorden(const QByteArray &bron)
+{
+    QByteArray bestand;
+    QSet<QString> gehad;
+    QString ontbreekt = u"abcdefghijklmnopqrstuvwxyz"_s;
+    for (const QString &regel : Regels(bron)) {
+        const QString woord = ZonderAccenten(regel);
+        if (HeeftHoofdletter(regel) || !IsPuzzelwoord(woord) || gehad.contains(woord))
+            continue;
+        gehad += woord;
+        ontbreekt.remove(woord.front());
+        bestand += Regel(woord);
+    }
+    if (!ontbreekt.isEmpty())
+        throw BronFout("no word begins with one of these letters: " + ontbreekt.toStdString());
+    return bestand;
+}
+
+// --- a word list ---
+
+static bool IsLijstwoord(const QString &regel)
+{
+    static const QRegularExpression vorm(u"\\A\\p{L}+([ -]\\p{L}+)*\\z"_s);
+    return vorm.match(regel).hasMatch() && std::all_of(regel.begin(), regel.end(), Files::InCodePage);
+}
+
+QByteArray MaakLijst(const QByteArray &bron)
+{
+    std::set<std::pair<QString, QString>> woorden; // by their plain letters, then as they are written
+    for (const QString &regel : Regels(bron)) {
+        if (!IsLijstwoord(regel))
+            throw BronFout("not a word of letters with single blanks or hyphens between them: " +
+                           regel.left(60).toStdString());
+        if (!woorden.emplace(ZonderAccenten(KleineLetters(regel)), Hoofdletters(regel)).second)
+            throw BronFout("there twice: " + regel.left(60).toStdString());
+    }
+    if (woorden.empty())
+        throw BronFout("no word in it");
+    QByteArray bestand;
+    for (const auto &[kaal, woord] : woorden)
+        bestand += Regel(woord);
+    return bestand;
+}
