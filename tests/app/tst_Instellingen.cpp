@@ -21,11 +21,11 @@ private slots:
     void whatIsWrittenComesBack_data()
     {
         QTest::addColumn<QString>("tekst");
-        QTest::newRow("address") << "https://een.example/";
-        QTest::newRow("empty") << "";
-        QTest::newRow("comma") << "puzzels, op maat";
-        QTest::newRow("outer blanks") << "  midden  ";
-        QTest::newRow("accents") << u"één € ®"_s;
+        Geval("address", "https://een.example/");
+        Geval("empty", "");
+        Geval("comma", "puzzels, op maat");
+        Geval("outer blanks", "  midden  ");
+        Geval("accents", u"één € ®"_s);
     }
     void whatIsWrittenComesBack()
     {
@@ -52,17 +52,17 @@ private slots:
     {
         QTest::addColumn<QByteArray>("inhoud");
         QTest::addColumn<int>("fout");
-        QTest::newRow("empty") << QByteArray() << int(Fout::EindeBestand);
-        QTest::newRow("cut behind the header") << Kop << int(Fout::EindeBestand);
-        QTest::newRow("cut in the colours") << Kop + "230,250" << int(Fout::EindeBestand);
-        QTest::newRow("without the last line") << Kop + "230,250,190\r\n1\r\n" << int(Fout::EindeBestand);
-        QTest::newRow("colour no number") << Kop + "rood,250,190\r\n1\r\n\"x\"\r\n" << int(Fout::TypeOnjuist);
-        QTest::newRow("colour too large") << Kop + "32768,250,190\r\n1\r\n\"x\"\r\n" << int(Fout::Overloop);
-        QTest::newRow("choice too large") << Kop + "230,250,190\r\n256\r\n\"x\"\r\n" << int(Fout::Overloop);
-        QTest::newRow("choice negative") << Kop + "230,250,190\r\n-1\r\n\"x\"\r\n" << int(Fout::Overloop);
-        QTest::newRow("choice empty") << Kop + "230,250,190\r\n\r\n\"x\"\r\n" << int(Fout::TypeOnjuist);
-        QTest::newRow("binary") << QByteArray(500, '\xFF') << int(Fout::EindeBestand);
-        QTest::newRow("commas") << QByteArray(500, ',') << int(Fout::TypeOnjuist);
+        Geval("empty", QByteArray(), int(Fout::EindeBestand));
+        Geval("cut behind the header", Kop, int(Fout::EindeBestand));
+        Geval("cut in the colours", Kop + "230,250", int(Fout::EindeBestand));
+        Geval("without the last line", Kop + "230,250,190\r\n1\r\n", int(Fout::EindeBestand));
+        Geval("colour no number", Kop + "rood,250,190\r\n1\r\n\"x\"\r\n", int(Fout::TypeOnjuist));
+        Geval("colour too large", Kop + "32768,250,190\r\n1\r\n\"x\"\r\n", int(Fout::Overloop));
+        Geval("choice too large", Kop + "230,250,190\r\n256\r\n\"x\"\r\n", int(Fout::Overloop));
+        Geval("choice negative", Kop + "230,250,190\r\n-1\r\n\"x\"\r\n", int(Fout::Overloop));
+        Geval("choice empty", Kop + "230,250,190\r\n\r\n\"x\"\r\n", int(Fout::TypeOnjuist));
+        Geval("binary", QByteArray(500, '\xFF'), int(Fout::EindeBestand));
+        Geval("commas", QByteArray(500, ','), int(Fout::TypeOnjuist));
     }
     void damagedFilesFail()
     {

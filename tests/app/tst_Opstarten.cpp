@@ -46,10 +46,10 @@ private slots:
     void aDamagedFileEndsTheStartAndStaysAsItIs_data()
     {
         QTest::addColumn<QByteArray>("inhoud");
-        QTest::newRow("empty") << QByteArray();
-        QTest::newRow("cut") << Begin + "230,250";
-        QTest::newRow("words") << Begin + "rood,groen,blauw\r\n1\r\n\"x\"\r\n";
-        QTest::newRow("binary") << QByteArray(1000, '\x9D');
+        Geval("empty", QByteArray());
+        Geval("cut", Begin + "230,250");
+        Geval("words", Begin + "rood,groen,blauw\r\n1\r\n\"x\"\r\n");
+        Geval("binary", QByteArray(1000, '\x9D'));
     }
     void aDamagedFileEndsTheStartAndStaysAsItIs()
     {
@@ -86,8 +86,8 @@ private slots:
     void aStartThatCannotWriteItsSettingsGoesOn_data()
     {
         QTest::addColumn<bool>("bestaat");
-        QTest::newRow("missing") << false;
-        QTest::newRow("closed") << true;
+        Geval("missing", false);
+        Geval("closed", true);
     }
     void aStartThatCannotWriteItsSettingsGoesOn()
     {
@@ -120,10 +120,10 @@ private slots:
     {
         QTest::addColumn<bool>("bestaat");
         QTest::addColumn<bool>("sterft");
-        QTest::newRow("first start, a call fails") << false << false;
-        QTest::newRow("first start, it is killed") << false << true;
-        QTest::newRow("a call fails") << true << false;
-        QTest::newRow("it is killed") << true << true;
+        Geval("first start, a call fails", false, false);
+        Geval("first start, it is killed", false, true);
+        Geval("a call fails", true, false);
+        Geval("it is killed", true, true);
     }
     void anyCallOfAStartMayFail()
     {

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 static const QString Nota = u".rasteratelier-0123456789abcdef"_s;
 
-class TestBewaren : public QObject
+class tst_Bewaren : public QObject
 {
     Q_OBJECT
 
@@ -66,14 +66,14 @@ private:
 
 static const QByteArray Oud = "oud oud oud", Nieuw = "nieuw nieuw nieuw";
 
-void TestBewaren::init()
+void tst_Bewaren::init()
 {
     bank_.emplace();
     for (const char *naam : {"A.LST", "a1.bmp", "a2.bmp"})
         bank_->Schrijf(QLatin1String(naam), "oud");
 }
 
-QByteArray TestBewaren::Inhoud() const
+QByteArray tst_Bewaren::Inhoud() const
 {
     QByteArrayList delen;
     const QString lijst = QFile::exists(Pad("A.lst")) ? u"A.lst"_s : u"A.LST"_s;
@@ -82,7 +82,7 @@ QByteArray TestBewaren::Inhoud() const
     return delen.join(' ');
 }
 
-void TestBewaren::Bewaar() const
+void tst_Bewaren::Bewaar() const
 {
     BestandenSet set;
     negeer([&] { set.Zet(Pad("a1.bmp"), {"nie", "uw"}); });
@@ -91,14 +91,14 @@ void TestBewaren::Bewaar() const
     negeer([&] { set.PlaatsAlles(); });
 }
 
-void TestBewaren::aSetIsPutInPlace()
+void tst_Bewaren::aSetIsPutInPlace()
 {
     Bewaar();
     QCOMPARE(Inhoud(), Nieuw);
     QCOMPARE(Namen(), (QStringList{"A.lst", "a1.bmp", "a2.bmp"}));
 }
 
-void TestBewaren::nothingIsInPlaceBeforeThat()
+void tst_Bewaren::nothingIsInPlaceBeforeThat()
 {
     BestandenSet set;
     set.Zet(Pad("a1.bmp"), {"nieuw"});
@@ -110,7 +110,7 @@ void TestBewaren::nothingIsInPlaceBeforeThat()
     QCOMPARE(bank_->Inhoud(u"nog een"_s), QByteArray("nieuw"));
 }
 
-void TestBewaren::whatIsNotPutInPlaceIsRemoved()
+void tst_Bewaren::whatIsNotPutInPlaceIsRemoved()
 {
     {
         BestandenSet set;
@@ -126,7 +126,7 @@ void TestBewaren::whatIsNotPutInPlaceIsRemoved()
 }
 
 // Whatever is put in place has been brought to the disk before, and the note before the first name is changed.
-void TestBewaren::theCallsOfASet()
+void tst_Bewaren::theCallsOfASet()
 {
     HaperendeSchijf schijf;
     Bewaar();
@@ -155,7 +155,7 @@ void TestBewaren::theCallsOfASet()
                                              .join(u'\n'));
 }
 
-void TestBewaren::theCallsOfOneFile()
+void tst_Bewaren::theCallsOfOneFile()
 {
     HaperendeSchijf schijf;
     BestandenSet set;
@@ -169,7 +169,7 @@ void TestBewaren::theCallsOfOneFile()
                  .join(u'\n'));
 }
 
-void TestBewaren::theCallsOfAFileForAMoment()
+void tst_Bewaren::theCallsOfAFileForAMoment()
 {
     HaperendeSchijf schijf;
     BestandenSet set(BestandenSet::Duur::Vluchtig);
@@ -183,7 +183,7 @@ void TestBewaren::theCallsOfAFileForAMoment()
     QCOMPARE(Inhoud(), QByteArray("nieuw oud oud"));
 }
 
-void TestBewaren::anotherSpellingIsTakenOver()
+void tst_Bewaren::anotherSpellingIsTakenOver()
 {
     BestandenSet set;
     set.Zet(Pad("A.LST"), {"nieuw"}, u"a.lst"_s);
@@ -192,7 +192,7 @@ void TestBewaren::anotherSpellingIsTakenOver()
     QCOMPARE(bank_->Inhoud(u"a.lst"_s), QByteArray("nieuw"));
 }
 
-void TestBewaren::rightsAreKept()
+void tst_Bewaren::rightsAreKept()
 {
     constexpr QFile::Permissions Lezen = QFile::ReadOwner, Eigen = Lezen | QFile::WriteOwner;
     for (const QFile::Permissions rechten : {Eigen, Eigen | QFile::ReadGroup | QFile::WriteGroup, Lezen,
@@ -205,7 +205,7 @@ void TestBewaren::rightsAreKept()
     }
 }
 
-void TestBewaren::aFileThatFailsLeavesTheOthers()
+void tst_Bewaren::aFileThatFailsLeavesTheOthers()
 {
     BestandenSet set;
     set.Zet(Pad("a1.bmp"), {"nieuw"});
@@ -227,7 +227,7 @@ void TestBewaren::aFileThatFailsLeavesTheOthers()
     QCOMPARE(Namen().size(), 3);
 }
 
-void TestBewaren::aFileThatCannotComeToItsPlaceLeavesTheOthers()
+void tst_Bewaren::aFileThatCannotComeToItsPlaceLeavesTheOthers()
 {
     BestandenSet set;
     set.Zet(Pad("a1.bmp"), {"nieuw"});
@@ -239,7 +239,7 @@ void TestBewaren::aFileThatCannotComeToItsPlaceLeavesTheOthers()
     QCOMPARE(FoutVan([&] { set.Zet(Pad("er niet/a"), {"nieuw"}); }), int{Fout::GeenToegang});
 }
 
-void TestBewaren::twoSetsAtOnce()
+void tst_Bewaren::twoSetsAtOnce()
 {
     BestandenSet een, twee;
     een.Zet(Pad("a1.bmp"), {"een"});
@@ -282,7 +282,7 @@ private:
     pid_t kind_ = -1;
 };
 
-void TestBewaren::twoSetsThatArePlacedAtOnceAreEachWhole()
+void tst_Bewaren::twoSetsThatArePlacedAtOnceAreEachWhole()
 {
     const TrageSchijf schijf([&] {
         BestandenSet set;
@@ -297,7 +297,7 @@ void TestBewaren::twoSetsThatArePlacedAtOnceAreEachWhole()
     QCOMPARE(Namen(), (QStringList{"A.lst", "a1.bmp", "a2.bmp"}));
 }
 
-void TestBewaren::whoeverComesNextWaitsForTheNamesToBeChanged()
+void tst_Bewaren::whoeverComesNextWaitsForTheNamesToBeChanged()
 {
     const TrageSchijf schijf([&] {
         MaakAf(bank_->Map());
@@ -308,7 +308,7 @@ void TestBewaren::whoeverComesNextWaitsForTheNamesToBeChanged()
     QCOMPARE(bank_->Inhoud(u"gezien"_s), Nieuw);
 }
 
-void TestBewaren::aSetGoesOnBehindItsPlacing()
+void tst_Bewaren::aSetGoesOnBehindItsPlacing()
 {
     BestandenSet set;
     set.Zet(Pad("a1.bmp"), {"een"});
@@ -321,7 +321,7 @@ void TestBewaren::aSetGoesOnBehindItsPlacing()
 
 // --- finishing ---
 
-void TestBewaren::theCallsOfFinishing()
+void tst_Bewaren::theCallsOfFinishing()
 {
     QVERIFY(SterftBij(17, [&] { Bewaar(); })); // the first name has been changed
     HaperendeSchijf schijf;
@@ -351,7 +351,7 @@ public:
     int Gegrepen = 0;
 };
 
-void TestBewaren::aNoteThatIsTakenForALeftOneIsMadeAnew()
+void tst_Bewaren::aNoteThatIsTakenForALeftOneIsMadeAnew()
 {
     const DrukkeSchijf schijf;
     BestandenSet set;
@@ -365,7 +365,7 @@ void TestBewaren::aNoteThatIsTakenForALeftOneIsMadeAnew()
     QCOMPARE(Namen().size(), 3);
 }
 
-void TestBewaren::aWriterThatRunsIsLeftAlone()
+void tst_Bewaren::aWriterThatRunsIsLeftAlone()
 {
     BestandenSet set;
     set.Zet(Pad("a1.bmp"), {"nieuw"});
@@ -377,7 +377,7 @@ void TestBewaren::aWriterThatRunsIsLeftAlone()
     QCOMPARE(Inhoud(), QByteArray("nieuw nieuw oud"));
 }
 
-void TestBewaren::aWriterThatDiesLeavesTheOldOrTheNew()
+void tst_Bewaren::aWriterThatDiesLeavesTheOldOrTheNew()
 {
     int aanroep = 1;
     QByteArrayList gezien;
@@ -394,14 +394,14 @@ void TestBewaren::aWriterThatDiesLeavesTheOldOrTheNew()
     QCOMPARE(gezien.lastIndexOf(Oud), 12); // up to the note the old ones, from there on the new ones
 }
 
-void TestBewaren::finishingMayDieOrFailAnywhere_data()
+void tst_Bewaren::finishingMayDieOrFailAnywhere_data()
 {
     QTest::addColumn<bool>("sterft");
-    QTest::newRow("dies") << true;
-    QTest::newRow("fails") << false;
+    Geval("dies", true);
+    Geval("fails", false);
 }
 
-void TestBewaren::finishingMayDieOrFailAnywhere()
+void tst_Bewaren::finishingMayDieOrFailAnywhere()
 {
     QFETCH(bool, sterft);
     // Killed amid its writing; with half a note; with a whole one; amid its names; between the spellings; before the
@@ -426,7 +426,7 @@ void TestBewaren::finishingMayDieOrFailAnywhere()
     }
 }
 
-void TestBewaren::anyCallOfASetMayFail()
+void tst_Bewaren::anyCallOfASetMayFail()
 {
     for (int aanroep = 1; aanroep <= 21; ++aanroep) {
         init();
@@ -442,7 +442,7 @@ void TestBewaren::anyCallOfASetMayFail()
     }
 }
 
-void TestBewaren::aDamagedNoteIsRemoved()
+void tst_Bewaren::aDamagedNoteIsRemoved()
 {
     const QByteArray regels = "1/a1.bmp/a1.bmp\n2/a2.bmp/a2.bmp\n", heel = regels + Zegel(regels);
     const auto probeer = [&](const QByteArray &inhoud) {
@@ -467,23 +467,23 @@ void TestBewaren::aDamagedNoteIsRemoved()
     QCOMPARE(Inhoud(), Oud);
 }
 
-void TestBewaren::aNoteOfNamesThatNobodyHasIsRemoved_data()
+void tst_Bewaren::aNoteOfNamesThatNobodyHasIsRemoved_data()
 {
     QTest::addColumn<QByteArray>("regels");
-    QTest::newRow("outside the folder") << QByteArray("1/../a1.bmp/a1.bmp\n");
-    QTest::newRow("two dots") << QByteArray("1/../..\n");
-    QTest::newRow("from the root") << QByteArray("1//tmp/x\n");
-    QTest::newRow("refused signs") << QByteArray("1/a1.bmp?/a1.bmp?\n");
-    QTest::newRow("another folder's separator") << QByteArray("1/..\\a/..\\a\n");
-    QTest::newRow("control character") << QByteArray("1/a\x07/a\x07\n");
-    QTest::newRow("no name") << QByteArray("1//\n");
-    QTest::newRow("another name") << QByteArray("1/a1.bmp/a2.bmp\n");
-    QTest::newRow("too few") << QByteArray("1/a1.bmp\n");
-    QTest::newRow("one good, one bad") << QByteArray("1/a1.bmp/a1.bmp\n1/../x\n");
-    QTest::newRow("nothing") << QByteArray();
+    Geval("outside the folder", QByteArray("1/../a1.bmp/a1.bmp\n"));
+    Geval("two dots", QByteArray("1/../..\n"));
+    Geval("from the root", QByteArray("1//tmp/x\n"));
+    Geval("refused signs", QByteArray("1/a1.bmp?/a1.bmp?\n"));
+    Geval("another folder's separator", QByteArray("1/..\\a/..\\a\n"));
+    Geval("control character", QByteArray("1/a\x07/a\x07\n"));
+    Geval("no name", QByteArray("1//\n"));
+    Geval("another name", QByteArray("1/a1.bmp/a2.bmp\n"));
+    Geval("too few", QByteArray("1/a1.bmp\n"));
+    Geval("one good, one bad", QByteArray("1/a1.bmp/a1.bmp\n1/../x\n"));
+    Geval("nothing", QByteArray());
 }
 
-void TestBewaren::aNoteOfNamesThatNobodyHasIsRemoved()
+void tst_Bewaren::aNoteOfNamesThatNobodyHasIsRemoved()
 {
     QFETCH(QByteArray, regels);
     bank_->Schrijf(Nota, regels + Zegel(regels));
@@ -495,7 +495,7 @@ void TestBewaren::aNoteOfNamesThatNobodyHasIsRemoved()
     QCOMPARE(bank_->Bestanden(u".."_s), buiten);
 }
 
-void TestBewaren::aFileWithoutItsNoteIsRemoved()
+void tst_Bewaren::aFileWithoutItsNoteIsRemoved()
 {
     bank_->Schrijf(Nota + u"-1"_s, "nieuw");
     bank_->Schrijf(Nota + u"-23"_s, "nieuw");
@@ -504,7 +504,7 @@ void TestBewaren::aFileWithoutItsNoteIsRemoved()
     QCOMPARE(Inhoud(), Oud);
 }
 
-void TestBewaren::otherFilesStay()
+void tst_Bewaren::otherFilesStay()
 {
     const QStringList namen{u".rasteratelier"_s, u".rasteratelier-"_s, u".rasteratelier-0123"_s, Nota + u"-x"_s,
                             Nota + u"0-1"_s,     Nota + u"-1.bak"_s,   Nota.toUpper(),           u"x"_s + Nota};
@@ -522,5 +522,5 @@ void TestBewaren::otherFilesStay()
     QVERIFY(QFile::exists(Pad("doel")));
 }
 
-RASTER_TEST(TestBewaren)
+RASTER_TEST(tst_Bewaren)
 #include "tst_Bewaren.moc"

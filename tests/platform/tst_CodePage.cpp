@@ -3,7 +3,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestCodePage : public QObject
+class tst_CodePage : public QObject
 {
     Q_OBJECT
 
@@ -15,22 +15,22 @@ private slots:
     void whatIsInTheCodePage();
 };
 
-void TestCodePage::textIsCodePage1252_data()
+void tst_CodePage::textIsCodePage1252_data()
 {
     QTest::addColumn<QString>("tekst");
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QString() << QByteArray();
-    QTest::newRow("plain") << u"Zweeds 12!"_s << QByteArray("Zweeds 12!");
-    QTest::newRow("registered") << u"a\u00AEb"_s
-                                << QByteArray("a\xAE"
-                                              "b");
-    QTest::newRow("euro") << u"\u20AC"_s << QByteArray("\x80");
-    QTest::newRow("e with dots") << u"geti\u00EBnd"_s << QByteArray("geti\xEBnd");
-    QTest::newRow("curly quotes") << u"\u201Eja\u201D"_s << QByteArray("\x84ja\x94");
-    QTest::newRow("line end and tab") << u"a\r\n\tb"_s << QByteArray("a\r\n\tb");
+    Geval("empty", QString(), QByteArray());
+    Geval("plain", u"Zweeds 12!"_s, QByteArray("Zweeds 12!"));
+    Geval("registered", u"a\u00AEb"_s,
+          QByteArray("a\xAE"
+                     "b"));
+    Geval("euro", u"\u20AC"_s, QByteArray("\x80"));
+    Geval("e with dots", u"geti\u00EBnd"_s, QByteArray("geti\xEBnd"));
+    Geval("curly quotes", u"\u201Eja\u201D"_s, QByteArray("\x84ja\x94"));
+    Geval("line end and tab", u"a\r\n\tb"_s, QByteArray("a\r\n\tb"));
 }
 
-void TestCodePage::textIsCodePage1252()
+void tst_CodePage::textIsCodePage1252()
 {
     QFETCH(QString, tekst);
     QFETCH(QByteArray, bytes);
@@ -38,13 +38,13 @@ void TestCodePage::textIsCodePage1252()
     QCOMPARE(Files::NaarTekst(bytes), tekst);
 }
 
-void TestCodePage::aCharacterOutsideTheCodePageBecomesAQuestionMark()
+void tst_CodePage::aCharacterOutsideTheCodePageBecomesAQuestionMark()
 {
     QCOMPARE(Files::NaarBytes(u"a\u0142b"_s), QByteArray("a?b"));
     QCOMPARE(Files::NaarBytes(u"\u03A9\u4E2D"_s), QByteArray("??"));
 }
 
-void TestCodePage::everyByteGivesOneCharacter()
+void tst_CodePage::everyByteGivesOneCharacter()
 {
     QByteArray bytes;
     for (int i = 0; i < 256; ++i)
@@ -58,7 +58,7 @@ void TestCodePage::everyByteGivesOneCharacter()
     QCOMPARE(Files::NaarBytes(tekst), bytes);
 }
 
-void TestCodePage::whatIsInTheCodePage()
+void tst_CodePage::whatIsInTheCodePage()
 {
     for (const QChar c : u"aZ \u00E9\u20AC\u0178\u0152"_s)
         QVERIFY(Files::InCodePage(c));
@@ -66,5 +66,5 @@ void TestCodePage::whatIsInTheCodePage()
         QVERIFY(!Files::InCodePage(c));
 }
 
-RASTER_TEST(TestCodePage)
+RASTER_TEST(tst_CodePage)
 #include "tst_CodePage.moc"

@@ -34,7 +34,7 @@ private:
     void (*oudSignaal_)(int);
 };
 
-class TestFiles : public QObject
+class tst_Files : public QObject
 {
     Q_OBJECT
 
@@ -75,7 +75,7 @@ private:
     std::optional<Testbank> bank_;
 };
 
-void TestFiles::aPathIgnoresCaseAndKeepsTheStoredSpelling()
+void tst_Files::aPathIgnoresCaseAndKeepsTheStoredSpelling()
 {
     QVERIFY(QDir(Map()).mkdir(u"Woordlijsten"_s));
     bank_->Schrijf(u"Woordlijsten/Steden.LST"_s, "x");
@@ -84,7 +84,7 @@ void TestFiles::aPathIgnoresCaseAndKeepsTheStoredSpelling()
     QCOMPARE(Files::Pad(Map(), {u"woordlijsten"_s, u"Nieuw.lst"_s}), Map() + u"/Woordlijsten/Nieuw.lst"_s);
 }
 
-void TestFiles::aNameWithItsOwnSpellingIsPreferred()
+void tst_Files::aNameWithItsOwnSpellingIsPreferred()
 {
     bank_->Schrijf(u"AAP.txt"_s, "groot");
     bank_->Schrijf(u"aap.txt"_s, "klein");
@@ -92,7 +92,7 @@ void TestFiles::aNameWithItsOwnSpellingIsPreferred()
     QCOMPARE(Files::Lees(Files::Pad(Map(), {u"AAP.txt"_s})), QByteArray("groot"));
 }
 
-void TestFiles::aNewFileTakesTheNameGiven()
+void tst_Files::aNewFileTakesTheNameGiven()
 {
     const QString pad = Files::Pad(Map(), {u"Mijn Puzzel.frt"_s});
     QCOMPARE(pad, Map() + u"/Mijn Puzzel.frt"_s);
@@ -101,20 +101,20 @@ void TestFiles::aNewFileTakesTheNameGiven()
     QCOMPARE(Files::Pad(Map() + u"/er niet"_s, {u"A"_s, u"b"_s}), Map() + u"/er niet/A/b"_s);
 }
 
-void TestFiles::aNameThatCouldLeaveTheFolderIsRefused_data()
+void tst_Files::aNameThatCouldLeaveTheFolderIsRefused_data()
 {
     QTest::addColumn<QString>("naam");
-    QTest::newRow("empty") << QString();
+    Geval("empty", QString());
     for (const char *naam : {".", "..", "a/b", "../b", "/", "a\\b", "a<", "a>", "c:a", "\"a", "a|b", "a?", "*.lst"})
-        QTest::newRow(naam) << QString::fromLatin1(naam);
+        Geval(naam, QString::fromLatin1(naam));
     for (int code = 0; code < 32; ++code)
-        QTest::addRow("control character %d", code) << u"a"_s + QChar(code) + u"b"_s;
-    QTest::newRow("control character 127") << u"a"_s + QChar(127);
-    QTest::newRow("first half of a pair") << u"a"_s + QChar(0xD83D) + u"b"_s;
-    QTest::newRow("second half of a pair") << QString(QChar(0xDE00));
+        Geval("control character " + QByteArray::number(code), u"a"_s + QChar(code) + u"b"_s);
+    Geval("control character 127", u"a"_s + QChar(127));
+    Geval("first half of a pair", u"a"_s + QChar(0xD83D) + u"b"_s);
+    Geval("second half of a pair", QString(QChar(0xDE00)));
 }
 
-void TestFiles::aNameThatCouldLeaveTheFolderIsRefused()
+void tst_Files::aNameThatCouldLeaveTheFolderIsRefused()
 {
     QFETCH(QString, naam);
     QCOMPARE(FoutVan([&] { Files::Pad(Map(), {naam}); }), int{Fout::OngeldigeNaam});
@@ -122,16 +122,16 @@ void TestFiles::aNameThatCouldLeaveTheFolderIsRefused()
     QCOMPARE(FoutVan([&] { Files::Pad(Map(), {u"Puzzels"_s, naam}); }), int{Fout::OngeldigeNaam});
 }
 
-void TestFiles::anOrdinaryNameIsTaken_data()
+void tst_Files::anOrdinaryNameIsTaken_data()
 {
     QTest::addColumn<QString>("naam");
     for (const char *naam : {"a", "a b", "a.b.c", "...", ".a", "a'b", "a & b, (c) [d] {e} #1 100% ~$!@^+=;"})
-        QTest::newRow(naam) << QString::fromLatin1(naam);
-    QTest::newRow("accents") << u"caf\u00E9 \u20AC"_s;
-    QTest::newRow("a whole pair") << u"\U0001F600"_s;
+        Geval(naam, QString::fromLatin1(naam));
+    Geval("accents", u"caf\u00E9 \u20AC"_s);
+    Geval("a whole pair", u"\U0001F600"_s);
 }
 
-void TestFiles::anOrdinaryNameIsTaken()
+void tst_Files::anOrdinaryNameIsTaken()
 {
     QFETCH(QString, naam);
     const QString pad = Files::Pad(Map(), {naam});
@@ -140,7 +140,7 @@ void TestFiles::anOrdinaryNameIsTaken()
     QCOMPARE(Files::Dir(Files::Pad(Map(), {naam.toUpper()})), naam);
 }
 
-void TestFiles::aFolderIsNoFile()
+void tst_Files::aFolderIsNoFile()
 {
     bank_->Schrijf(u"Aap.txt"_s, "");
     QVERIFY(Files::FileExists(Volledig("Aap.txt")));
@@ -151,7 +151,7 @@ void TestFiles::aFolderIsNoFile()
     QCOMPARE(Files::Dir(Volledig("Puzzels")), QString());
 }
 
-void TestFiles::theListMatchesAndSortsIgnoringCase()
+void tst_Files::theListMatchesAndSortsIgnoringCase()
 {
     for (const char *naam : {"b.lst", "A.LST", "C.Lst", "d.txt", "lst", "a.lst.bak"})
         bank_->Schrijf(QLatin1String(naam), "");
@@ -162,7 +162,7 @@ void TestFiles::theListMatchesAndSortsIgnoringCase()
     QCOMPARE(Files::Lijst(Map() + u"/er niet"_s, u"*"_s), QStringList());
 }
 
-void TestFiles::theListLeavesOutWhatCannotBeOpened()
+void tst_Files::theListLeavesOutWhatCannotBeOpened()
 {
     bank_->Schrijf(u"goed.lst"_s, "");
     for (const char *naam : {"a?.lst", "b\\.lst", "c:d.lst", "e\n.lst", "\"f\".lst", "*.lst", "<.lst", "|.lst"})
@@ -170,7 +170,7 @@ void TestFiles::theListLeavesOutWhatCannotBeOpened()
     QCOMPARE(Files::Lijst(Map(), u"*.lst"_s), QStringList{"goed.lst"});
 }
 
-void TestFiles::killRemovesAFile()
+void tst_Files::killRemovesAFile()
 {
     bank_->Schrijf(u"a.txt"_s, "x");
     bank_->Schrijf(u"b.txt"_s, "x");
@@ -181,7 +181,7 @@ void TestFiles::killRemovesAFile()
     QVERIFY(QFileInfo(Volledig("Puzzels")).isDir());
 }
 
-void TestFiles::mkDirMakesAFolder()
+void tst_Files::mkDirMakesAFolder()
 {
     Files::MkDir(Volledig("Html"));
     QVERIFY(QFileInfo(Volledig("Html")).isDir());
@@ -191,7 +191,7 @@ void TestFiles::mkDirMakesAFolder()
 
 // --- contents ---
 
-void TestFiles::aFileIsReadWhole()
+void tst_Files::aFileIsReadWhole()
 {
     QByteArray inhoud("a\0b\r\n\x1A\xFF", 7);
     inhoud += QByteArray(100000, 'z');
@@ -201,13 +201,13 @@ void TestFiles::aFileIsReadWhole()
     QCOMPARE(Files::Lees(Volledig("leeg")), QByteArray());
 }
 
-void TestFiles::whatIsNoFileCannotBeRead()
+void tst_Files::whatIsNoFileCannotBeRead()
 {
     QCOMPARE(FoutVan([&] { Files::Lees(Volledig("er niet")); }), int{Fout::BestandNietGevonden});
     QCOMPARE(FoutVan([&] { Files::Lees(Volledig("Puzzels")); }), int{Fout::BestandNietGevonden});
 }
 
-void TestFiles::aFileThatIsTooLargeIsNotTakenIn()
+void tst_Files::aFileThatIsTooLargeIsNotTakenIn()
 {
     QFile bestand(Volledig("groot"));
     QVERIFY(bestand.open(QIODevice::WriteOnly));
@@ -217,7 +217,7 @@ void TestFiles::aFileThatIsTooLargeIsNotTakenIn()
     QCOMPARE(Files::LeesBegin(bestand.fileName(), 5), QByteArray(5, 0));
 }
 
-void TestFiles::theBeginOfAFileIsRead()
+void tst_Files::theBeginOfAFileIsRead()
 {
     bank_->Schrijf(u"a.txt"_s, "0123456789");
     QCOMPARE(Files::LeesBegin(Volledig("a.txt"), 4), QByteArray("0123"));
@@ -226,7 +226,7 @@ void TestFiles::theBeginOfAFileIsRead()
     QCOMPARE(FoutVan([&] { Files::LeesBegin(Volledig("b.txt"), 4); }), int{Fout::BestandNietGevonden});
 }
 
-void TestFiles::aFileIsWrittenByteForByte()
+void tst_Files::aFileIsWrittenByteForByte()
 {
     const QByteArray inhoud("a\0b\n\r\n\xFF", 7);
     Files::Schrijf(Volledig("a.bin"), inhoud);
@@ -236,7 +236,7 @@ void TestFiles::aFileIsWrittenByteForByte()
     QCOMPARE(bank_->Bestanden({}), (QStringList{"a.bin", "leeg"}));
 }
 
-void TestFiles::aWrittenFileReplacesTheOldOne()
+void tst_Files::aWrittenFileReplacesTheOldOne()
 {
     bank_->Schrijf(u"a.txt"_s, "een veel langere oude inhoud");
     Files::Schrijf(Volledig("a.txt"), "nieuw");
@@ -244,14 +244,14 @@ void TestFiles::aWrittenFileReplacesTheOldOne()
     QCOMPARE(bank_->Bestanden({}), QStringList{"a.txt"});
 }
 
-void TestFiles::aFileInAMissingFolderCannotBeWritten()
+void tst_Files::aFileInAMissingFolderCannotBeWritten()
 {
     QVERIFY(FoutVan([&] { Files::Schrijf(Volledig("er niet/a.txt"), "x"); }) != 0);
     QVERIFY(FoutVan([&] { Files::Schrijf(Volledig("Puzzels"), "x"); }) != 0);
     QCOMPARE(bank_->Bestanden({}), QStringList());
 }
 
-void TestFiles::aWriteThatFailsHalfwayKeepsTheOldFile()
+void tst_Files::aWriteThatFailsHalfwayKeepsTheOldFile()
 {
     bank_->Schrijf(u"a.txt"_s, "oud");
     int nummer = 0;
@@ -264,7 +264,7 @@ void TestFiles::aWriteThatFailsHalfwayKeepsTheOldFile()
     QCOMPARE(bank_->Bestanden({}), QStringList{"a.txt"});
 }
 
-void TestFiles::aWriteThatFailsHalfwayLeavesNoNewFile()
+void tst_Files::aWriteThatFailsHalfwayLeavesNoNewFile()
 {
     int nummer = 0;
     {
@@ -275,7 +275,7 @@ void TestFiles::aWriteThatFailsHalfwayLeavesNoNewFile()
     QCOMPARE(bank_->Bestanden({}), QStringList());
 }
 
-void TestFiles::renamingChangesOnlyTheName()
+void tst_Files::renamingChangesOnlyTheName()
 {
     bank_->Schrijf(u"Puzzels/a.txt"_s, "x");
     Files::Hernoem(Volledig("Puzzels/a.txt"), u"b.txt"_s);
@@ -283,14 +283,14 @@ void TestFiles::renamingChangesOnlyTheName()
     QCOMPARE(bank_->Inhoud(u"Puzzels/b.txt"_s), QByteArray("x"));
 }
 
-void TestFiles::renamingCanChangeTheCaseAlone()
+void tst_Files::renamingCanChangeTheCaseAlone()
 {
     bank_->Schrijf(u"puzzel.frt"_s, "x");
     Files::Hernoem(Volledig("puzzel.frt"), u"Puzzel.FRT"_s);
     QCOMPARE(bank_->Bestanden({}), QStringList{"Puzzel.FRT"});
 }
 
-void TestFiles::renamingAMissingFileFails()
+void tst_Files::renamingAMissingFileFails()
 {
     QCOMPARE(FoutVan([&] { Files::Hernoem(Volledig("er niet"), u"b"_s); }), int{Fout::GeenToegang});
     bank_->Schrijf(u"a.txt"_s, "x");
@@ -299,5 +299,5 @@ void TestFiles::renamingAMissingFileFails()
     QCOMPARE(bank_->Bestanden({}), QStringList{"a.txt"});
 }
 
-RASTER_TEST(TestFiles)
+RASTER_TEST(tst_Files)
 #include "tst_Files.moc"

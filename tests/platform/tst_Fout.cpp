@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestFout : public QObject
+class tst_Fout : public QObject
 {
     Q_OBJECT
 
@@ -17,19 +17,19 @@ private slots:
     void exceptionsOfTheLibraryHaveANumber();
 };
 
-void TestFout::aStatementThatEndsWellIsToldApart()
+void tst_Fout::aStatementThatEndsWellIsToldApart()
 {
     int gedaan = 0;
     QVERIFY(negeer([&] { ++gedaan; }));
     QCOMPARE(gedaan, 1);
 }
 
-void TestFout::failuresAreDropped_data()
+void tst_Fout::failuresAreDropped_data()
 {
     QTest::addColumn<int>("soort");
-    QTest::newRow("one of ours") << 0;
-    QTest::newRow("out of memory") << 1;
-    QTest::newRow("any other of the standard library") << 2;
+    Geval("one of ours", 0);
+    Geval("out of memory", 1);
+    Geval("any other of the standard library", 2);
 }
 
 static void Mislukt(int soort)
@@ -41,18 +41,18 @@ static void Mislukt(int soort)
     throw std::out_of_range("buiten");
 }
 
-void TestFout::failuresAreDropped()
+void tst_Fout::failuresAreDropped()
 {
     QFETCH(int, soort);
     QVERIFY(!negeer([&] { Mislukt(soort); }));
 }
 
-void TestFout::aHandlerThatIsGivenUpIsNoFailure()
+void tst_Fout::aHandlerThatIsGivenUpIsNoFailure()
 {
     QVERIFY_THROWS_EXCEPTION(Afgebroken, negeer([] { throw Afgebroken(); }));
 }
 
-void TestFout::exceptionsOfTheLibraryHaveANumber()
+void tst_Fout::exceptionsOfTheLibraryHaveANumber()
 {
     const auto van = [](int soort) {
         try {
@@ -69,5 +69,5 @@ void TestFout::exceptionsOfTheLibraryHaveANumber()
     QCOMPARE(van(2).tekst(), u"Interne fout (buiten)"_s);
 }
 
-RASTER_TEST(TestFout)
+RASTER_TEST(tst_Fout)
 #include "tst_Fout.moc"

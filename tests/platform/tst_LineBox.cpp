@@ -17,18 +17,13 @@ private slots:
     {
         QTest::addColumn<QString>("tekst");
         QTest::addColumn<QString>("over");
-        QTest::newRow("none") << "dier, groot"
-                              << "dier, groot";
-        QTest::newRow("line feed") << "dier\ngroot"
-                                   << "dier";
-        QTest::newRow("carriage return") << "dier\r\ngroot\r\n"
-                                         << "dier";
-        QTest::newRow("at the end") << "Reis\n"
-                                    << "Reis";
-        QTest::newRow("at the begin") << "\nReis"
-                                      << "";
-        QTest::newRow("separator") << u"dier"_s + QChar(QChar::LineSeparator) + u'x' << "dier";
-        QTest::newRow("paragraph") << u"dier"_s + QChar(QChar::ParagraphSeparator) + u'x' << "dier";
+        Geval("none", "dier, groot", "dier, groot");
+        Geval("line feed", "dier\ngroot", "dier");
+        Geval("carriage return", "dier\r\ngroot\r\n", "dier");
+        Geval("at the end", "Reis\n", "Reis");
+        Geval("at the begin", "\nReis", "");
+        Geval("separator", u"dier"_s + QChar(QChar::LineSeparator) + u'x', "dier");
+        Geval("paragraph", u"dier"_s + QChar(QChar::ParagraphSeparator) + u'x', "dier");
     }
     void textEndsAtTheFirstLineEnd()
     {
@@ -46,9 +41,9 @@ private slots:
     void whereThereIsNoTextNothingIsPasted_data()
     {
         QTest::addColumn<int>("soort");
-        QTest::newRow("no format") << 0;
-        QTest::newRow("html only") << 1;
-        QTest::newRow("an image only") << 2;
+        Geval("no format", 0);
+        Geval("html only", 1);
+        Geval("an image only", 2);
     }
     void whereThereIsNoTextNothingIsPasted()
     {
@@ -72,8 +67,8 @@ private slots:
     {
         QTest::addColumn<QString>("tekst");
         QTest::addColumn<QString>("over");
-        QTest::newRow("one line") << QString(5000000, u'm') << QString(32767, u'm');
-        QTest::newRow("many lines") << u"dier\n"_s.repeated(1000000) << u"dier"_s;
+        Geval("one line", QString(5000000, u'm'), QString(32767, u'm'));
+        Geval("many lines", u"dier\n"_s.repeated(1000000), u"dier"_s);
     }
     void aTextOfMegabytesIsCutOff()
     {

@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestListBox : public QObject
+class tst_ListBox : public QObject
 {
     Q_OBJECT
 
@@ -84,7 +84,7 @@ static QStringList Teksten(const ListBox &lijst)
     return teksten;
 }
 
-void TestListBox::anEmptyListHasNothingSelected()
+void tst_ListBox::anEmptyListHasNothingSelected()
 {
     const ListBox lijst(nullptr);
     QCOMPARE(lijst.ListCount(), 0);
@@ -92,7 +92,7 @@ void TestListBox::anEmptyListHasNothingSelected()
     QCOMPARE(lijst.Text(), QString());
 }
 
-void TestListBox::itemsAreAddedAtTheEnd()
+void tst_ListBox::itemsAreAddedAtTheEnd()
 {
     ListBox lijst(nullptr);
     for (const char *tekst : {"noot", "aap", "", "noot"})
@@ -101,7 +101,7 @@ void TestListBox::itemsAreAddedAtTheEnd()
     QCOMPARE(lijst.ListIndex(), -1);
 }
 
-void TestListBox::itemsAreSetInOneGo()
+void tst_ListBox::itemsAreSetInOneGo()
 {
     ListBox lijst(nullptr);
     lijst.AddItem(u"oud"_s);
@@ -113,7 +113,7 @@ void TestListBox::itemsAreSetInOneGo()
     QCOMPARE(erbij.size(), 0);
 }
 
-void TestListBox::clearTakesAllAway()
+void tst_ListBox::clearTakesAllAway()
 {
     DrieWoorden lijst;
     lijst.SetListIndex(1);
@@ -123,14 +123,14 @@ void TestListBox::clearTakesAllAway()
     QCOMPARE(lijst.Text(), QString());
 }
 
-void TestListBox::anIndexThatIsNotThereHasNoText_data()
+void tst_ListBox::anIndexThatIsNotThereHasNoText_data()
 {
     QTest::addColumn<int>("index");
     for (const int index : {-1, 3, 1000000, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()})
-        QTest::addRow("%d", index) << index;
+        Geval(QByteArray::number(index), index);
 }
 
-void TestListBox::anIndexThatIsNotThereHasNoText()
+void tst_ListBox::anIndexThatIsNotThereHasNoText()
 {
     QFETCH(int, index);
     const DrieWoorden lijst;
@@ -138,7 +138,7 @@ void TestListBox::anIndexThatIsNotThereHasNoText()
     QCOMPARE(lijst.List(index), QString());
 }
 
-void TestListBox::aSelectedRowGivesItsText()
+void tst_ListBox::aSelectedRowGivesItsText()
 {
     DrieWoorden lijst;
     lijst.SetListIndex(1);
@@ -149,12 +149,12 @@ void TestListBox::aSelectedRowGivesItsText()
     QCOMPARE(lijst.Text(), u"aap"_s);
 }
 
-void TestListBox::selectingWhatIsNotThereSelectsNothing_data()
+void tst_ListBox::selectingWhatIsNotThereSelectsNothing_data()
 {
     anIndexThatIsNotThereHasNoText_data();
 }
 
-void TestListBox::selectingWhatIsNotThereSelectsNothing()
+void tst_ListBox::selectingWhatIsNotThereSelectsNothing()
 {
     QFETCH(int, index);
     DrieWoorden lijst;
@@ -164,7 +164,7 @@ void TestListBox::selectingWhatIsNotThereSelectsNothing()
     QCOMPARE(lijst.Text(), QString());
 }
 
-void TestListBox::newItemsAreNotSelected()
+void tst_ListBox::newItemsAreNotSelected()
 {
     DrieWoorden lijst;
     lijst.SetListIndex(1);
@@ -174,19 +174,19 @@ void TestListBox::newItemsAreNotSelected()
     QCOMPARE(klik.size(), 0);
 }
 
-void TestListBox::removingLeavesNothingSelected_data()
+void tst_ListBox::removingLeavesNothingSelected_data()
 {
     QTest::addColumn<int>("gekozen");
     QTest::addColumn<int>("weg");
     QTest::addColumn<QStringList>("over");
-    QTest::newRow("the first") << 0 << 0 << QStringList{"noot", "mies"};
-    QTest::newRow("the middle") << 1 << 1 << QStringList{"aap", "mies"};
-    QTest::newRow("the last") << 2 << 2 << QStringList{"aap", "noot"};
-    QTest::newRow("above the chosen one") << 2 << 0 << QStringList{"noot", "mies"};
-    QTest::newRow("below the chosen one") << 0 << 2 << QStringList{"aap", "noot"};
+    Geval("the first", 0, 0, QStringList{"noot", "mies"});
+    Geval("the middle", 1, 1, QStringList{"aap", "mies"});
+    Geval("the last", 2, 2, QStringList{"aap", "noot"});
+    Geval("above the chosen one", 2, 0, QStringList{"noot", "mies"});
+    Geval("below the chosen one", 0, 2, QStringList{"aap", "noot"});
 }
 
-void TestListBox::removingLeavesNothingSelected()
+void tst_ListBox::removingLeavesNothingSelected()
 {
     QFETCH(int, gekozen);
     QFETCH(int, weg);
@@ -200,7 +200,7 @@ void TestListBox::removingLeavesNothingSelected()
     QCOMPARE(klik.size(), 0);
 }
 
-void TestListBox::removingWhatIsNotThereChangesNothing()
+void tst_ListBox::removingWhatIsNotThereChangesNothing()
 {
     DrieWoorden lijst;
     lijst.RemoveItem(-1);
@@ -208,7 +208,7 @@ void TestListBox::removingWhatIsNotThereChangesNothing()
     QCOMPARE(Teksten(lijst), (QStringList{"aap", "noot", "mies"}));
 }
 
-void TestListBox::aRowCanBeChosenAfterRemoving()
+void tst_ListBox::aRowCanBeChosenAfterRemoving()
 {
     DrieWoorden lijst;
     lijst.SetListIndex(0);
@@ -219,7 +219,7 @@ void TestListBox::aRowCanBeChosenAfterRemoving()
     QCOMPARE(lijst.Text(), u"noot"_s);
 }
 
-void TestListBox::aManyThousandItemsFit()
+void tst_ListBox::aManyThousandItemsFit()
 {
     constexpr int Aantal = 400000;
     QStringList teksten;
@@ -236,7 +236,7 @@ void TestListBox::aManyThousandItemsFit()
 }
 
 // It takes a tenth of a second; were the time to grow with the square of the items, it would be minutes.
-void TestListBox::aManyThousandItemsAreAddedOneByOne()
+void tst_ListBox::aManyThousandItemsAreAddedOneByOne()
 {
     constexpr int Aantal = 200000;
     DrieWoorden lijst;
@@ -266,17 +266,19 @@ public:
 /// A place in the three words' list, below the rows.
 static constexpr QPoint Onder(50, 140);
 
-void TestListBox::aClickOnARowIsToldOnce_data()
+void tst_ListBox::aClickOnARowIsToldOnce_data()
 {
     QTest::addColumn<int>("gekozen");
     QTest::addColumn<int>("geklikt");
     QTest::addColumn<Qt::KeyboardModifiers>("toets");
     for (const int gekozen : {-1, 0, 1})
         for (const Qt::KeyboardModifiers toets : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier})
-            QTest::addRow("row 1 after %d with modifier %x", gekozen, toets.toInt()) << gekozen << 1 << toets;
+            Geval("row 1 after " + QByteArray::number(gekozen) + " with modifier " +
+                      QByteArray::number(toets.toInt(), 16),
+                  gekozen, 1, toets);
 }
 
-void TestListBox::aClickOnARowIsToldOnce()
+void tst_ListBox::aClickOnARowIsToldOnce()
 {
     QFETCH(int, gekozen);
     QFETCH(int, geklikt);
@@ -289,16 +291,17 @@ void TestListBox::aClickOnARowIsToldOnce()
     QCOMPARE(lijst.ListIndex(), geklikt);
 }
 
-void TestListBox::aClickBelowTheRowsKeepsTheChosenOne_data()
+void tst_ListBox::aClickBelowTheRowsKeepsTheChosenOne_data()
 {
     QTest::addColumn<int>("gekozen");
     QTest::addColumn<Qt::KeyboardModifiers>("toets");
     for (const int gekozen : {-1, 2})
         for (const Qt::KeyboardModifiers toets : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier})
-            QTest::addRow("%d with modifier %x", gekozen, toets.toInt()) << gekozen << toets;
+            Geval(QByteArray::number(gekozen) + " with modifier " + QByteArray::number(toets.toInt(), 16), gekozen,
+                  toets);
 }
 
-void TestListBox::aClickBelowTheRowsKeepsTheChosenOne()
+void tst_ListBox::aClickBelowTheRowsKeepsTheChosenOne()
 {
     QFETCH(int, gekozen);
     QFETCH(Qt::KeyboardModifiers, toets);
@@ -312,7 +315,7 @@ void TestListBox::aClickBelowTheRowsKeepsTheChosenOne()
 }
 
 // The button goes down on one row, the pointer moves over others and below them, and the button comes up there.
-void TestListBox::draggingChoosesTheRowUnderThePointer()
+void tst_ListBox::draggingChoosesTheRowUnderThePointer()
 {
     DrieWoorden lijst;
     const Verteld verteld(lijst);
@@ -327,14 +330,14 @@ void TestListBox::draggingChoosesTheRowUnderThePointer()
     QCOMPARE(lijst.Text(), u"mies"_s);
 }
 
-void TestListBox::onlyTheLeftButtonChooses_data()
+void tst_ListBox::onlyTheLeftButtonChooses_data()
 {
     QTest::addColumn<Qt::MouseButton>("knop");
-    QTest::newRow("right") << Qt::RightButton;
-    QTest::newRow("middle") << Qt::MiddleButton;
+    Geval("right", Qt::RightButton);
+    Geval("middle", Qt::MiddleButton);
 }
 
-void TestListBox::onlyTheLeftButtonChooses()
+void tst_ListBox::onlyTheLeftButtonChooses()
 {
     QFETCH(Qt::MouseButton, knop);
     DrieWoorden lijst;
@@ -348,7 +351,7 @@ void TestListBox::onlyTheLeftButtonChooses()
     QCOMPARE(verteld, QStringList{"mies"});
 }
 
-void TestListBox::onlyOneRowIsChosenAtATime()
+void tst_ListBox::onlyOneRowIsChosenAtATime()
 {
     DrieWoorden lijst;
     QTest::mouseClick(lijst.viewport(), Qt::LeftButton, {}, Rij(lijst, 0));
@@ -364,15 +367,15 @@ static void DubbelKlik(ListBox &lijst, QPoint plaats, Qt::MouseButton knop = Qt:
     QTest::mouseRelease(lijst.viewport(), knop, {}, plaats);
 }
 
-void TestListBox::aDoubleClickIsToldOnce_data()
+void tst_ListBox::aDoubleClickIsToldOnce_data()
 {
     QTest::addColumn<int>("gekozen");
-    QTest::newRow("nothing chosen before") << -1;
-    QTest::newRow("another row before") << 0;
-    QTest::newRow("the same row before") << 2;
+    Geval("nothing chosen before", -1);
+    Geval("another row before", 0);
+    Geval("the same row before", 2);
 }
 
-void TestListBox::aDoubleClickIsToldOnce()
+void tst_ListBox::aDoubleClickIsToldOnce()
 {
     QFETCH(int, gekozen);
     DrieWoorden lijst;
@@ -383,7 +386,7 @@ void TestListBox::aDoubleClickIsToldOnce()
 }
 
 // The pointer may move a few pixels between the two clicks.
-void TestListBox::aDoubleClickOnAnotherRowIsOnThatRow()
+void tst_ListBox::aDoubleClickOnAnotherRowIsOnThatRow()
 {
     DrieWoorden lijst;
     const Verteld verteld(lijst);
@@ -393,7 +396,7 @@ void TestListBox::aDoubleClickOnAnotherRowIsOnThatRow()
     QCOMPARE(verteld, (QStringList{"aap", "noot", "noot!"}));
 }
 
-void TestListBox::aDoubleClickBelowTheRowsIsToldWithoutARow()
+void tst_ListBox::aDoubleClickBelowTheRowsIsToldWithoutARow()
 {
     DrieWoorden lijst;
     const Verteld verteld(lijst);
@@ -402,7 +405,7 @@ void TestListBox::aDoubleClickBelowTheRowsIsToldWithoutARow()
     QCOMPARE(lijst.ListIndex(), -1);
 }
 
-void TestListBox::aDoubleClickBelowTheRowsKeepsTheChosenOne()
+void tst_ListBox::aDoubleClickBelowTheRowsKeepsTheChosenOne()
 {
     DrieWoorden lijst;
     lijst.SetListIndex(1);
@@ -412,12 +415,12 @@ void TestListBox::aDoubleClickBelowTheRowsKeepsTheChosenOne()
     QCOMPARE(lijst.ListIndex(), 1);
 }
 
-void TestListBox::onlyTheLeftButtonClicksTwice_data()
+void tst_ListBox::onlyTheLeftButtonClicksTwice_data()
 {
     onlyTheLeftButtonChooses_data();
 }
 
-void TestListBox::onlyTheLeftButtonClicksTwice()
+void tst_ListBox::onlyTheLeftButtonClicksTwice()
 {
     QFETCH(Qt::MouseButton, knop);
     DrieWoorden lijst;
@@ -429,7 +432,7 @@ void TestListBox::onlyTheLeftButtonClicksTwice()
     QCOMPARE(lijst.ListIndex(), 1);
 }
 
-void TestListBox::aDoubleClickDoesNotEditTheText()
+void tst_ListBox::aDoubleClickDoesNotEditTheText()
 {
     DrieWoorden lijst;
     DubbelKlik(lijst, Rij(lijst, 1));
@@ -439,23 +442,23 @@ void TestListBox::aDoubleClickDoesNotEditTheText()
     QCOMPARE(lijst.List(1), u"noot"_s);
 }
 
-void TestListBox::aKeyChoosesARowAndIsToldOnce_data()
+void tst_ListBox::aKeyChoosesARowAndIsToldOnce_data()
 {
     QTest::addColumn<int>("toets");
     QTest::addColumn<Qt::KeyboardModifiers>("met");
     QTest::addColumn<QString>("gekozen");
-    QTest::newRow("down") << int(Qt::Key_Down) << Qt::KeyboardModifiers() << "mies";
-    QTest::newRow("up") << int(Qt::Key_Up) << Qt::KeyboardModifiers() << "aap";
-    QTest::newRow("home") << int(Qt::Key_Home) << Qt::KeyboardModifiers() << "aap";
-    QTest::newRow("end") << int(Qt::Key_End) << Qt::KeyboardModifiers() << "mies";
-    QTest::newRow("page up") << int(Qt::Key_PageUp) << Qt::KeyboardModifiers() << "aap";
-    QTest::newRow("page down") << int(Qt::Key_PageDown) << Qt::KeyboardModifiers() << "mies";
-    QTest::newRow("letter") << int(Qt::Key_M) << Qt::KeyboardModifiers() << "mies";
-    QTest::newRow("control and down") << int(Qt::Key_Down) << Qt::KeyboardModifiers(Qt::ControlModifier) << "mies";
-    QTest::newRow("shift and up") << int(Qt::Key_Up) << Qt::KeyboardModifiers(Qt::ShiftModifier) << "aap";
+    Geval("down", int(Qt::Key_Down), Qt::KeyboardModifiers(), "mies");
+    Geval("up", int(Qt::Key_Up), Qt::KeyboardModifiers(), "aap");
+    Geval("home", int(Qt::Key_Home), Qt::KeyboardModifiers(), "aap");
+    Geval("end", int(Qt::Key_End), Qt::KeyboardModifiers(), "mies");
+    Geval("page up", int(Qt::Key_PageUp), Qt::KeyboardModifiers(), "aap");
+    Geval("page down", int(Qt::Key_PageDown), Qt::KeyboardModifiers(), "mies");
+    Geval("letter", int(Qt::Key_M), Qt::KeyboardModifiers(), "mies");
+    Geval("control and down", int(Qt::Key_Down), Qt::KeyboardModifiers(Qt::ControlModifier), "mies");
+    Geval("shift and up", int(Qt::Key_Up), Qt::KeyboardModifiers(Qt::ShiftModifier), "aap");
 }
 
-void TestListBox::aKeyChoosesARowAndIsToldOnce()
+void tst_ListBox::aKeyChoosesARowAndIsToldOnce()
 {
     QFETCH(int, toets);
     QFETCH(Qt::KeyboardModifiers, met);
@@ -468,20 +471,20 @@ void TestListBox::aKeyChoosesARowAndIsToldOnce()
     QCOMPARE(lijst.Text(), gekozen);
 }
 
-void TestListBox::keysThatDoNotMoveTellNothing_data()
+void tst_ListBox::keysThatDoNotMoveTellNothing_data()
 {
     QTest::addColumn<int>("toets");
     QTest::addColumn<Qt::KeyboardModifiers>("met");
-    QTest::newRow("down on the last") << int(Qt::Key_Down) << Qt::KeyboardModifiers();
-    QTest::newRow("end on the last") << int(Qt::Key_End) << Qt::KeyboardModifiers();
-    QTest::newRow("a letter that no row begins with") << int(Qt::Key_X) << Qt::KeyboardModifiers();
-    QTest::newRow("space") << int(Qt::Key_Space) << Qt::KeyboardModifiers();
-    QTest::newRow("control and space") << int(Qt::Key_Space) << Qt::KeyboardModifiers(Qt::ControlModifier);
-    QTest::newRow("control") << int(Qt::Key_Control) << Qt::KeyboardModifiers(Qt::ControlModifier);
-    QTest::newRow("escape") << int(Qt::Key_Escape) << Qt::KeyboardModifiers();
+    Geval("down on the last", int(Qt::Key_Down), Qt::KeyboardModifiers());
+    Geval("end on the last", int(Qt::Key_End), Qt::KeyboardModifiers());
+    Geval("a letter that no row begins with", int(Qt::Key_X), Qt::KeyboardModifiers());
+    Geval("space", int(Qt::Key_Space), Qt::KeyboardModifiers());
+    Geval("control and space", int(Qt::Key_Space), Qt::KeyboardModifiers(Qt::ControlModifier));
+    Geval("control", int(Qt::Key_Control), Qt::KeyboardModifiers(Qt::ControlModifier));
+    Geval("escape", int(Qt::Key_Escape), Qt::KeyboardModifiers());
 }
 
-void TestListBox::keysThatDoNotMoveTellNothing()
+void tst_ListBox::keysThatDoNotMoveTellNothing()
 {
     QFETCH(int, toets);
     QFETCH(Qt::KeyboardModifiers, met);
@@ -493,28 +496,28 @@ void TestListBox::keysThatDoNotMoveTellNothing()
     QCOMPARE(lijst.Text(), u"mies"_s);
 }
 
-void TestListBox::keysStartOutsideAListWithoutAChosenRow_data()
+void tst_ListBox::keysStartOutsideAListWithoutAChosenRow_data()
 {
     QTest::addColumn<int>("toets");
     QTest::addColumn<QStringList>("rijen");
     QTest::addColumn<QString>("gekozen");
     const QStringList drie{"aap", "noot", "mies"}, een{"aap"};
-    QTest::newRow("down") << int(Qt::Key_Down) << drie << "aap";
-    QTest::newRow("up") << int(Qt::Key_Up) << drie << "aap";
-    QTest::newRow("home") << int(Qt::Key_Home) << drie << "aap";
-    QTest::newRow("end") << int(Qt::Key_End) << drie << "mies";
-    QTest::newRow("its first letter") << int(Qt::Key_A) << drie << "aap";
-    QTest::newRow("the first letter of two") << int(Qt::Key_A) << QStringList{"aap", "aak"} << "aap";
-    QTest::newRow("another letter") << int(Qt::Key_N) << drie << "noot";
-    QTest::newRow("down in a list of one") << int(Qt::Key_Down) << een << "aap";
-    QTest::newRow("home in a list of one") << int(Qt::Key_Home) << een << "aap";
-    QTest::newRow("end in a list of one") << int(Qt::Key_End) << een << "aap";
-    QTest::newRow("down in an empty list") << int(Qt::Key_Down) << QStringList() << QString();
-    QTest::newRow("end in an empty list") << int(Qt::Key_End) << QStringList() << QString();
-    QTest::newRow("a letter in an empty list") << int(Qt::Key_A) << QStringList() << QString();
+    Geval("down", int(Qt::Key_Down), drie, "aap");
+    Geval("up", int(Qt::Key_Up), drie, "aap");
+    Geval("home", int(Qt::Key_Home), drie, "aap");
+    Geval("end", int(Qt::Key_End), drie, "mies");
+    Geval("its first letter", int(Qt::Key_A), drie, "aap");
+    Geval("the first letter of two", int(Qt::Key_A), QStringList{"aap", "aak"}, "aap");
+    Geval("another letter", int(Qt::Key_N), drie, "noot");
+    Geval("down in a list of one", int(Qt::Key_Down), een, "aap");
+    Geval("home in a list of one", int(Qt::Key_Home), een, "aap");
+    Geval("end in a list of one", int(Qt::Key_End), een, "aap");
+    Geval("down in an empty list", int(Qt::Key_Down), QStringList(), QString());
+    Geval("end in an empty list", int(Qt::Key_End), QStringList(), QString());
+    Geval("a letter in an empty list", int(Qt::Key_A), QStringList(), QString());
 }
 
-void TestListBox::keysStartOutsideAListWithoutAChosenRow()
+void tst_ListBox::keysStartOutsideAListWithoutAChosenRow()
 {
     QFETCH(int, toets);
     QFETCH(QStringList, rijen);
@@ -531,7 +534,7 @@ void TestListBox::keysStartOutsideAListWithoutAChosenRow()
     QCOMPARE(verteld, gekozen.isEmpty() ? QStringList() : QStringList{gekozen});
 }
 
-void TestListBox::theSpaceBarChoosesTheRowWithTheFocus()
+void tst_ListBox::theSpaceBarChoosesTheRowWithTheFocus()
 {
     DrieWoorden lijst;
     lijst.activateWindow();
@@ -541,7 +544,7 @@ void TestListBox::theSpaceBarChoosesTheRowWithTheFocus()
     QCOMPARE(verteld, QStringList{"aap"});
 }
 
-void TestListBox::aTextOfMegabytesIsShownByItsBeginning()
+void tst_ListBox::aTextOfMegabytesIsShownByItsBeginning()
 {
     ListBox lijst(nullptr);
     const QString lang(5000000, u'm');
@@ -550,5 +553,5 @@ void TestListBox::aTextOfMegabytesIsShownByItsBeginning()
     QVERIFY(lijst.sizeHintForIndex(lijst.model()->index(0, 0)).width() < 10000);
 }
 
-RASTER_TEST(TestListBox)
+RASTER_TEST(tst_ListBox)
 #include "tst_ListBox.moc"

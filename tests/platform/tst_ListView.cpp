@@ -51,8 +51,9 @@ class tst_ListView : public QObject
         QTest::addColumn<Qt::KeyboardModifiers>("toets");
         for (const bool onder : {true, false})
             for (const Qt::KeyboardModifiers toets : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier})
-                QTest::addRow("%s, modifier %x", onder ? "below the rows" : "beside the columns", toets.toInt())
-                    << onder << toets;
+                Geval(QByteArray(onder ? "below the rows" : "beside the columns") + ", modifier " +
+                          QByteArray::number(toets.toInt(), 16),
+                      onder, toets);
     }
 
 private slots:
@@ -82,8 +83,9 @@ private slots:
         for (const int gekozen : {-1, 0, 1})
             for (const int kolom : {0, 1})
                 for (const Qt::KeyboardModifiers toets : {Qt::NoModifier, Qt::ControlModifier, Qt::ShiftModifier})
-                    QTest::addRow("column %d after row %d with modifier %x", kolom, gekozen, toets.toInt())
-                        << gekozen << kolom << toets;
+                    Geval("column " + QByteArray::number(kolom) + " after row " + QByteArray::number(gekozen) +
+                              " with modifier " + QByteArray::number(toets.toInt(), 16),
+                          gekozen, kolom, toets);
     }
     void aClickOnARowIsToldOnce()
     {
@@ -158,13 +160,13 @@ private slots:
     {
         QTest::addColumn<int>("toets");
         QTest::addColumn<QString>("gekozen");
-        QTest::newRow("down") << int(Qt::Key_Down) << "MIES";
-        QTest::newRow("up") << int(Qt::Key_Up) << "AAP";
-        QTest::newRow("home") << int(Qt::Key_Home) << "AAP";
-        QTest::newRow("end") << int(Qt::Key_End) << "MIES";
-        QTest::newRow("page up") << int(Qt::Key_PageUp) << "AAP";
-        QTest::newRow("page down") << int(Qt::Key_PageDown) << "MIES";
-        QTest::newRow("letter") << int(Qt::Key_M) << "MIES";
+        Geval("down", int(Qt::Key_Down), "MIES");
+        Geval("up", int(Qt::Key_Up), "AAP");
+        Geval("home", int(Qt::Key_Home), "AAP");
+        Geval("end", int(Qt::Key_End), "MIES");
+        Geval("page up", int(Qt::Key_PageUp), "AAP");
+        Geval("page down", int(Qt::Key_PageDown), "MIES");
+        Geval("letter", int(Qt::Key_M), "MIES");
     }
     void aKeyChoosesARowAndIsToldOnce()
     {

@@ -53,7 +53,7 @@ static QByteArray RunLength()
     return Bitmap(8, 3, 8, 1, kleuren, rij + rij + QByteArray("\x08\x7F\x00\x01", 4));
 }
 
-class TestPictureFiles : public QObject
+class tst_PictureFiles : public QObject
 {
     Q_OBJECT
 
@@ -87,7 +87,7 @@ private:
     std::optional<Testbank> bank_;
 };
 
-void TestPictureFiles::aPictureComesBackPixelForPixel()
+void tst_PictureFiles::aPictureComesBackPixelForPixel()
 {
     const QImage beeld = BontBeeld();
     Files::SavePicture(beeld, Volledig("a.bmp"));
@@ -99,13 +99,13 @@ void TestPictureFiles::aPictureComesBackPixelForPixel()
             QCOMPARE(terug.pixel(x, y), beeld.pixel(x, y));
 }
 
-void TestPictureFiles::anotherReaderSeesTheSamePicture()
+void tst_PictureFiles::anotherReaderSeesTheSamePicture()
 {
     Files::SavePicture(BontBeeld(), Volledig("a.bmp"));
     QCOMPARE(QImage(Volledig("a.bmp"), "bmp").convertToFormat(QImage::Format_RGB32), BontBeeld());
 }
 
-void TestPictureFiles::aPictureThatAnotherProgramWroteIsRead()
+void tst_PictureFiles::aPictureThatAnotherProgramWroteIsRead()
 {
     QVERIFY(BontBeeld().save(Volledig("a.bmp"), "bmp"));
     QCOMPARE(Files::LoadPicture(Volledig("a.bmp")), BontBeeld());
@@ -114,7 +114,7 @@ void TestPictureFiles::aPictureThatAnotherProgramWroteIsRead()
              BontBeeld().convertToFormat(QImage::Format_Mono).convertToFormat(QImage::Format_RGB32));
 }
 
-void TestPictureFiles::aLoadedPictureStaysWhenItsFileGoes()
+void tst_PictureFiles::aLoadedPictureStaysWhenItsFileGoes()
 {
     Files::SavePicture(BontBeeld(), Volledig("a.bmp"));
     const QImage beeld = Files::LoadPicture(Volledig("a.bmp"));
@@ -123,17 +123,17 @@ void TestPictureFiles::aLoadedPictureStaysWhenItsFileGoes()
     QCOMPARE(beeld, BontBeeld());
 }
 
-void TestPictureFiles::aBitmapFileHasThirtyTwoBits_data()
+void tst_PictureFiles::aBitmapFileHasThirtyTwoBits_data()
 {
     QTest::addColumn<int>("vorm");
-    QTest::newRow("screen") << int(QImage::Format_RGB32);
-    QTest::newRow("transparent") << int(QImage::Format_ARGB32_Premultiplied);
-    QTest::newRow("grey") << int(QImage::Format_Grayscale8);
-    QTest::newRow("indexed") << int(QImage::Format_Indexed8);
-    QTest::newRow("black and white") << int(QImage::Format_Mono);
+    Geval("screen", int(QImage::Format_RGB32));
+    Geval("transparent", int(QImage::Format_ARGB32_Premultiplied));
+    Geval("grey", int(QImage::Format_Grayscale8));
+    Geval("indexed", int(QImage::Format_Indexed8));
+    Geval("black and white", int(QImage::Format_Mono));
 }
 
-void TestPictureFiles::aBitmapFileHasThirtyTwoBits()
+void tst_PictureFiles::aBitmapFileHasThirtyTwoBits()
 {
     QFETCH(int, vorm);
     Files::SavePicture(BontBeeld().convertToFormat(static_cast<QImage::Format>(vorm)), Volledig("a.bmp"));
@@ -145,52 +145,52 @@ void TestPictureFiles::aBitmapFileHasThirtyTwoBits()
     QCOMPARE(qFromLittleEndian<qint32>(bytes.constData() + 2), qint32(bytes.size()));
 }
 
-void TestPictureFiles::noPictureCannotBeSaved()
+void tst_PictureFiles::noPictureCannotBeSaved()
 {
     QCOMPARE(FoutVan([&] { Files::SavePicture({}, Volledig("a.bmp")); }), int{Fout::OngeldigeAfbeelding});
     QCOMPARE(bank_->Bestanden({}), QStringList());
 }
 
-void TestPictureFiles::aMissingPictureIsNotFound()
+void tst_PictureFiles::aMissingPictureIsNotFound()
 {
     QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::BestandNietGevonden});
 }
 
-void TestPictureFiles::whatIsNoBitmapGivesNoPicture_data()
+void tst_PictureFiles::whatIsNoBitmapGivesNoPicture_data()
 {
     QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty") << QByteArray();
-    QTest::newRow("two letters") << QByteArray("BM");
-    QTest::newRow("zeroes") << QByteArray(1000, 0);
-    QTest::newRow("all bits set") << QByteArray(1000, '\xFF');
-    QTest::newRow("letters behind a bitmap's two") << "BM" + QByteArray(1000, 'x');
-    QTest::newRow("a text") << QByteArray("Puzzel\r\n").repeated(20);
+    Geval("empty", QByteArray());
+    Geval("two letters", QByteArray("BM"));
+    Geval("zeroes", QByteArray(1000, 0));
+    Geval("all bits set", QByteArray(1000, '\xFF'));
+    Geval("letters behind a bitmap's two", "BM" + QByteArray(1000, 'x'));
+    Geval("a text", QByteArray("Puzzel\r\n").repeated(20));
     QByteArray png;
     QBuffer buffer(&png);
     buffer.open(QIODevice::WriteOnly);
     BontBeeld().save(&buffer, "png");
-    QTest::newRow("a picture of another kind") << png;
+    Geval("a picture of another kind", png);
 }
 
-void TestPictureFiles::whatIsNoBitmapGivesNoPicture()
+void tst_PictureFiles::whatIsNoBitmapGivesNoPicture()
 {
     QFETCH(QByteArray, bytes);
     bank_->Schrijf(u"a.bmp"_s, bytes);
     QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::OngeldigeAfbeelding});
 }
 
-void TestPictureFiles::aBitmapCutOffAnywhereGivesNoPicture_data()
+void tst_PictureFiles::aBitmapCutOffAnywhereGivesNoPicture_data()
 {
     QTest::addColumn<QByteArray>("heel");
-    QTest::newRow("24 bits") << Bitmap(13, 7, 24, 0, {}, QByteArray(40 * 7, 'x'));
-    QTest::newRow("24 bits, top row first") << Bitmap(13, -7, 24, 0, {}, QByteArray(40 * 7, 'x'));
-    QTest::newRow("32 bits") << Bitmap(13, 7, 32, 0, {}, QByteArray(13 * 4 * 7, 'x'));
-    QTest::newRow("32 bits, top row first") << Bitmap(13, -7, 32, 0, QByteArray(2, 0), QByteArray(13 * 4 * 7, 'x'));
-    QTest::newRow("16 bits with masks") << ZestienBits();
-    QTest::newRow("run lengths") << RunLength();
+    Geval("24 bits", Bitmap(13, 7, 24, 0, {}, QByteArray(40 * 7, 'x')));
+    Geval("24 bits, top row first", Bitmap(13, -7, 24, 0, {}, QByteArray(40 * 7, 'x')));
+    Geval("32 bits", Bitmap(13, 7, 32, 0, {}, QByteArray(13 * 4 * 7, 'x')));
+    Geval("32 bits, top row first", Bitmap(13, -7, 32, 0, QByteArray(2, 0), QByteArray(13 * 4 * 7, 'x')));
+    Geval("16 bits with masks", ZestienBits());
+    Geval("run lengths", RunLength());
 }
 
-void TestPictureFiles::aBitmapCutOffAnywhereGivesNoPicture()
+void tst_PictureFiles::aBitmapCutOffAnywhereGivesNoPicture()
 {
     QFETCH(QByteArray, heel);
     bank_->Schrijf(u"a.bmp"_s, heel);
@@ -203,27 +203,27 @@ void TestPictureFiles::aBitmapCutOffAnywhereGivesNoPicture()
     }
 }
 
-void TestPictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture_data()
+void tst_PictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture_data()
 {
     QTest::addColumn<int>("breedte");
     QTest::addColumn<int>("hoogte");
     QTest::addColumn<int>("bits");
     constexpr int Most = std::numeric_limits<int>::max(), Least = std::numeric_limits<int>::min();
-    QTest::newRow("60000 x 60000") << 60000 << 60000 << 24;
-    QTest::newRow("wide") << Most << 1 << 24;
-    QTest::newRow("high") << 1 << Most << 24;
-    QTest::newRow("largest") << Most << Most << 32;
-    QTest::newRow("largest with most bits") << Most << Most << 0xFFFF;
-    QTest::newRow("upside down") << Most << Least << 0x7FFF;
-    QTest::newRow("no width") << 0 << 7 << 24;
-    QTest::newRow("no height") << 13 << 0 << 24;
-    QTest::newRow("negative width") << -13 << 7 << 24;
-    QTest::newRow("smallest width") << Least << Least << 0x7FFF;
-    QTest::newRow("no bits") << 13 << 7 << 0;
-    QTest::newRow("odd bits") << 13 << 7 << 23;
+    Geval("60000 x 60000", 60000, 60000, 24);
+    Geval("wide", Most, 1, 24);
+    Geval("high", 1, Most, 24);
+    Geval("largest", Most, Most, 32);
+    Geval("largest with most bits", Most, Most, 0xFFFF);
+    Geval("upside down", Most, Least, 0x7FFF);
+    Geval("no width", 0, 7, 24);
+    Geval("no height", 13, 0, 24);
+    Geval("negative width", -13, 7, 24);
+    Geval("smallest width", Least, Least, 0x7FFF);
+    Geval("no bits", 13, 7, 0);
+    Geval("odd bits", 13, 7, 23);
 }
 
-void TestPictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture()
+void tst_PictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture()
 {
     QFETCH(int, breedte);
     QFETCH(int, hoogte);
@@ -234,7 +234,7 @@ void TestPictureFiles::aHeadThatLiesAboutItsSizeGivesNoPicture()
     }
 }
 
-void TestPictureFiles::damagedHeadsNeverDoHarm()
+void tst_PictureFiles::damagedHeadsNeverDoHarm()
 {
     const QByteArray heel = Bitmap(13, 7, 24, 0, {}, QByteArray(280, 'x'));
     int mislukt = 0;
@@ -252,7 +252,7 @@ void TestPictureFiles::damagedHeadsNeverDoHarm()
     QVERIFY(mislukt > 0);
 }
 
-void TestPictureFiles::aPictureAboveTheLimitIsOutOfMemory()
+void tst_PictureFiles::aPictureAboveTheLimitIsOutOfMemory()
 {
     // One bit a pixel: the file stays small, the picture in memory doesn't.
     constexpr int Zijde = 8200;
@@ -262,7 +262,7 @@ void TestPictureFiles::aPictureAboveTheLimitIsOutOfMemory()
     QCOMPARE(FoutVan([&] { Files::LoadPicture(Volledig("a.bmp")); }), int{Fout::GeheugenVol});
 }
 
-void TestPictureFiles::aJpegHasTheSizeOfItsBitmap()
+void tst_PictureFiles::aJpegHasTheSizeOfItsBitmap()
 {
     QImage beeld(50, 30, QImage::Format_RGB32);
     beeld.fill(qRgb(200, 100, 50));
@@ -280,7 +280,7 @@ void TestPictureFiles::aJpegHasTheSizeOfItsBitmap()
     QVERIFY(QFileInfo(Volledig("grof.jpg")).size() < QFileInfo(Volledig("fijn.jpg")).size());
 }
 
-void TestPictureFiles::aJpegOfNoBitmapIsNotMade()
+void tst_PictureFiles::aJpegOfNoBitmapIsNotMade()
 {
     bank_->Schrijf(u"a.bmp"_s, "BM");
     QCOMPARE(FoutVan([&] { Files::BmpToJpeg(Volledig("a.bmp"), Volledig("a.jpg"), 90); }),
@@ -290,5 +290,5 @@ void TestPictureFiles::aJpegOfNoBitmapIsNotMade()
     QCOMPARE(bank_->Bestanden({}), QStringList{"a.bmp"});
 }
 
-RASTER_TEST(TestPictureFiles)
+RASTER_TEST(tst_PictureFiles)
 #include "tst_PictureFiles.moc"

@@ -8,7 +8,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestSchijf : public QObject
+class tst_Schijf : public QObject
 {
     Q_OBJECT
 
@@ -30,7 +30,7 @@ private:
     std::optional<Testbank> bank_;
 };
 
-void TestSchijf::aNewFileMayNotBeThereYet()
+void tst_Schijf::aNewFileMayNotBeThereYet()
 {
     QFile een(Pad("a")), twee(Pad("a"));
     QVERIFY(Schijf::Huidig().Open(een, Schijf::Nieuw));
@@ -40,7 +40,7 @@ void TestSchijf::aNewFileMayNotBeThereYet()
     QCOMPARE(bank_->Inhoud(u"a"_s), QByteArray("inhoud"));
 }
 
-void TestSchijf::aNewFileIsNotMadeThroughALink()
+void tst_Schijf::aNewFileIsNotMadeThroughALink()
 {
     QVERIFY(QFile::link(Pad("doel"), Pad("link")));
     QFile bestand(Pad("link"));
@@ -48,7 +48,7 @@ void TestSchijf::aNewFileIsNotMadeThroughALink()
     QVERIFY(!QFile::exists(Pad("doel")));
 }
 
-void TestSchijf::aFileIsHeldByOneOpeningAtATime()
+void tst_Schijf::aFileIsHeldByOneOpeningAtATime()
 {
     QFile een(Pad("a")), twee(Pad("a"));
     QVERIFY(Schijf::Huidig().Open(een, Schijf::Nieuw));
@@ -59,7 +59,7 @@ void TestSchijf::aFileIsHeldByOneOpeningAtATime()
     QCOMPARE(Schijf::Huidig().Grijp(twee), Schijf::Greep::Gekregen);
 }
 
-void TestSchijf::aFileIsLetGoWhenItsProcessDies()
+void tst_Schijf::aFileIsLetGoWhenItsProcessDies()
 {
     bank_->Schrijf(u"a"_s, "x");
     QVERIFY(SterftBij(3, [&] {
@@ -73,13 +73,13 @@ void TestSchijf::aFileIsLetGoWhenItsProcessDies()
     QCOMPARE(Schijf::Huidig().Grijp(bestand), Schijf::Greep::Gekregen);
 }
 
-void TestSchijf::aFolderIsBroughtToTheDisk()
+void tst_Schijf::aFolderIsBroughtToTheDisk()
 {
     QVERIFY(Schijf::Huidig().SpoelMap(bank_->Map()));
     QVERIFY(!Schijf::Huidig().SpoelMap(Pad("er niet")));
 }
 
-void TestSchijf::whatIsMovedReplaces()
+void tst_Schijf::whatIsMovedReplaces()
 {
     bank_->Schrijf(u"a"_s, "nieuw");
     bank_->Schrijf(u"b"_s, "oud");
@@ -92,7 +92,7 @@ void TestSchijf::whatIsMovedReplaces()
     QCOMPARE(bank_->Bestanden({}), QStringList{"b"});
 }
 
-void TestSchijf::anotherDiskIsInUseForAsLongAsItLives()
+void tst_Schijf::anotherDiskIsInUseForAsLongAsItLives()
 {
     {
         HaperendeSchijf schijf(2);
@@ -105,5 +105,5 @@ void TestSchijf::anotherDiskIsInUseForAsLongAsItLives()
     QVERIFY(QDir(Pad("drie")).exists());
 }
 
-RASTER_TEST(TestSchijf)
+RASTER_TEST(tst_Schijf)
 #include "tst_Schijf.moc"

@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestTeksten : public QObject
+class tst_Teksten : public QObject
 {
     Q_OBJECT
 
@@ -18,41 +18,41 @@ private slots:
     void aTextKeepsItsLength();
 };
 
-void TestTeksten::trimTakesBlanksOffBothEnds_data()
+void tst_Teksten::trimTakesBlanksOffBothEnds_data()
 {
     QTest::addColumn<QString>("tekst");
     QTest::addColumn<QString>("verwacht");
-    QTest::newRow("empty") << u""_s << u""_s;
-    QTest::newRow("one blank") << u" "_s << u""_s;
-    QTest::newRow("blanks") << u"    "_s << u""_s;
-    QTest::newRow("nothing to take") << u"aap"_s << u"aap"_s;
-    QTest::newRow("in front") << u"  aap"_s << u"aap"_s;
-    QTest::newRow("behind") << u"aap  "_s << u"aap"_s;
-    QTest::newRow("inside they stay") << u" aap  noot "_s << u"aap  noot"_s;
-    QTest::newRow("tab") << u" \taap\t "_s << u"\taap\t"_s;
-    QTest::newRow("hard space") << u"\u00A0aap\u00A0"_s << u"\u00A0aap\u00A0"_s;
-    QTest::newRow("line end") << u" aap\r\n"_s << u"aap\r\n"_s;
-    QTest::newRow("em space") << u"\u2003"_s << u"\u2003"_s;
-    QTest::newRow("zero") << QString(QChar(0)) << QString(QChar(0));
+    Geval("empty", u""_s, u""_s);
+    Geval("one blank", u" "_s, u""_s);
+    Geval("blanks", u"    "_s, u""_s);
+    Geval("nothing to take", u"aap"_s, u"aap"_s);
+    Geval("in front", u"  aap"_s, u"aap"_s);
+    Geval("behind", u"aap  "_s, u"aap"_s);
+    Geval("inside they stay", u" aap  noot "_s, u"aap  noot"_s);
+    Geval("tab", u" \taap\t "_s, u"\taap\t"_s);
+    Geval("hard space", u"\u00A0aap\u00A0"_s, u"\u00A0aap\u00A0"_s);
+    Geval("line end", u" aap\r\n"_s, u"aap\r\n"_s);
+    Geval("em space", u"\u2003"_s, u"\u2003"_s);
+    Geval("zero", QString(QChar(0)), QString(QChar(0)));
 }
 
-void TestTeksten::trimTakesBlanksOffBothEnds()
+void tst_Teksten::trimTakesBlanksOffBothEnds()
 {
     QFETCH(QString, tekst);
     QFETCH(QString, verwacht);
     QCOMPARE(Trim(tekst), verwacht);
 }
 
-void TestTeksten::caseIsOfTheCodePage_data()
+void tst_Teksten::caseIsOfTheCodePage_data()
 {
     QTest::addColumn<QString>("klein");
     QTest::addColumn<QString>("groot");
-    QTest::newRow("letters") << u"abcdefghijklmnopqrstuvwxyz"_s << u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s;
-    QTest::newRow("accents") << u"àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþ"_s << u"ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞ"_s;
-    QTest::newRow("letters from 128 to 159") << u"šœžÿ"_s << u"ŠŒŽŸ"_s;
+    Geval("letters", u"abcdefghijklmnopqrstuvwxyz"_s, u"ABCDEFGHIJKLMNOPQRSTUVWXYZ"_s);
+    Geval("accents", u"àáâãäåæçèéêëìíîïðñòóôõöøùúûüýþ"_s, u"ÀÁÂÃÄÅÆÇÈÉÊËÌÍÎÏÐÑÒÓÔÕÖØÙÚÛÜÝÞ"_s);
+    Geval("letters from 128 to 159", u"šœžÿ"_s, u"ŠŒŽŸ"_s);
 }
 
-void TestTeksten::caseIsOfTheCodePage()
+void tst_Teksten::caseIsOfTheCodePage()
 {
     QFETCH(QString, klein);
     QFETCH(QString, groot);
@@ -62,7 +62,7 @@ void TestTeksten::caseIsOfTheCodePage()
     QCOMPARE(KleineLetters(klein), klein);
 }
 
-void TestTeksten::noOtherLetterOfTheCodePageHasAPartner()
+void tst_Teksten::noOtherLetterOfTheCodePageHasAPartner()
 {
     QByteArray bytes;
     for (int code = 0; code < 256; ++code)
@@ -77,7 +77,7 @@ void TestTeksten::noOtherLetterOfTheCodePageHasAPartner()
     QCOMPARE(zonder, u"ƒˆªµºß"_s);
 }
 
-void TestTeksten::aLetterOutsideTheCodePageStays()
+void tst_Teksten::aLetterOutsideTheCodePageStays()
 {
     const QString tekst =
         u"łŁŐőıİſμΜẞжЖĳĲ"_s + QChar(0x212A); // the last is the Kelvin sign, with "k" as its small letter
@@ -85,7 +85,7 @@ void TestTeksten::aLetterOutsideTheCodePageStays()
     QCOMPARE(KleineLetters(tekst), tekst);
 }
 
-void TestTeksten::aTextKeepsItsLength()
+void tst_Teksten::aTextKeepsItsLength()
 {
     const QString tekst = u"stra\u00DFe \U0001F600 \uFB01 "_s + QChar(0xD800);
     QCOMPARE(Hoofdletters(tekst).size(), tekst.size());
@@ -93,5 +93,5 @@ void TestTeksten::aTextKeepsItsLength()
     QCOMPARE(Hoofdletters(tekst), u"STRA\u00DFE \U0001F600 \uFB01 "_s + QChar(0xD800));
 }
 
-RASTER_TEST(TestTeksten)
+RASTER_TEST(tst_Teksten)
 #include "tst_Teksten.moc"

@@ -29,7 +29,7 @@ public:
     double Regelbreedte() const { return width() - 2 * frameWidth() - 2 * document()->documentMargin(); }
 };
 
-class TestTextBox : public QObject
+class tst_TextBox : public QObject
 {
     Q_OBJECT
 
@@ -105,21 +105,21 @@ static QList<int> RegelPerTeken(const TextBox &box)
     return regels;
 }
 
-void TestTextBox::linesAreCounted_data()
+void tst_TextBox::linesAreCounted_data()
 {
     QTest::addColumn<QString>("tekst");
     QTest::addColumn<int>("aantal");
-    QTest::newRow("empty") << QString() << 1;
-    QTest::newRow("one line") << u"a"_s << 1;
-    QTest::newRow("a line end") << u"\r\n"_s << 2;
-    QTest::newRow("a line end behind") << u"a\r\n"_s << 2;
-    QTest::newRow("a line end before") << u"\r\na"_s << 2;
-    QTest::newRow("two lines") << u"a\r\nb"_s << 2;
-    QTest::newRow("an empty line between") << u"a\r\n\r\nb"_s << 3;
-    QTest::newRow("a blank") << u" "_s << 1;
+    Geval("empty", QString(), 1);
+    Geval("one line", u"a"_s, 1);
+    Geval("a line end", u"\r\n"_s, 2);
+    Geval("a line end behind", u"a\r\n"_s, 2);
+    Geval("a line end before", u"\r\na"_s, 2);
+    Geval("two lines", u"a\r\nb"_s, 2);
+    Geval("an empty line between", u"a\r\n\r\nb"_s, 3);
+    Geval("a blank", u" "_s, 1);
 }
 
-void TestTextBox::linesAreCounted()
+void tst_TextBox::linesAreCounted()
 {
     QFETCH(QString, tekst);
     QFETCH(int, aantal);
@@ -131,22 +131,22 @@ void TestTextBox::linesAreCounted()
     QCOMPARE(box.LineFromChar(tekst.size()), aantal - 1);
 }
 
-void TestTextBox::aLineEndIsTwoCharacters()
+void tst_TextBox::aLineEndIsTwoCharacters()
 {
     OmschrijvingBox box;
     box.SetText(u"ab\r\nc\r\n\r\nd"_s);
     QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 0, 1, 1, 1, 2, 2, 3, 3}));
 }
 
-void TestTextBox::everyLineEndIsMadeTheSame_data()
+void tst_TextBox::everyLineEndIsMadeTheSame_data()
 {
     QTest::addColumn<QString>("tekst");
-    QTest::newRow("both") << u"a\r\nb\r\n"_s;
-    QTest::newRow("line feed") << u"a\nb\n"_s;
-    QTest::newRow("carriage return") << u"a\rb\r"_s;
+    Geval("both", u"a\r\nb\r\n"_s);
+    Geval("line feed", u"a\nb\n"_s);
+    Geval("carriage return", u"a\rb\r"_s);
 }
 
-void TestTextBox::everyLineEndIsMadeTheSame()
+void tst_TextBox::everyLineEndIsMadeTheSame()
 {
     QFETCH(QString, tekst);
     OmschrijvingBox box;
@@ -155,7 +155,7 @@ void TestTextBox::everyLineEndIsMadeTheSame()
     QCOMPARE(box.LineCount(), 3);
 }
 
-void TestTextBox::anIndexOutsideTheTextIsTheNearestOne()
+void tst_TextBox::anIndexOutsideTheTextIsTheNearestOne()
 {
     OmschrijvingBox box;
     box.SetText(u"a\r\nb"_s);
@@ -166,7 +166,7 @@ void TestTextBox::anIndexOutsideTheTextIsTheNearestOne()
     QCOMPARE(OmschrijvingBox().LineFromChar(3), 0);
 }
 
-void TestTextBox::aTextWrapsBetweenWordsAtTheWidth()
+void tst_TextBox::aTextWrapsBetweenWordsAtTheWidth()
 {
     OmschrijvingBox box;
     box.SetText(LangeTekst());
@@ -186,7 +186,7 @@ void TestTextBox::aTextWrapsBetweenWordsAtTheWidth()
     }
 }
 
-void TestTextBox::aLongWordIsBroken()
+void tst_TextBox::aLongWordIsBroken()
 {
     OmschrijvingBox box;
     const QString woord(60, u'w');
@@ -203,7 +203,7 @@ void TestTextBox::aLongWordIsBroken()
     }
 }
 
-void TestTextBox::wrappedAndEndedLinesCountOn()
+void tst_TextBox::wrappedAndEndedLinesCountOn()
 {
     OmschrijvingBox box;
     box.SetText(LangeTekst());
@@ -216,7 +216,7 @@ void TestTextBox::wrappedAndEndedLinesCountOn()
     QCOMPARE(box.LineFromChar(3 + LangeTekst().size() + 2), regels + 1);
 }
 
-void TestTextBox::theWidthDecidesWhereTheTextWraps()
+void tst_TextBox::theWidthDecidesWhereTheTextWraps()
 {
     OmschrijvingBox box;
     box.SetText(LangeTekst());
@@ -229,7 +229,7 @@ void TestTextBox::theWidthDecidesWhereTheTextWraps()
     QCOMPARE(box.LineCount(), smal);
 }
 
-void TestTextBox::theFontDecidesWhereTheTextWraps()
+void tst_TextBox::theFontDecidesWhereTheTextWraps()
 {
     OmschrijvingBox box, kleineBox;
     box.SetText(LangeTekst());
@@ -242,17 +242,17 @@ void TestTextBox::theFontDecidesWhereTheTextWraps()
     QCOMPARE(RegelPerTeken(box), RegelPerTeken(kleineBox));
 }
 
-void TestTextBox::typedTextIsLikeSetText_data()
+void tst_TextBox::typedTextIsLikeSetText_data()
 {
     QTest::addColumn<QString>("tekst");
-    QTest::newRow("wrapped") << LangeTekst();
-    QTest::newRow("ended") << u"aap\r\n\r\nnoot\r\n"_s;
-    QTest::newRow("both") << LangeTekst() + u"\r\n"_s + LangeTekst();
-    QTest::newRow("long word") << QString(40, u'm');
-    QTest::newRow("many blanks") << u"aap                                        noot"_s;
+    Geval("wrapped", LangeTekst());
+    Geval("ended", u"aap\r\n\r\nnoot\r\n"_s);
+    Geval("both", LangeTekst() + u"\r\n"_s + LangeTekst());
+    Geval("long word", QString(40, u'm'));
+    Geval("many blanks", u"aap                                        noot"_s);
 }
 
-void TestTextBox::typedTextIsLikeSetText()
+void tst_TextBox::typedTextIsLikeSetText()
 {
     QFETCH(QString, tekst);
     OmschrijvingBox gezet, getypt;
@@ -269,7 +269,7 @@ void TestTextBox::typedTextIsLikeSetText()
     QVERIFY(gezet.LineCount() > 1);
 }
 
-void TestTextBox::aLineEndWithinAParagraphIsALineEnd()
+void tst_TextBox::aLineEndWithinAParagraphIsALineEnd()
 {
     OmschrijvingBox box;
     QTest::keyClick(&box, 'a');
@@ -283,7 +283,7 @@ void TestTextBox::aLineEndWithinAParagraphIsALineEnd()
     QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1, 1, 1, 2, 2}));
 }
 
-void TestTextBox::aBoxThatIsShownWrapsLikeOneThatIsNot()
+void tst_TextBox::aBoxThatIsShownWrapsLikeOneThatIsNot()
 {
     QWidget venster;
     venster.resize(300, 200);
@@ -298,7 +298,7 @@ void TestTextBox::aBoxThatIsShownWrapsLikeOneThatIsNot()
     QCOMPARE(RegelPerTeken(eerder), RegelPerTeken(verborgen));
 }
 
-void TestTextBox::aLongTextIsToldToo()
+void tst_TextBox::aLongTextIsToldToo()
 {
     OmschrijvingBox box;
     QString tekst;
@@ -315,7 +315,7 @@ void TestTextBox::aLongTextIsToldToo()
         QVERIFY(regels[i] == regels[i - 1] || regels[i] == regels[i - 1] + 1);
 }
 
-void TestTextBox::everyParagraphIsWrapped()
+void tst_TextBox::everyParagraphIsWrapped()
 {
     OmschrijvingBox box;
     box.SetText(LangeTekst());
@@ -325,7 +325,7 @@ void TestTextBox::everyParagraphIsWrapped()
     QCOMPARE(box.LineCount(), 200 * regels + 1);
 }
 
-void TestTextBox::aChangedTextIsToldAnew()
+void tst_TextBox::aChangedTextIsToldAnew()
 {
     OmschrijvingBox box;
     box.SetText(LangeTekst());
@@ -339,14 +339,14 @@ void TestTextBox::aChangedTextIsToldAnew()
     QCOMPARE(box.Text(), QString());
 }
 
-void TestTextBox::theTextIsPlain()
+void tst_TextBox::theTextIsPlain()
 {
     OmschrijvingBox box;
     box.SetText(u"<b>a</b> & b"_s);
     QCOMPARE(box.Text(), u"<b>a</b> & b"_s);
 }
 
-void TestTextBox::pastedTextIsPlain()
+void tst_TextBox::pastedTextIsPlain()
 {
     auto *inhoud = new QMimeData;
     inhoud->setText(u"aap\nnoot"_s);
@@ -359,7 +359,7 @@ void TestTextBox::pastedTextIsPlain()
     QCOMPARE(box.toHtml(), gezet.toHtml());
 }
 
-void TestTextBox::theTabKeyDoesNotType()
+void tst_TextBox::theTabKeyDoesNotType()
 {
     QWidget venster;
     OmschrijvingBox eerste(&venster), tweede(&venster);
@@ -373,15 +373,15 @@ void TestTextBox::theTabKeyDoesNotType()
     QVERIFY(tweede.hasFocus());
 }
 
-void TestTextBox::whatStandsThereAlreadyIsNoChange_data()
+void tst_TextBox::whatStandsThereAlreadyIsNoChange_data()
 {
     QTest::addColumn<QString>("tekst");
-    QTest::newRow("one line") << u"aap"_s;
-    QTest::newRow("two lines") << u"aap\r\nnoot"_s;
-    QTest::newRow("line feed") << u"aap\nnoot"_s;
+    Geval("one line", u"aap"_s);
+    Geval("two lines", u"aap\r\nnoot"_s);
+    Geval("line feed", u"aap\nnoot"_s);
 }
 
-void TestTextBox::whatStandsThereAlreadyIsNoChange()
+void tst_TextBox::whatStandsThereAlreadyIsNoChange()
 {
     QFETCH(QString, tekst);
     OmschrijvingBox box;
@@ -394,7 +394,7 @@ void TestTextBox::whatStandsThereAlreadyIsNoChange()
 }
 
 // A long word takes a tenth of a second to lay out.
-void TestTextBox::readingTheLinesLaysNothingOutAgain()
+void tst_TextBox::readingTheLinesLaysNothingOutAgain()
 {
     OmschrijvingBox box;
     box.SetText(LangeTekst());
@@ -429,17 +429,17 @@ static void Sleep(TextBox &box, const QMimeData &inhoud, QPoint plaats)
     QApplication::sendEvent(box.viewport(), &los);
 }
 
-void TestTextBox::whereThereIsNoTextNothingIsInserted_data()
+void tst_TextBox::whereThereIsNoTextNothingIsInserted_data()
 {
     QTest::addColumn<int>("soort");
-    QTest::newRow("no format") << 0;
-    QTest::newRow("html only") << 1;
-    QTest::newRow("an image only") << 2;
-    QTest::newRow("a format of its own") << 3;
-    QTest::newRow("an empty text") << 4;
+    Geval("no format", 0);
+    Geval("html only", 1);
+    Geval("an image only", 2);
+    Geval("a format of its own", 3);
+    Geval("an empty text", 4);
 }
 
-void TestTextBox::whereThereIsNoTextNothingIsInserted()
+void tst_TextBox::whereThereIsNoTextNothingIsInserted()
 {
     QFETCH(int, soort);
     const auto maak = [soort] {
@@ -470,7 +470,7 @@ void TestTextBox::whereThereIsNoTextNothingIsInserted()
     QVERIFY(!box.document()->isUndoAvailable());
 }
 
-void TestTextBox::droppedTextIsInsertedWhereItFalls()
+void tst_TextBox::droppedTextIsInsertedWhereItFalls()
 {
     OmschrijvingBox box;
     box.SetText(u"noot"_s);
@@ -481,7 +481,7 @@ void TestTextBox::droppedTextIsInsertedWhereItFalls()
     QCOMPARE(box.Text(), u"aap\r\nmies noot"_s);
 }
 
-void TestTextBox::insertedTextTakesThePlaceOfTheSelection()
+void tst_TextBox::insertedTextTakesThePlaceOfTheSelection()
 {
     QGuiApplication::clipboard()->setText(u"aap\r\nmies"_s);
     OmschrijvingBox box;
@@ -496,7 +496,7 @@ void TestTextBox::insertedTextTakesThePlaceOfTheSelection()
     QCOMPARE(box.Text(), u"noot"_s);
 }
 
-void TestTextBox::theCaretBehindAnInsertedTextIsInSight()
+void tst_TextBox::theCaretBehindAnInsertedTextIsInSight()
 {
     OmschrijvingBox box;
     box.show();
@@ -505,43 +505,32 @@ void TestTextBox::theCaretBehindAnInsertedTextIsInSight()
     QVERIFY(box.viewport()->rect().contains(box.cursorRect().center()));
 }
 
-void TestTextBox::noMoreThanTheMostCharactersAreInserted_data()
+void tst_TextBox::noMoreThanTheMostCharactersAreInserted_data()
 {
     QTest::addColumn<QString>("voor");
     QTest::addColumn<bool>("gekozen"); // the whole text
     QTest::addColumn<QString>("geplakt");
     QTest::addColumn<QString>("na");
     const QString lach = u"\U0001F600"_s;
-    QTest::newRow("room for all") << "noot" << false << "aapmie"
-                                  << "nootaapmie";
-    QTest::newRow("too much") << "noot" << false << "aapmies"
-                              << "nootaapmie";
-    QTest::newRow("far too much") << "noot" << false << QString(1000, u'x') << "nootxxxxxx";
-    QTest::newRow("no room") << "0123456789" << false << "aap"
-                             << "0123456789";
-    QTest::newRow("in place of the selection") << "0123456789" << true << "aap"
-                                               << "aap";
-    QTest::newRow("too much for the selection") << "0123456789" << true << "abcdefghijkl"
-                                                << "abcdefghij";
-    QTest::newRow("a pair that fits") << "01234567" << false << lach << "01234567" + lach;
-    QTest::newRow("a pair that does not fit") << "012345678" << false << lach + "x"
-                                              << "012345678";
-    QTest::newRow("a line end that fits") << "01234567" << false << "\nx"
-                                          << "01234567\r\n";
-    QTest::newRow("a line end that does not fit") << "012345678" << false << "\nx"
-                                                  << "012345678";
-    QTest::newRow("both characters of a line end") << "012345678" << false << "\r\nx"
-                                                   << "012345678";
-    QTest::newRow("line ends count as two") << "a\r\n\r\nb" << false << "cdefg"
-                                            << "a\r\n\r\nbcdef";
-    QTest::newRow("line ends in the selection") << "a\r\n\r\n67890" << true << "abcdefghijkl"
-                                                << "abcdefghij";
-    QTest::newRow("many line ends") << "" << false << QString(100, u'\n') << u"\r\n"_s.repeated(5);
-    QTest::newRow("what Qt takes for a line end") << "0123" << false << u"\ufdd0\ufdd1abc"_s << "0123\r\n\r\nab";
-    QTest::newRow("separators are line ends") << "0123" << false << u"\u2028\u2029\rxy"_s << "0123\r\n\r\n\r\n";
+    Geval("room for all", "noot", false, "aapmie", "nootaapmie");
+    Geval("too much", "noot", false, "aapmies", "nootaapmie");
+    Geval("far too much", "noot", false, QString(1000, u'x'), "nootxxxxxx");
+    Geval("no room", "0123456789", false, "aap", "0123456789");
+    Geval("in place of the selection", "0123456789", true, "aap", "aap");
+    Geval("too much for the selection", "0123456789", true, "abcdefghijkl", "abcdefghij");
+    Geval("a pair that fits", "01234567", false, lach, "01234567" + lach);
+    Geval("a pair that does not fit", "012345678", false, lach + "x", "012345678");
+    Geval("a line end that fits", "01234567", false, "\nx", "01234567\r\n");
+    Geval("a line end that does not fit", "012345678", false, "\nx", "012345678");
+    Geval("both characters of a line end", "012345678", false, "\r\nx", "012345678");
+    Geval("line ends count as two", "a\r\n\r\nb", false, "cdefg", "a\r\n\r\nbcdef");
+    Geval("line ends in the selection", "a\r\n\r\n67890", true, "abcdefghijkl", "abcdefghij");
+    Geval("many line ends", "", false, QString(100, u'\n'), u"\r\n"_s.repeated(5));
+    Geval("what Qt takes for a line end", "0123", false, u"\ufdd0\ufdd1abc"_s, "0123\r\n\r\nab");
+    Geval("separators are line ends", "0123", false, u"\u2028\u2029\rxy"_s, "0123\r\n\r\n\r\n");
 }
 
-void TestTextBox::noMoreThanTheMostCharactersAreInserted()
+void tst_TextBox::noMoreThanTheMostCharactersAreInserted()
 {
     QFETCH(QString, voor);
     QFETCH(bool, gekozen);
@@ -557,7 +546,7 @@ void TestTextBox::noMoreThanTheMostCharactersAreInserted()
     QTEST(box.Text(), "na");
 }
 
-void TestTextBox::aTextOfMegabytesIsCutOff()
+void tst_TextBox::aTextOfMegabytesIsCutOff()
 {
     OmschrijvingBox box;
     box.MaxLength = 1000;
@@ -573,7 +562,7 @@ void TestTextBox::aTextOfMegabytesIsCutOff()
     QCOMPARE(box.Text(), u"y\r\n"_s.repeated(333) + u'y');
 }
 
-void TestTextBox::noMoreThanTheMostCharactersAreSet()
+void tst_TextBox::noMoreThanTheMostCharactersAreSet()
 {
     OmschrijvingBox box;
     box.MaxLength = 6;
@@ -588,7 +577,7 @@ void TestTextBox::noMoreThanTheMostCharactersAreSet()
     QCOMPARE(box.Text(), u"abcde"_s);
 }
 
-void TestTextBox::noMoreThanTheMostCharactersAreTyped_data()
+void tst_TextBox::noMoreThanTheMostCharactersAreTyped_data()
 {
     QTest::addColumn<QString>("voor");
     QTest::addColumn<int>("toets");
@@ -597,29 +586,21 @@ void TestTextBox::noMoreThanTheMostCharactersAreTyped_data()
     QTest::addColumn<QString>("na");
     const QString lach = u"\U0001F600"_s;
     const int altGr = int(Qt::ControlModifier) | int(Qt::AltModifier), groepKeuze = int(Qt::GroupSwitchModifier);
-    QTest::newRow("the last letter") << "1234" << int(Qt::Key_X) << 0 << "x"
-                                     << "1234x";
-    QTest::newRow("a letter too many") << "12345" << int(Qt::Key_X) << 0 << "x"
-                                       << "12345";
-    QTest::newRow("a capital") << "12345" << int(Qt::Key_X) << int(Qt::ShiftModifier) << "X"
-                               << "12345";
-    QTest::newRow("a blank") << "12345" << int(Qt::Key_Space) << 0 << " "
-                             << "12345";
-    QTest::newRow("AltGr") << "12345" << int(Qt::Key_E) << altGr << u"é"_s << "12345";
-    QTest::newRow("AltGr elsewhere") << "12345" << int(Qt::Key_E) << groepKeuze << u"é"_s << "12345";
-    QTest::newRow("a line end that fits") << "123" << int(Qt::Key_Return) << 0 << "\r"
-                                          << "123\r\n";
-    QTest::newRow("a line end") << "1234" << int(Qt::Key_Return) << 0 << "\r"
-                                << "1234";
-    QTest::newRow("of the numbers") << "1234" << int(Qt::Key_Enter) << int(Qt::KeypadModifier) << "\r"
-                                    << "1234";
-    QTest::newRow("within a paragraph") << "1234" << int(Qt::Key_Return) << int(Qt::ShiftModifier) << "\r"
-                                        << "1234";
-    QTest::newRow("a pair that fits") << "123" << 0 << 0 << lach << "123" + lach;
-    QTest::newRow("a pair") << "1234" << 0 << 0 << lach << "1234";
+    Geval("the last letter", "1234", int(Qt::Key_X), 0, "x", "1234x");
+    Geval("a letter too many", "12345", int(Qt::Key_X), 0, "x", "12345");
+    Geval("a capital", "12345", int(Qt::Key_X), int(Qt::ShiftModifier), "X", "12345");
+    Geval("a blank", "12345", int(Qt::Key_Space), 0, " ", "12345");
+    Geval("AltGr", "12345", int(Qt::Key_E), altGr, u"é"_s, "12345");
+    Geval("AltGr elsewhere", "12345", int(Qt::Key_E), groepKeuze, u"é"_s, "12345");
+    Geval("a line end that fits", "123", int(Qt::Key_Return), 0, "\r", "123\r\n");
+    Geval("a line end", "1234", int(Qt::Key_Return), 0, "\r", "1234");
+    Geval("of the numbers", "1234", int(Qt::Key_Enter), int(Qt::KeypadModifier), "\r", "1234");
+    Geval("within a paragraph", "1234", int(Qt::Key_Return), int(Qt::ShiftModifier), "\r", "1234");
+    Geval("a pair that fits", "123", 0, 0, lach, "123" + lach);
+    Geval("a pair", "1234", 0, 0, lach, "1234");
 }
 
-void TestTextBox::noMoreThanTheMostCharactersAreTyped()
+void tst_TextBox::noMoreThanTheMostCharactersAreTyped()
 {
     QFETCH(QString, voor);
     QFETCH(int, toets);
@@ -635,7 +616,7 @@ void TestTextBox::noMoreThanTheMostCharactersAreTyped()
     QVERIFY(druk.isAccepted()); // the window behind it gets no key that was meant for the text
 }
 
-void TestTextBox::inAFullBoxOtherKeysWork()
+void tst_TextBox::inAFullBoxOtherKeysWork()
 {
     OmschrijvingBox box;
     box.MaxLength = 5;
@@ -656,7 +637,7 @@ void TestTextBox::inAFullBoxOtherKeysWork()
     QCOMPARE(box.Text(), QString());
 }
 
-void TestTextBox::aLineEndWithinAParagraphCountsAsTwo()
+void tst_TextBox::aLineEndWithinAParagraphCountsAsTwo()
 {
     OmschrijvingBox box;
     box.MaxLength = 5;
@@ -672,7 +653,7 @@ void TestTextBox::aLineEndWithinAParagraphCountsAsTwo()
     QCOMPARE(box.Text(), u"12345"_s);
 }
 
-void TestTextBox::inAFullBoxTheSelectionCanBeTypedOver()
+void tst_TextBox::inAFullBoxTheSelectionCanBeTypedOver()
 {
     OmschrijvingBox box;
     box.MaxLength = 5;
@@ -690,7 +671,7 @@ void TestTextBox::inAFullBoxTheSelectionCanBeTypedOver()
     QCOMPARE(box.Text(), u"ab\r\n5"_s);
 }
 
-void TestTextBox::anInputMethodGivesNoMoreThanTheMostCharacters()
+void tst_TextBox::anInputMethodGivesNoMoreThanTheMostCharacters()
 {
     OmschrijvingBox box;
     box.MaxLength = 5;
@@ -707,5 +688,5 @@ void TestTextBox::anInputMethodGivesNoMoreThanTheMostCharacters()
     QCOMPARE(box.Text(), u"123xy"_s);
 }
 
-RASTER_TEST(TestTextBox)
+RASTER_TEST(tst_TextBox)
 #include "tst_TextBox.moc"

@@ -3,7 +3,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestVelden : public QObject
+class tst_Velden : public QObject
 {
     Q_OBJECT
 
@@ -19,12 +19,12 @@ private slots:
     void whatIsWrittenIsReadBack();
 };
 
-void TestVelden::fieldsAreRead_data()
+void tst_Velden::fieldsAreRead_data()
 {
     QTest::addColumn<QByteArray>("inhoud");
     QTest::addColumn<QStringList>("velden");
     const auto rij = [](const char *naam, const char *inhoud, const QStringList &velden) {
-        QTest::newRow(naam) << QByteArray(inhoud) << velden;
+        Geval(naam, QByteArray(inhoud), velden);
     };
     rij("nothing", "", {});
     rij("plain", "aap", {"aap"});
@@ -55,7 +55,7 @@ void TestVelden::fieldsAreRead_data()
     rij("no end to the last line", "aap\r\nnoot", {"aap", "noot"});
 }
 
-void TestVelden::fieldsAreRead()
+void tst_Velden::fieldsAreRead()
 {
     QFETCH(QByteArray, inhoud);
     Files::VeldLezer lezer(inhoud);
@@ -65,7 +65,7 @@ void TestVelden::fieldsAreRead()
     QTEST(gelezen, "velden");
 }
 
-void TestVelden::textFieldsAreCodePage1252()
+void tst_Velden::textFieldsAreCodePage1252()
 {
     const QByteArray inhoud("\"\x80 5\"\r\ngeti\xEBnd");
     Files::VeldLezer lezer(inhoud);
@@ -73,7 +73,7 @@ void TestVelden::textFieldsAreCodePage1252()
     QCOMPARE(lezer.Tekst(), u"geti\u00EBnd"_s);
 }
 
-void TestVelden::numberFieldsAreRead()
+void tst_Velden::numberFieldsAreRead()
 {
     const QByteArray inhoud(" 255 ,-32768\r\n2147483647\r\n\"12\"\r\n2.5,7");
     Files::VeldLezer lezer(inhoud);
@@ -87,14 +87,14 @@ void TestVelden::numberFieldsAreRead()
     QVERIFY(lezer.Einde());
 }
 
-void TestVelden::aNumberFieldThatIsNoNumberFails_data()
+void tst_Velden::aNumberFieldThatIsNoNumberFails_data()
 {
     QTest::addColumn<QByteArray>("veld");
     QTest::addColumn<int>("alsByte");
     QTest::addColumn<int>("alsInt16");
     QTest::addColumn<int>("alsInt32");
     const auto rij = [](const char *veld, int alsByte, int alsInt16, int alsInt32) {
-        QTest::addRow("'%s'", veld) << QByteArray(veld) << alsByte << alsInt16 << alsInt32;
+        Geval('\'' + QByteArray(veld) + '\'', QByteArray(veld), alsByte, alsInt16, alsInt32);
     };
     rij("aap", Fout::TypeOnjuist, Fout::TypeOnjuist, Fout::TypeOnjuist);
     rij("\"\"", Fout::TypeOnjuist, Fout::TypeOnjuist, Fout::TypeOnjuist);
@@ -106,7 +106,7 @@ void TestVelden::aNumberFieldThatIsNoNumberFails_data()
     rij("", Fout::EindeBestand, Fout::EindeBestand, Fout::EindeBestand);
 }
 
-void TestVelden::aNumberFieldThatIsNoNumberFails()
+void tst_Velden::aNumberFieldThatIsNoNumberFails()
 {
     QFETCH(QByteArray, veld);
     QTEST(FoutVan([&] { Files::VeldLezer(veld).Byte(); }), "alsByte");
@@ -114,7 +114,7 @@ void TestVelden::aNumberFieldThatIsNoNumberFails()
     QTEST(FoutVan([&] { Files::VeldLezer(veld).Int32(); }), "alsInt32");
 }
 
-void TestVelden::behindTheLastFieldIsTheEndOfTheFile()
+void tst_Velden::behindTheLastFieldIsTheEndOfTheFile()
 {
     const QByteArray inhoud("aap\r\n");
     Files::VeldLezer lezer(inhoud);
@@ -124,7 +124,7 @@ void TestVelden::behindTheLastFieldIsTheEndOfTheFile()
     QCOMPARE(FoutVan([&] { lezer.Int16(); }), int{Fout::EindeBestand});
 }
 
-void TestVelden::linesAreWrittenByteForByte()
+void tst_Velden::linesAreWrittenByteForByte()
 {
     Files::VeldSchrijver schrijver;
     QCOMPARE(schrijver.Inhoud(), QByteArray());
@@ -135,7 +135,7 @@ void TestVelden::linesAreWrittenByteForByte()
     QCOMPARE(schrijver.Inhoud(), QByteArray("\"caf\xE9, \x80\"\r\n\"\"\r\n5\r\n0,-12,32767\r\n"));
 }
 
-void TestVelden::whatIsWrittenIsReadBack()
+void tst_Velden::whatIsWrittenIsReadBack()
 {
     const QStringList teksten{"aap", "", " aap, noot ", "regel\r\nregel", u"\u00AE"_s};
     Files::VeldSchrijver schrijver;
@@ -152,5 +152,5 @@ void TestVelden::whatIsWrittenIsReadBack()
     QVERIFY(lezer.Einde());
 }
 
-RASTER_TEST(TestVelden)
+RASTER_TEST(tst_Velden)
 #include "tst_Velden.moc"
