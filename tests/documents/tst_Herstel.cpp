@@ -196,9 +196,9 @@ private slots:
     void whoeverComesNextFinishesTheSave_data()
     {
         QTest::addColumn<int>("wie");
-        QTest::newRow("a start") << 0;
-        QTest::newRow("the list") << 1;
-        QTest::newRow("a save") << 2;
+        Geval("a start", 0);
+        Geval("the list", 1);
+        Geval("a save", 2);
     }
     void whoeverComesNextFinishesTheSave()
     {
@@ -299,8 +299,8 @@ private slots:
     void anyCallOfADeletionMayFail_data()
     {
         QTest::addColumn<bool>("sterft");
-        QTest::newRow("fails") << false;
-        QTest::newRow("dies") << true;
+        Geval("fails", false);
+        Geval("dies", true);
     }
     void anyCallOfADeletionMayFail()
     {

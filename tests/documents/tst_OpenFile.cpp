@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
 #include "support/Bord.h"
+#include "support/Venster.h"
 
 #include <QDir>
 
@@ -46,24 +47,26 @@ class tst_OpenFile : public QObject
     }
 
 private slots:
-    void controlsAndTheirPlaces_data()
-    {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QRect>("vlak"); // twips: left, top, width, height; a null size is not fixed
-        QTest::newRow("List1") << "List1" << QRect(180, 180, 2400, 2940);
-        QTest::newRow("Image1") << "Image1" << QRect(3300, 1800, 0, 0);
-        QTest::newRow("Label2") << "Label2" << QRect(2700, 180, 2100, 2100);
-        QTest::newRow("DelKnop") << "DelKnop" << QRect(180, 3390, 960, 360);
-        QTest::newRow("CancelKnop") << "CancelKnop" << QRect(2910, 3390, 0, 360);
-        QTest::newRow("OkKnop") << "OkKnop" << QRect(3915, 3390, 0, 360);
-    }
     void controlsAndTheirPlaces()
     {
-        QFETCH(QString, naam);
-        QFETCH(QRect, vlak);
         Bord bord;
         OpenFile form;
-        QVERIFY(StaatOp(form, naam, vlak));
+        QCOMPARE(Misplaatst(form, {{"List1", 180, 180, 2400, 2940},
+                                   {"Image1", 3300, 1800},
+                                   {"Label2", 2700, 180, 2100, 2100},
+                                   {"DelKnop", 180, 3390, 960, 360},
+                                   {"CancelKnop", 2910, 3390, 0, 360},
+                                   {"OkKnop", 3915, 3390, 0, 360}}),
+                 QString());
+    }
+
+    void theTabKeyGoesFromTheListOn()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        QCOMPARE(TabVolgorde(form), u"List1 DelKnop CancelKnop OkKnop"_s);
     }
 
     void asItOpens()
@@ -148,12 +151,12 @@ private slots:
     {
         QTest::addColumn<int>("soort");
         QTest::addColumn<QString>("opschrift");
-        QTest::newRow("1") << 1 << "Soortpuzzel : Zweeds";
-        QTest::newRow("2") << 2 << "Soortpuzzel : Woordzoeker";
-        QTest::newRow("3") << 3 << "Soortpuzzel : Kruiswoord";
-        QTest::newRow("4") << 4 << "Soortpuzzel : Sudoku";
-        QTest::newRow("5") << 5 << "Soortpuzzel : Filippine";
-        QTest::newRow("another") << 77 << "Soortpuzzel : Filippine"; // left alone
+        Geval("1", 1, "Soortpuzzel : Zweeds");
+        Geval("2", 2, "Soortpuzzel : Woordzoeker");
+        Geval("3", 3, "Soortpuzzel : Kruiswoord");
+        Geval("4", 4, "Soortpuzzel : Sudoku");
+        Geval("5", 5, "Soortpuzzel : Filippine");
+        Geval("another", 77, "Soortpuzzel : Filippine"); // left alone
     }
     void whatAKindShows()
     {
@@ -228,10 +231,10 @@ private slots:
     void bitmapsOfAllKinds_data()
     {
         QTest::addColumn<QByteArray>("bitmap");
-        QTest::newRow("missing") << QByteArray();
-        QTest::newRow("empty") << QByteArray("");
-        QTest::newRow("binary") << QByteArray(3000, '\xAB');
-        QTest::newRow("text") << QByteArray("BM geen bitmap");
+        Geval("missing", QByteArray());
+        Geval("empty", QByteArray(""));
+        Geval("binary", QByteArray(3000, '\xAB'));
+        Geval("text", QByteArray("BM geen bitmap"));
     }
     void bitmapsOfAllKinds()
     {
@@ -286,18 +289,18 @@ private slots:
         QTest::addColumn<int>("rijen"); // that stand
         const QByteArray kop = "b\r\n2\r\n10\r\n11\r\n-\r\n", rij = "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n-\r\n";
         const QSize maat(10, 11);
-        QTest::newRow("empty") << QByteArray() << QSize(16, 19) << 3 << 0;
-        QTest::newRow("binary") << QByteArray(3000, '\xFE') << QSize(16, 19) << 3 << 0;
-        QTest::newRow("width no number") << QByteArray("b\r\n2\r\nnegen\r\n9\r\n-\r\n") << QSize(16, 19) << 2 << 0;
-        QTest::newRow("cut behind the width") << QByteArray("b\r\n2\r\n10\r\n") << QSize(10, 19) << 2 << 0;
-        QTest::newRow("without the header's end") << kop.chopped(3) << maat << 2 << 0;
-        QTest::newRow("commas") << QByteArray("b,2,10,11,-,A-01 / 1-H,dier,aap,-,-,,,,,") << maat << 2 << 1;
-        QTest::newRow("cut in a row") << kop + rij + "B-02 / 11-V\r\n" << maat << 2 << 1;
-        QTest::newRow("cut before a separator") << kop + rij.chopped(3) << maat << 2 << 1;
-        QTest::newRow("comma in a clue") << kop + QByteArray(rij).replace("dier", "wild, dier") << maat << 2 << 1;
+        Geval("empty", QByteArray(), QSize(16, 19), 3, 0);
+        Geval("binary", QByteArray(3000, '\xFE'), QSize(16, 19), 3, 0);
+        Geval("width no number", QByteArray("b\r\n2\r\nnegen\r\n9\r\n-\r\n"), QSize(16, 19), 2, 0);
+        Geval("cut behind the width", QByteArray("b\r\n2\r\n10\r\n"), QSize(10, 19), 2, 0);
+        Geval("without the header's end", kop.chopped(3), maat, 2, 0);
+        Geval("commas", QByteArray("b,2,10,11,-,A-01 / 1-H,dier,aap,-,-,,,,,"), maat, 2, 1);
+        Geval("cut in a row", kop + rij + "B-02 / 11-V\r\n", maat, 2, 1);
+        Geval("cut before a separator", kop + rij.chopped(3), maat, 2, 1);
+        Geval("comma in a clue", kop + QByteArray(rij).replace("dier", "wild, dier"), maat, 2, 1);
         // Every record is whole, but there is a byte too much.
         const QByteArray leeg(GrootsteLijst / 5 * 5 - 1000, ','), begin = kop + rij + leeg;
-        QTest::newRow("too large") << QByteArray(GrootsteLijst - begin.size(), 'x') + begin + ',' << maat << 2 << 1;
+        Geval("too large", QByteArray(GrootsteLijst - begin.size(), 'x') + begin + ',', maat, 2, 1);
     }
     void damagedListsOpenQuietly()
     {
@@ -347,9 +350,9 @@ private slots:
     {
         QTest::addColumn<QByteArray>("breedte");
         QTest::addColumn<int>("fout");
-        QTest::newRow("negative") << QByteArray("-1") << int(Fout::OngeldigeWaarde);
-        QTest::newRow("hundred thousand") << QByteArray("100000") << int(Fout::GeheugenVol);
-        QTest::newRow("largest") << QByteArray("2147483647") << int(Fout::GeheugenVol);
+        Geval("negative", QByteArray("-1"), int(Fout::OngeldigeWaarde));
+        Geval("hundred thousand", QByteArray("100000"), int(Fout::GeheugenVol));
+        Geval("largest", QByteArray("2147483647"), int(Fout::GeheugenVol));
     }
     void sizesThatNoBoardCanHaveKeepThePuzzle()
     {

@@ -54,29 +54,26 @@ private slots:
         const QByteArray aap = "A-01 / 1-H\r\ndier\r\naap\r\n-" + einde,
                          mies = "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde;
         const char alleenAap[] = "A-01 / 1-H|dier|aap|-", alleenMies[] = "B-01 / 2-H|noot|mies|-";
-        QTest::newRow("header only") << Kop << "" << true;
-        QTest::newRow("empty clue keeps its place")
-            << Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + mies << "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-" << true;
-        QTest::newRow("blank first field is skipped")
-            << Kop + "   \r\nx\r\ny\r\nz" + einde + mies << alleenMies << true;
-        QTest::newRow("empty first field is skipped") << Kop + "\r\nx\r\ny\r\nz" + einde + mies << alleenMies << true;
+        Geval("header only", Kop, "", true);
+        Geval("empty clue keeps its place", Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + mies,
+              "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-", true);
+        Geval("blank first field is skipped", Kop + "   \r\nx\r\ny\r\nz" + einde + mies, alleenMies, true);
+        Geval("empty first field is skipped", Kop + "\r\nx\r\ny\r\nz" + einde + mies, alleenMies, true);
         // A comma in the clue moves every later field up one; the record's separator begins the next record, and in the
         // end the fields run out within one.
-        QTest::newRow("comma shifts") << Kop + "A-01 / 1-H\r\nrood, wit\r\nvlag\r\n-" + einde + mies
-                                      << QString::fromLatin1("A-01 / 1-H|rood|wit|vlag/" + Streep +
-                                                             "|B-01 / 2-H|noot|mies")
-                                      << false;
-        QTest::newRow("five commas fill a record")
-            << Kop + "A-01 / 1-H\r\na,b,c,d,e,f\r\nvlag\r\n-" + einde << "A-01 / 1-H|a|b|c/e|f|vlag|-" << true;
-        QTest::newRow("quoted clue with a comma")
-            << Kop + "A-01 / 1-H\r\n\"rood, wit\"\r\nvlag\r\n-" + einde << "A-01 / 1-H|rood, wit|vlag|-" << true;
-        QTest::newRow("leading blanks") << Kop + "A-01 / 1-H\r\n   dier\r\naap\r\n-" + einde << alleenAap << true;
-        QTest::newRow("cut in a row") << Kop + aap + "B-01 / 2-H\r\nno" << alleenAap << false;
-        QTest::newRow("without the last separator") << Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n" << alleenAap << false;
-        QTest::newRow("a blank line at the end") << Kop + aap + "\r\n" << alleenAap << false;
-        QTest::newRow("line feeds only") << QByteArray(Kop + aap).replace("\r\n", "\n") << alleenAap << true;
-        QTest::newRow("records of commas") << Kop + QByteArray(1000, ',') << "" << true;
-        QTest::newRow("commas that end within a record") << Kop + QByteArray(1001, ',') << "" << false;
+        Geval("comma shifts", Kop + "A-01 / 1-H\r\nrood, wit\r\nvlag\r\n-" + einde + mies,
+              QString::fromLatin1("A-01 / 1-H|rood|wit|vlag/" + Streep + "|B-01 / 2-H|noot|mies"), false);
+        Geval("five commas fill a record", Kop + "A-01 / 1-H\r\na,b,c,d,e,f\r\nvlag\r\n-" + einde,
+              "A-01 / 1-H|a|b|c/e|f|vlag|-", true);
+        Geval("quoted clue with a comma", Kop + "A-01 / 1-H\r\n\"rood, wit\"\r\nvlag\r\n-" + einde,
+              "A-01 / 1-H|rood, wit|vlag|-", true);
+        Geval("leading blanks", Kop + "A-01 / 1-H\r\n   dier\r\naap\r\n-" + einde, alleenAap, true);
+        Geval("cut in a row", Kop + aap + "B-01 / 2-H\r\nno", alleenAap, false);
+        Geval("without the last separator", Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n", alleenAap, false);
+        Geval("a blank line at the end", Kop + aap + "\r\n", alleenAap, false);
+        Geval("line feeds only", QByteArray(Kop + aap).replace("\r\n", "\n"), alleenAap, true);
+        Geval("records of commas", Kop + QByteArray(1000, ','), "", true);
+        Geval("commas that end within a record", Kop + QByteArray(1001, ','), "", false);
     }
     void reading()
     {
@@ -91,15 +88,15 @@ private slots:
     {
         QTest::addColumn<QByteArray>("inhoud");
         QTest::addColumn<int>("gelezen"); // how many of kind, width and height
-        QTest::newRow("empty") << QByteArray() << 0;
-        QTest::newRow("banner only") << QByteArray("banner\r\n") << 0;
-        QTest::newRow("kind no number") << QByteArray("banner\r\neen\r\n9\r\n9\r\n-\r\n") << 0;
-        QTest::newRow("kind too large") << QByteArray("banner\r\n256\r\n9\r\n9\r\n-\r\n") << 0;
-        QTest::newRow("width no number") << QByteArray("banner\r\n1\r\nnegen\r\n9\r\n-\r\n") << 1;
-        QTest::newRow("height missing") << QByteArray("banner\r\n1\r\n9\r\n") << 2;
-        QTest::newRow("height too large") << QByteArray("banner\r\n1\r\n9\r\n99999999999\r\n-\r\n") << 2;
-        QTest::newRow("separator missing") << QByteArray("banner\r\n1\r\n9\r\n9\r\n") << 3;
-        QTest::newRow("zero bytes") << QByteArray(5000, '\0') << 0;
+        Geval("empty", QByteArray(), 0);
+        Geval("banner only", QByteArray("banner\r\n"), 0);
+        Geval("kind no number", QByteArray("banner\r\neen\r\n9\r\n9\r\n-\r\n"), 0);
+        Geval("kind too large", QByteArray("banner\r\n256\r\n9\r\n9\r\n-\r\n"), 0);
+        Geval("width no number", QByteArray("banner\r\n1\r\nnegen\r\n9\r\n-\r\n"), 1);
+        Geval("height missing", QByteArray("banner\r\n1\r\n9\r\n"), 2);
+        Geval("height too large", QByteArray("banner\r\n1\r\n9\r\n99999999999\r\n-\r\n"), 2);
+        Geval("separator missing", QByteArray("banner\r\n1\r\n9\r\n9\r\n"), 3);
+        Geval("zero bytes", QByteArray(5000, '\0'), 0);
     }
     void aDamagedHeaderKeepsWhatWasReadSoFar()
     {

@@ -3,6 +3,7 @@
 #include "platform/PictureFiles.h"
 #include "support/Bord.h"
 #include "support/Onbevoegd.h"
+#include "support/Venster.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -60,23 +61,23 @@ class tst_SaveForm : public QObject
     }
 
 private slots:
-    void controlsAndTheirPlaces_data()
-    {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QRect>("vlak"); // twips: left, top, width, height
-        QTest::newRow("Text1") << "Text1" << QRect(120, 150, 4470, 330);
-        QTest::newRow("Bar") << "Bar" << QRect(120, 150, 4500, 330);
-        QTest::newRow("Label1") << "Label1" << QRect(150, 540, 0, 0);
-        QTest::newRow("CancelKnop") << "CancelKnop" << QRect(2700, 600, 960, 330);
-        QTest::newRow("SaveKnop") << "SaveKnop" << QRect(3720, 600, 840, 330);
-    }
     void controlsAndTheirPlaces()
     {
-        QFETCH(QString, naam);
-        QFETCH(QRect, vlak);
         Bord bord;
         SaveForm form;
-        QVERIFY(StaatOp(form, naam, vlak));
+        QCOMPARE(Misplaatst(form, {{"Text1", 120, 150, 4470, 330},
+                                   {"Bar", 120, 150, 4500, 330},
+                                   {"Label1", 150, 540},
+                                   {"CancelKnop", 2700, 600, 960, 330},
+                                   {"SaveKnop", 3720, 600, 840, 330}}),
+                 QString());
+    }
+
+    void theTabKeyGoesFromTheNameOn()
+    {
+        Bord bord;
+        SaveForm form;
+        QCOMPARE(TabVolgorde(form), u"Text1 CancelKnop SaveKnop"_s);
     }
 
     void asItOpens()
@@ -125,8 +126,8 @@ private slots:
     void anEmptyNameIsRefused_data()
     {
         QTest::addColumn<QString>("naam");
-        QTest::newRow("empty") << "";
-        QTest::newRow("blanks") << "    ";
+        Geval("empty", "");
+        Geval("blanks", "    ");
     }
     void anEmptyNameIsRefused()
     {
@@ -242,16 +243,16 @@ private slots:
     void namesThatTheFileSystemRefuses_data()
     {
         QTest::addColumn<QString>("naam");
-        QTest::newRow("slash") << "a/b";
-        QTest::newRow("up") << "../../weg";
-        QTest::newRow("backslash") << "..\\weg";
-        QTest::newRow("quotes") << "\"naam\"";
-        QTest::newRow("colon") << "c:weg";
-        QTest::newRow("control") << QString(u'\x07') + u'a';
-        QTest::newRow("star") << "a*";
-        QTest::newRow("too long") << QString(400, u'x');
-        QTest::newRow("zero") << QString(QChar(0)) + u'a';
-        QTest::newRow("half a pair") << u"a"_s + QChar(0xD800);
+        Geval("slash", "a/b");
+        Geval("up", "../../weg");
+        Geval("backslash", "..\\weg");
+        Geval("quotes", "\"naam\"");
+        Geval("colon", "c:weg");
+        Geval("control", QString(u'\x07') + u'a');
+        Geval("star", "a*");
+        Geval("too long", QString(400, u'x'));
+        Geval("zero", QString(QChar(0)) + u'a');
+        Geval("half a pair", u"a"_s + QChar(0xD800));
     }
     void namesThatTheFileSystemRefuses()
     {

@@ -1,5 +1,6 @@
 #include "editors/Verwacht.h"
 #include "platform/Plaatjes.h"
+#include "support/Venster.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,39 +8,43 @@ class tst_TekstForm : public QObject
 {
     Q_OBJECT
 private slots:
-    void controlsAndTheirPlaces_data()
-    {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QByteArray>("soort");
-        QTest::addColumn<QRect>("vlak"); // twips: left, top, width, height; a null size is not fixed
-        const auto rij = [](const char *naam, const char *soort, QRect vlak) {
-            QTest::newRow(naam) << naam << QByteArray(soort) << vlak;
-        };
-        rij("Text1", "QLineEdit", QRect(150, 180, 3900, 360));
-        rij("Label1", "Label", QRect(4080, 240, 0, 0));
-        rij("Text2", "QLineEdit", QRect(150, 570, 3900, 360));
-        rij("Label2", "Label", QRect(4080, 630, 0, 0));
-        rij("CopyKnop", "ImageButton", QRect(5250, 570, 0, 0));
-        rij("Option1", "QRadioButton", QRect(390, 1200, 2700, 360));
-        rij("Option2", "QRadioButton", QRect(390, 1500, 2700, 360));
-        rij("Option3", "QRadioButton", QRect(390, 1800, 3300, 360));
-        rij("Option4", "QRadioButton", QRect(390, 2100, 3300, 360));
-        rij("Image1", "ImageBox", QRect(3300, 1320, 480, 480));
-        rij("Check1", "QCheckBox", QRect(4350, 1440, 2100, 315));
-        rij("Combo1", "QComboBox", QRect(270, 2640, 810, 315));
-        rij("Label3", "Label", QRect(1150, 2700, 0, 0));
-        rij("CancelKnop", "ImageButton", QRect(4290, 2670, 0, 360));
-        rij("OkKnop", "ImageButton", QRect(5295, 2670, 0, 360));
-    }
     void controlsAndTheirPlaces()
     {
-        QFETCH(QString, naam);
-        QFETCH(QByteArray, soort);
-        QFETCH(QRect, vlak);
         Bord bord;
         TekstForm form;
-        QVERIFY(StaatOp(form, naam, vlak));
-        QVERIFY(Vind<QWidget>(form, naam)->inherits(soort));
+        QCOMPARE(Misplaatst(form, {{"Text1", 150, 180, 3900, 360},
+                                   {"Label1", 4080, 240},
+                                   {"Text2", 150, 570, 3900, 360},
+                                   {"Label2", 4080, 630},
+                                   {"CopyKnop", 5250, 570},
+                                   {"Option1", 390, 1200, 2700, 360},
+                                   {"Option2", 390, 1500, 2700, 360},
+                                   {"Option3", 390, 1800, 3300, 360},
+                                   {"Option4", 390, 2100, 3300, 360},
+                                   {"Image1", 3300, 1320, 480, 480},
+                                   {"Check1", 4350, 1440, 2100, 315},
+                                   {"Combo1", 270, 2640, 810, 315},
+                                   {"Label3", 1150, 2700},
+                                   {"CancelKnop", 4290, 2670, 0, 360},
+                                   {"OkKnop", 5295, 2670, 0, 360}}),
+                 QString());
+    }
+
+    void theTabKeyGoesToWhatIsEnabled_data()
+    {
+        QTest::addColumn<int>("soort");
+        QTest::addColumn<QString>("volgorde");
+        Geval("Zweeds", 1, "Text1 Text2 CopyKnop Option1 CancelKnop OkKnop");
+        Geval("Woordzoeker", 2, "Text2 CopyKnop Option1 Check1 CancelKnop OkKnop");
+        Geval("Kruiswoord", 3, "Text1 Text2 CopyKnop Option1 Combo1 CancelKnop OkKnop");
+    }
+    void theTabKeyGoesToWhatIsEnabled()
+    {
+        QFETCH(int, soort);
+        Bord bord;
+        PuzzelType = static_cast<quint8>(soort);
+        TekstForm form;
+        QTEST(TabVolgorde(form), "volgorde");
     }
 
     void asItOpens()
@@ -87,9 +92,9 @@ private slots:
         QTest::addColumn<bool>("omschrijving");
         QTest::addColumn<bool>("diagonaal");
         QTest::addColumn<bool>("nummer");
-        QTest::newRow("Zweeds") << 1 << true << false << false;
-        QTest::newRow("Woordzoeker") << 2 << false << true << false;
-        QTest::newRow("Kruiswoord") << 3 << true << false << true;
+        Geval("Zweeds", 1, true, false, false);
+        Geval("Woordzoeker", 2, false, true, false);
+        Geval("Kruiswoord", 3, true, false, true);
     }
     void whatIsEnabledByKind()
     {
@@ -129,14 +134,11 @@ private slots:
     {
         QTest::addColumn<QString>("woord");
         QTest::addColumn<QString>("teller");
-        const auto rij = [](const char *naam, const QString &woord, const QString &teller) {
-            QTest::newRow(naam) << woord << teller;
-        };
-        rij("lijst", u"lijst"_s, u"Oplossing (4)"_s);
-        rij("two of them", u"ijsjeij"_s, u"Oplossing (5)"_s);
-        rij("capitals are two", u"LIJST"_s, u"Oplossing (5)"_s);
-        rij("blanks count", u"a b"_s, u"Oplossing (3)"_s);
-        rij("nothing", QString(), u"Oplossing (0)"_s);
+        Geval("lijst", u"lijst"_s, u"Oplossing (4)"_s);
+        Geval("two of them", u"ijsjeij"_s, u"Oplossing (5)"_s);
+        Geval("capitals are two", u"LIJST"_s, u"Oplossing (5)"_s);
+        Geval("blanks count", u"a b"_s, u"Oplossing (3)"_s);
+        Geval("nothing", QString(), u"Oplossing (0)"_s);
     }
     void theCounterCountsCells()
     {
@@ -168,22 +170,18 @@ private slots:
         QTest::addColumn<QString>("oplossing");
         QTest::addColumn<QString>("nummer");
         QTest::addColumn<QString>("melding");
-        const auto rij = [](const char *naam, int soort, const QString &omschrijving, const QString &oplossing,
-                            const QString &nummer, const QString &melding) {
-            QTest::newRow(naam) << soort << omschrijving << oplossing << nummer << melding;
-        };
         const QString dier = u"dier"_s, aap = u"aap"_s, niets;
         const QString beide = u"Omschrijving en/of Oplossing intypen..."_s;
         const QString geenNummer = u"Vaknummer selecteren (1..99)"_s;
-        rij("Zweeds, no clue", 1, niets, aap, u"1"_s, beide);
-        rij("Zweeds, no solution", 1, dier, niets, u"1"_s, beide);
-        rij("Zweeds, neither", 1, niets, niets, u"1"_s, beide);
-        rij("Kruiswoord, no clue", 3, niets, aap, u"1"_s, beide);
-        rij("Kruiswoord, no solution", 3, dier, niets, u"1"_s, beide);
-        rij("Kruiswoord, nothing at all", 3, niets, niets, u"0"_s, beide);
-        rij("Woordzoeker, no solution", 2, niets, niets, u"0"_s, u"Oplossing intypen..."_s);
-        rij("Kruiswoord, number 0", 3, dier, aap, u"0"_s, geenNummer);
-        rij("Kruiswoord, number 0.5", 3, dier, aap, u"0.5"_s, geenNummer);
+        Geval("Zweeds, no clue", 1, niets, aap, u"1"_s, beide);
+        Geval("Zweeds, no solution", 1, dier, niets, u"1"_s, beide);
+        Geval("Zweeds, neither", 1, niets, niets, u"1"_s, beide);
+        Geval("Kruiswoord, no clue", 3, niets, aap, u"1"_s, beide);
+        Geval("Kruiswoord, no solution", 3, dier, niets, u"1"_s, beide);
+        Geval("Kruiswoord, nothing at all", 3, niets, niets, u"0"_s, beide);
+        Geval("Woordzoeker, no solution", 2, niets, niets, u"0"_s, u"Oplossing intypen..."_s);
+        Geval("Kruiswoord, number 0", 3, dier, aap, u"0"_s, geenNummer);
+        Geval("Kruiswoord, number 0.5", 3, dier, aap, u"0.5"_s, geenNummer);
     }
     void whatIsMissingIsSaid()
     {
@@ -194,7 +192,7 @@ private slots:
         QFETCH(QString, melding);
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
-        const EditorStand ervoor(bord);
+        const Stand ervoor = EditorStand(bord);
         TekstForm form;
         form.Text1->setText(omschrijving);
         form.Text2->setText(oplossing);
@@ -206,7 +204,7 @@ private slots:
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
         QVERIFY(!form.Unloaded());
-        QVERIFY(EditorStand(bord) == ervoor);
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QCOMPARE(form.Text2->text(), oplossing);
     }
 
@@ -214,9 +212,9 @@ private slots:
     {
         QTest::addColumn<QString>("nummer");
         QTest::addColumn<int>("fout");
-        QTest::newRow("a word") << u"een"_s << int(Fout::TypeOnjuist);
-        QTest::newRow("nothing") << QString() << int(Fout::TypeOnjuist);
-        QTest::newRow("too large") << u"99999999999"_s << int(Fout::Overloop);
+        Geval("a word", u"een"_s, int(Fout::TypeOnjuist));
+        Geval("nothing", QString(), int(Fout::TypeOnjuist));
+        Geval("too large", u"99999999999"_s, int(Fout::Overloop));
     }
     void aNumberThatIsNoneFails()
     {
@@ -224,13 +222,13 @@ private slots:
         QFETCH(int, fout);
         Bord bord;
         PuzzelType = Kruiswoord;
-        const EditorStand ervoor(bord);
+        const Stand ervoor = EditorStand(bord);
         TekstForm form;
         form.Text1->setText(u"dier"_s);
         form.Text2->setText(u"aap"_s);
         form.Combo1->setEditText(nummer);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), fout);
-        QVERIFY(EditorStand(bord) == ervoor);
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QVERIFY(!form.Unloaded());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
@@ -239,13 +237,13 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
-        const EditorStand ervoor(bord);
+        const Stand ervoor = EditorStand(bord);
         TekstForm form;
         form.Text1->setText(u"dier"_s);
         form.Text2->setText(u"aap"_s);
         Klik(bord, *form.CancelKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
-        QVERIFY(EditorStand(bord) == ervoor);
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
@@ -253,10 +251,10 @@ private slots:
     {
         QTest::addColumn<QString>("plaatje");
         QTest::addColumn<QPoint>("richting");
-        QTest::newRow("H") << u"richting-h"_s << QPoint(1, 0);
-        QTest::newRow("V") << u"richting-v"_s << QPoint(0, 1);
-        QTest::newRow("R") << u"richting-r"_s << QPoint(1, 1);
-        QTest::newRow("L") << u"richting-l"_s << QPoint(-1, 1);
+        Geval("H", u"richting-h"_s, QPoint(1, 0));
+        Geval("V", u"richting-v"_s, QPoint(0, 1));
+        Geval("R", u"richting-r"_s, QPoint(1, 1));
+        Geval("L", u"richting-l"_s, QPoint(-1, 1));
     }
     void thePictureOfADirection()
     {

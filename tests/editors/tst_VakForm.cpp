@@ -1,6 +1,7 @@
 #include "editors/VakForm.h"
 #include "editors/Verwacht.h"
 #include "platform/Plaatjes.h"
+#include "support/Venster.h"
 
 #include <QClipboard>
 
@@ -24,37 +25,32 @@ class tst_VakForm : public QObject
 {
     Q_OBJECT
 private slots:
-    void controlsAndTheirPlaces_data()
-    {
-        QTest::addColumn<QString>("naam");
-        QTest::addColumn<QByteArray>("soort");
-        QTest::addColumn<QRect>("vlak"); // twips: left, top, width, height; a null size is not fixed
-        const auto rij = [](const char *naam, const char *soort, QRect vlak) {
-            QTest::newRow(naam) << naam << QByteArray(soort) << vlak;
-        };
-        rij("Pic", "PictureBox", QRect(240, 240, 1845, 1845));
-        rij("Label3", "Label", QRect(45, 45, 1755, 1755));
-        rij("ImgR", "PictureBox", QRect(2085, 960, 345, 345));
-        rij("ImgO", "PictureBox", QRect(960, 2085, 345, 345));
-        rij("Text1", "TextBox", QRect(2700, 240, 1845, 1845));
-        rij("Label1", "Label", QRect(2730, 2100, 0, 0));
-        rij("Label2", "Label", QRect(2280, 1500, 0, 0));
-        rij("Label5", "Label", QRect(4770, 270, 1800, 1800));
-        rij("Label6", "Label", QRect(240, 2490, 1860, 330));
-        rij("HScroll1", "QScrollBar", QRect(270, 2520, 1800, 270));
-        rij("Label7", "Label", QRect(2160, 2535, 0, 0));
-        rij("CancelKnop", "ImageButton", QRect(4590, 2430, 0, 360));
-        rij("OkKnop", "ImageButton", QRect(5595, 2430, 0, 360));
-    }
     void controlsAndTheirPlaces()
     {
-        QFETCH(QString, naam);
-        QFETCH(QByteArray, soort);
-        QFETCH(QRect, vlak);
         Bord bord;
         VakForm form;
-        QVERIFY(StaatOp(form, naam, vlak));
-        QVERIFY(Vind<QWidget>(form, naam)->inherits(soort));
+        QCOMPARE(Misplaatst(form, {{"Pic", 240, 240, 1845, 1845},
+                                   {"ImgR", 2085, 960, 345, 345},
+                                   {"ImgO", 960, 2085, 345, 345},
+                                   {"Text1", 2700, 240, 1845, 1845},
+                                   {"Label1", 2730, 2100},
+                                   {"Label2", 2280, 1500},
+                                   {"Label5", 4770, 270, 1800, 1800},
+                                   {"Label6", 240, 2490, 1860, 330},
+                                   {"HScroll1", 270, 2520, 1800, 270},
+                                   {"Label7", 2160, 2535},
+                                   {"CancelKnop", 4590, 2430, 0, 360},
+                                   {"OkKnop", 5595, 2430, 0, 360},
+                                   {"TextLabel"}}),
+                 QString());
+        QCOMPARE(Misplaatst(*form.Pic, {{"Label3", 45, 45, 1755, 1755}}), QString());
+    }
+
+    void theTabKeyGoesFromTheClueOn()
+    {
+        Bord bord;
+        VakForm form;
+        QCOMPARE(TabVolgorde(form), u"Text1 HScroll1 CancelKnop OkKnop"_s);
     }
 
     void asItOpens()
@@ -118,17 +114,17 @@ private slots:
         QTest::addColumn<int>("omlaag");         // ImgO.Left
         QTest::addColumn<int>("tekeningOmlaag");
         QTest::addColumn<bool>("gesplitst");
-        QTest::newRow("1") << 960 << 0 << 0 << 0 << false;
-        QTest::newRow("2") << 0 << 0 << 960 << 1 << false;
-        QTest::newRow("3") << 450 << 2 << 0 << 0 << false;
-        QTest::newRow("4") << 0 << 0 << 450 << 3 << false;
-        QTest::newRow("5") << 570 << 0 << 960 << 1 << true;
-        QTest::newRow("6") << 450 << 2 << 960 << 1 << true;
-        QTest::newRow("7") << 570 << 0 << 450 << 3 << true;
-        QTest::newRow("8") << 450 << 2 << 450 << 3 << true;
-        QTest::newRow("0") << 0 << 0 << 0 << 0 << false; // no kinds: no arrow
-        QTest::newRow("9") << 0 << 0 << 0 << 0 << false;
-        QTest::newRow("-1") << 0 << 0 << 0 << 0 << false;
+        Geval("1", 960, 0, 0, 0, false);
+        Geval("2", 0, 0, 960, 1, false);
+        Geval("3", 450, 2, 0, 0, false);
+        Geval("4", 0, 0, 450, 3, false);
+        Geval("5", 570, 0, 960, 1, true);
+        Geval("6", 450, 2, 960, 1, true);
+        Geval("7", 570, 0, 450, 3, true);
+        Geval("8", 450, 2, 450, 3, true);
+        Geval("0", 0, 0, 0, 0, false); // no kinds: no arrow
+        Geval("9", 0, 0, 0, 0, false);
+        Geval("-1", 0, 0, 0, 0, false);
     }
     void thePreviewOfEachKind()
     {
@@ -177,6 +173,7 @@ private slots:
     {
         Bord bord;
         VakForm form;
+        const QRect tekst = form.Text1->geometry(), voorbeeld = form.Label3->geometry();
         form.HScroll1->setValue(5);
         form.Text1->SetText(u"getypt\r\nen nog wat"_s);
         QCOMPARE(form.Label3->Caption(), u"getypt\nen nog wat"_s);
@@ -185,8 +182,8 @@ private slots:
         QVERIFY(form.Text1->Text().isEmpty());
         QVERIFY(form.Label3->Caption().isEmpty());
         QCOMPARE(form.Label1->Caption(), u"Regel 1"_s);
-        QVERIFY(StaatOp(form, u"Text1"_s, QRect(2700, 240, 1845, 1845)));
-        QVERIFY(StaatOp(form, u"Label3"_s, QRect(45, 45, 1755, 1755)));
+        QCOMPARE(form.Text1->geometry(), tekst);
+        QCOMPARE(form.Label3->geometry(), voorbeeld);
         QCOMPARE(Verschil(form.Pic->Image(), Plaatjes::Beeld(u"vak"_s)), QString()); // the divider is gone
     }
 
@@ -202,14 +199,11 @@ private slots:
     {
         QTest::addColumn<QString>("tekst");
         QTest::addColumn<QString>("regel");
-        const auto rij = [](const char *naam, const QString &tekst, const QString &regel) {
-            QTest::newRow(naam) << tekst << regel;
-        };
-        rij("one", u"Spin"_s, u"Regel 1"_s); // shown as it is typed
-        rij("two", u"een\r\ntwee"_s, u"Regel 2"_s);
-        rij("break at the end", u"een\r\n"_s, u"Regel 2"_s);
-        rij("soft wrap", u"hoeveelheid medicijn"_s, u"Regel 2"_s);
-        rij("nothing limits it", u"\r\n"_s.repeated(199), u"Regel 200"_s);
+        Geval("one", u"Spin"_s, u"Regel 1"_s); // shown as it is typed
+        Geval("two", u"een\r\ntwee"_s, u"Regel 2"_s);
+        Geval("break at the end", u"een\r\n"_s, u"Regel 2"_s);
+        Geval("soft wrap", u"hoeveelheid medicijn"_s, u"Regel 2"_s);
+        Geval("nothing limits it", u"\r\n"_s.repeated(199), u"Regel 200"_s);
     }
     void typingShowsTextAndLineCount()
     {
@@ -229,13 +223,13 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
-        const EditorStand ervoor(bord);
+        const Stand ervoor = EditorStand(bord);
         VakForm form;
         form.HScroll1->setValue(5);
         form.Text1->SetText(u"tekst"_s);
         Klik(bord, *form.CancelKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
-        QVERIFY(EditorStand(bord) == ervoor);
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"PijlSoort"_s);
         QCOMPARE(PijlSoort, quint8(5)); // it keeps its last value
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
@@ -246,10 +240,10 @@ private slots:
         QTest::addColumn<QList<QPoint>>("weg"); // where its shaft runs, up to the tip of its head
         QTest::addColumn<QRect>("kop");
         const QRect rechts(13, 4, 10, 15), omlaag(4, 13, 15, 10);
-        QTest::newRow("right") << 0 << QList{QPoint(0, 11), QPoint(21, 11)} << rechts;
-        QTest::newRow("down") << 1 << QList{QPoint(11, 0), QPoint(11, 21)} << omlaag;
-        QTest::newRow("right then down") << 2 << QList{QPoint(0, 2), QPoint(11, 2), QPoint(11, 21)} << omlaag;
-        QTest::newRow("down then right") << 3 << QList{QPoint(2, 0), QPoint(2, 11), QPoint(21, 11)} << rechts;
+        Geval("right", 0, QList{QPoint(0, 11), QPoint(21, 11)}, rechts);
+        Geval("down", 1, QList{QPoint(11, 0), QPoint(11, 21)}, omlaag);
+        Geval("right then down", 2, QList{QPoint(0, 2), QPoint(11, 2), QPoint(11, 21)}, omlaag);
+        Geval("down then right", 3, QList{QPoint(2, 0), QPoint(2, 11), QPoint(21, 11)}, rechts);
     }
     void theArrowDrawings()
     {

@@ -15,7 +15,7 @@ inline QVariantList Inhoud(const QWidget &control)
     if (const auto *label = qobject_cast<const Label *>(&control))
         return {label->Caption()};
     if (const auto *pic = qobject_cast<const PictureBox *>(&control))
-        return {pic->Image(), int(pic->ScaleMode())};
+        return {pic->Image(), int(pic->ScaleMode()), pic->FontName, pic->FontSize, pic->FontBold, pic->ForeColor};
     if (const auto *beeld = qobject_cast<const ImageBox *>(&control))
         return {beeld->Picture()};
     if (const auto *combo = qobject_cast<const QComboBox *>(&control))

@@ -79,16 +79,6 @@ template <class Control> Control *Vind(const QObject &venster, const QString &na
     return nullptr;
 }
 
-/// Whether a control of a window is where it belongs: left, top, width, height in twips; a size of 0 is not looked at.
-inline bool StaatOp(const QObject &venster, const QString &naam, QRect twips)
-{
-    const QRect vlak = Vind<QWidget>(venster, naam)->geometry();
-    const auto klopt = [](int pixels, int waarde) { return pixels == Twips::NaarPixels(waarde); };
-    return klopt(vlak.x(), twips.x()) && klopt(vlak.y(), twips.y()) &&
-           (twips.width() == 0 || klopt(vlak.width(), twips.width())) &&
-           (twips.height() == 0 || klopt(vlak.height(), twips.height()));
-}
-
 /// Runs a statement and gives the number of the failure that it raised; 0 when it raised none.
 template <class Opdracht> int FoutVan(Opdracht &&opdracht)
 {
