@@ -1,5 +1,6 @@
 #include "platform/Berichten.h"
 
+#include "platform/BeginVan.h"
 #include "platform/Uiterlijk.h"
 
 #include <QApplication>
@@ -57,7 +58,7 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
     constexpr int MostCharacters = 1024;
-    return Berichten::Huidig().Vraag(tekst.left(MostCharacters), knoppen, icoon,
+    return Berichten::Huidig().Vraag(BeginVan(tekst, MostCharacters), knoppen, icoon,
                                      titel.isEmpty() ? u"Rasteratelier"_s : titel);
 }
 

@@ -64,9 +64,11 @@ private slots:
     {
         MsgBox(QString(1024, u'a') + u"b"_s);
         MsgBox(QString(1024, u'c'));
-        QCOMPARE(bank_->Script.Gezien.size(), 2);
+        MsgBox(QString(1023, u'd') + u"\U0001F600"_s); // no half of a pair
+        QCOMPARE(bank_->Script.Gezien.size(), 3);
         QCOMPARE(bank_->Script.Gezien[0].Tekst, QString(1024, u'a'));
         QCOMPARE(bank_->Script.Gezien[1].Tekst, QString(1024, u'c'));
+        QCOMPARE(bank_->Script.Gezien[2].Tekst, QString(1023, u'd'));
     }
 
     void aMessageHasTheProgramsTitle()
