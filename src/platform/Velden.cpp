@@ -35,7 +35,7 @@ VeldLezer::Veld VeldLezer::LeesVeld()
     if (Einde())
         throw Fout(Fout::EindeBestand);
     const auto slaBlanksOver = [this] {
-        while (!Einde() && (rest_.front() == ' ' || rest_.front() == '\t'))
+        while (rest_.startsWith(' '))
             Neem(1);
     };
     const auto neemTot = [this](auto &&isEinde) {

@@ -36,12 +36,13 @@ void tst_Velden::fieldsAreRead_data()
     rij("quoted, comma inside", "\"aap, noot\",mies", {"aap, noot", "mies"});
     rij("quoted, line end inside", "\"aap\r\nnoot\"\r\nmies", {"aap\r\nnoot", "mies"});
     rij("quoted, blanks inside", "\"  aap  \"", {"  aap  "});
-    rij("quoted, blanks around", "  \"aap\" \t , \"noot\"  \r\nmies", {"aap", "noot", "mies"});
+    rij("quoted, blanks around", "  \"aap\"   , \"noot\"  \r\nmies", {"aap", "noot", "mies"});
+    rij("a tab is no blank", "\taap, \t noot \t,\t\"mies\"", {"\taap", "\t noot \t", "\t\"mies\""});
     rij("no closing quote", "\"aap,\r\nnoot", {"aap,\r\nnoot"});
     rij("only an opening quote", "\"", {""});
     rij("a quote further on", "a\"b\",c", {"a\"b\"", "c"});
     rij("text behind the closing quote", "\"aap\"noot,mies", {"aap", "noot", "mies"});
-    rij("leading blanks", "  \t aap,\t noot", {"aap", "noot"});
+    rij("leading blanks", "    aap,  noot", {"aap", "noot"});
     rij("blank line", "aap\r\n\r\nnoot\r\n", {"aap", "", "noot"});
     rij("line of blanks", "aap\r\n   \r\nnoot", {"aap", "", "noot"});
     rij("only a line end", "\r\n", {""});
