@@ -20,6 +20,7 @@ TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     document()->setDocumentMargin(2);
+    document()->clearUndoRedoStacks(); // the margin is not the user's to undo
     connect(this, &QTextEdit::textChanged, this, [this] { lineOfChar_.clear(); });
 }
 

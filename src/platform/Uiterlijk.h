@@ -2,8 +2,8 @@
 
 class QWidget;
 
-/// The style, the palette and the font that every window has: Fusion, light, Arial 8.25. To be called once, before the
-/// first window.
+/// The style, the palette and the font that every window has: Fusion, light, Arial 8.25. In Dutch what Qt has in the
+/// menus of its boxes. To be called once, before the first window.
 void StelUiterlijkIn();
 
 /// Gives a window the frame of a dialog: a title and a close button, nothing to minimise or maximise it.

@@ -1,5 +1,6 @@
 #include "platform/LineBox.h"
 #include "support/Testbank.h"
+#include "support/Venster.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -61,6 +62,21 @@ private slots:
         const std::unique_ptr<QMenu> menu(box.createStandardContextMenu());
         QVERIFY(menu);
         QCOMPARE(box.text(), u"dier"_s);
+    }
+
+    void theMenuOffersWhatCanBeDone()
+    {
+        LineBox box(nullptr);
+        box.show();
+        QGuiApplication::clipboard()->setText(u"dier"_s);
+        QCOMPARE(RechtsKlik(box, u"Plakken"_s),
+                 u"(Ongedaan maken)|(Opnieuw)|(Knippen)|(Kopiëren)|Plakken|(Verwijderen)|(Alles selecteren)"_s);
+        QCOMPARE(box.text(), u"dier"_s);
+        RechtsKlik(box, u"Alles selecteren"_s);
+        QCOMPARE(RechtsKlik(box, u"Knippen"_s),
+                 u"Ongedaan maken|(Opnieuw)|Knippen|Kopiëren|Plakken|Verwijderen|(Alles selecteren)"_s);
+        QCOMPARE(box.text(), QString());
+        QCOMPARE(QGuiApplication::clipboard()->text(), u"dier"_s);
     }
 
     void aTextOfMegabytesIsCutOff_data()

@@ -3,7 +3,6 @@
 #include "platform/Berichten.h"
 #include "platform/Fout.h"
 #include "platform/Klok.h"
-#include "platform/Twips.h"
 
 #include <QColor>
 #include <QImage>

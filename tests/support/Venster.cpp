@@ -1,8 +1,11 @@
 #include "support/Venster.h"
 
+#include "platform/Twips.h"
 #include "support/Testbank.h"
 
 #include <QApplication>
+#include <QContextMenuEvent>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -58,4 +61,26 @@ QString TabVolgorde(QWidget &venster)
     if (MetFocus() != namen.first())
         namen += u"en terug naar "_s + MetFocus();
     return namen.join(u' ');
+}
+
+QString RechtsKlik(QWidget &control, const QString &keuze)
+{
+    const QPoint midden = control.rect().center();
+    QWidget *kind = control.childAt(midden); // what lies on top gets the click
+    QContextMenuEvent klik(QContextMenuEvent::Mouse, midden, control.mapToGlobal(midden));
+    QApplication::sendEvent(kind ? kind : &control, &klik);
+    auto *menu = qobject_cast<QMenu *>(QApplication::activePopupWidget());
+    if (!menu)
+        return u"geen menu"_s;
+    QStringList items;
+    for (QAction *item : menu->actions()) {
+        if (item->isSeparator())
+            continue;
+        const QString naam = item->text().section(u'\t', 0, 0).remove(u'&');
+        items += item->isEnabled() ? naam : u'(' + naam + u')';
+        if (naam == keuze)
+            item->trigger();
+    }
+    menu->close();
+    return items.join(u'|');
 }

@@ -20,3 +20,7 @@ QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel);
 /// @return the names of the controls that take the focus, in their order, from the one that has it when the window
 /// opens
 QString TabVolgorde(QWidget &venster);
+
+/// Opens the menu of a control as a right click does, and chooses an item if one is given.
+/// @return its items with "|" between them, those that cannot be chosen between brackets
+QString RechtsKlik(QWidget &control, const QString &keuze = {});
