@@ -1,5 +1,6 @@
 """The main window, as far as it can be seen."""
 from checks import until_equal
+from desktop import until
 
 CELL = 30
 FRAME = CELL * CELL - 26 * 26  # pixels of an outline two thick
@@ -39,7 +40,9 @@ class MainWindow:
         self.list = self.window.find("tree", "Lijst van geplaatste woorden")
 
     def status(self):
-        return self.window.find("frame", "Statusbalk").names()
+        """The cell under the pointer, and the clock."""
+        bar = self.window.find("frame", "Statusbalk")
+        return until("both texts of the status bar", lambda: len(found := bar.names()) == 2 and found)
 
     def count(self):
         return self.window.find("frame", "Lijst").names()[-1]
