@@ -77,9 +77,7 @@ void MainForm::DelKnop_Click()
         return;
     {
         const QSignalBlocker stil(ListView1);
-        delete ListView1->takeTopLevelItem(index);
-        if (QTreeWidgetItem *buur = ListView1->topLevelItem(std::min(index, ListView1->topLevelItemCount() - 1)))
-            ListView1->setCurrentItem(buur);
+        delete ListView1->takeTopLevelItem(index); // its neighbour is selected then
     }
     ToonAantal();
     Line1->hide();
@@ -93,7 +91,7 @@ void MainForm::VoegRijenToe(const QList<Rij> &rijen)
     for (const Rij &rij : rijen)
         items.append(new QTreeWidgetItem({rij.Vaknummer, rij.Omschrijving, rij.Oplossing, rij.Nr}));
     ListView1->addTopLevelItems(items);
-    if (!GekozenItem(*ListView1) && ListView1->topLevelItemCount() > 0)
+    if (!GekozenItem(*ListView1))
         ListView1->setCurrentItem(ListView1->topLevelItem(0));
 }
 

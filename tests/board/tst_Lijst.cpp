@@ -50,11 +50,25 @@ private slots:
         QVERIFY(bord.Venster.Line1->isHidden()); // adding shows no line
         QList<Rij> rijen;
         for (int i = 0; i < 12; ++i)
-            rijen += {QString::number(12 - i), {}, {}, {}};
+            rijen += {QString::number(12 - i), u"vraag"_s, u"antwoord"_s, QString::number(i)};
         bord.Venster.VoegRijenToe(rijen);
         bord.Venster.ToonAantal();
         QCOMPARE(bord.Venster.Rijen().sliced(2), rijen);
         QCOMPARE(bord.Venster.Label11->Caption(), u"14 Items"_s);
+    }
+
+    void theFirstRowIsSelectedAsLongAsNoOtherIs()
+    {
+        Bord bord;
+        const QTreeWidget &lijst = *bord.Venster.ListView1;
+        const auto gekozen = [&lijst] { return lijst.indexOfTopLevelItem(lijst.selectedItems().value(0)); };
+        bord.Venster.VoegRijenToe({});
+        QCOMPARE(gekozen(), -1);
+        bord.Venster.VoegRijenToe({{u"-"_s, {}, u"een"_s, {}}, {u"-"_s, {}, u"twee"_s, {}}});
+        QCOMPARE(gekozen(), 0);
+        Kies(bord, 1);
+        bord.Venster.VoegRijenToe({{u"-"_s, {}, u"drie"_s, {}}});
+        QCOMPARE(gekozen(), 1);
     }
 
     void theLineRunsFromFirstToLastCell_data()
@@ -257,6 +271,7 @@ private slots:
         QCOMPARE(bord.Venster.ListView1->selectedItems().size(), 1);
         bord.Venster.VoegRijenToe({{u"-"_s, {}, u"mies"_s, {}}});
         bord.Venster.WisRijen();
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 0);
         QCOMPARE(klik.size(), 0);
     }
 
@@ -313,6 +328,24 @@ private slots:
             bord.Venster.DelKnop_Click();
             QVERIFY(bord.Bank.Script.Gezien.takeLast().Tekst.contains(woord));
         }
+    }
+
+    void aDeletedRowLeavesItsNeighbourSelected()
+    {
+        Bord bord;
+        bord.Venster.VoegRijenToe({{u"-"_s, {}, u"een"_s, {}},
+                                   {u"-"_s, {}, u"twee"_s, {}},
+                                   {u"-"_s, {}, u"drie"_s, {}},
+                                   {u"-"_s, {}, u"vier"_s, {}}});
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja, Antwoord::Ja};
+        const auto volgende = [&bord] {
+            bord.Venster.DelKnop_Click();
+            return bord.Venster.ListView1->selectedItems().value(0)->text(2);
+        };
+        Kies(bord, 1);
+        QCOMPARE(volgende(), u"drie"_s); // the one behind it
+        Kies(bord, 2);
+        QCOMPARE(volgende(), u"drie"_s); // behind the last there is none
     }
 
     void aTextOfMegabytesIsShownByItsBeginning()

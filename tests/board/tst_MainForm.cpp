@@ -52,11 +52,12 @@ private slots:
                                            {"ScrolLengte", 165, 1080, 1740, 270},
                                            {"OkKnop", 135, 1500},
                                            {"Label17", 780, 1560},
-                                           {"Image1", 450, 2100},
+                                           {"Image1", 450, 2100, 1080, 1080},
                                            {"Label9", 120, 3240}}),
                  QString());
-        QCOMPARE(Misplaatst(*main.Frame6, {{"Combo1", 120, 240, 1200}, {"Label7", 1410, 285}, {"Label8", 4560, 285}}),
-                 QString());
+        QCOMPARE(
+            Misplaatst(*main.Frame6, {{"Combo1", 120, 240, 1200, 315}, {"Label7", 1410, 285}, {"Label8", 4560, 285}}),
+            QString());
         QCOMPARE(Misplaatst(*main.Frame3, {{"List3", 2580, 240, 2100, 2910},
                                            {"Label4", 180, 240},
                                            {"Label5", 180, 690, 2190, 2100},
@@ -67,11 +68,18 @@ private slots:
                  QString());
     }
 
-    void frame8StartsAsWideAsTheStatusBar()
+    void beforeTheBoardIsDrawnItsPartsHaveAPlaceToo()
     {
         Testbank bank;
-        MainForm venster; // before the board is drawn
-        QCOMPARE(venster.Frame8->width(), 521);
+        MainForm venster;
+        const auto staatOp = [&venster](const char *naam, QRect twips) {
+            return StaatOp(venster, QLatin1String(naam), twips);
+        };
+        QVERIFY(staatOp("Frame8", QRect(180, 90, 7815, 540))); // as wide as the status bar
+        QVERIFY(staatOp("Label1", QRect(180, 780, 7410, 8760)));
+        QVERIFY(staatOp("Pic", QRect(270, 870, 7215, 8565)));
+        QVERIFY(staatOp("PicR", QRect(7605, 780, 450, 8760)));
+        QVERIFY(staatOp("PicO", QRect(180, 9555, 7410, 300)));
     }
 
     void theCopyTextLiesOnItsPlate()

@@ -63,16 +63,16 @@ private slots:
     {
         Bord bord;
         NieuwForm form;
-        QCOMPARE(Misplaatst(form, {{"Combo1", 180, 180, 990},
+        QCOMPARE(Misplaatst(form, {{"Combo1", 180, 180, 990, 315},
                                    {"Label1", 1260, 240},
-                                   {"Combo2", 180, 600, 990},
+                                   {"Combo2", 180, 600, 990, 315},
                                    {"Label2", 1260, 660},
                                    {"Option1", 540, 1110, 2700, 360},
                                    {"Option2", 540, 1395, 2700, 360},
                                    {"Option3", 540, 1680, 2700, 360},
                                    {"Option4", 540, 1965, 2700, 360},
                                    {"Option5", 540, 2250, 2700, 360},
-                                   {"Image1", 4260, 690},
+                                   {"Image1", 4260, 690, 1800, 1800},
                                    {"Text1", 180, 2760, 2400, 360},
                                    {"Label3", 2640, 2835},
                                    {"CancelKnop", 4080, 2760},

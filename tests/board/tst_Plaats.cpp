@@ -45,6 +45,7 @@ private slots:
         QCOMPARE(plaats.Richting, u'?');
         QCOMPARE(LeesPlaats(u"B-x9"_s).Rij, -1);
         QCOMPARE(LeesPlaats(u"B-7x"_s).Rij, 6);
+        QCOMPARE(LeesPlaats(u"B-123"_s).Rij, 11); // two characters, whatever comes behind
     }
 
     void aDirectionIsKnownByItsLetter()

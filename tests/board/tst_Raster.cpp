@@ -123,6 +123,14 @@ private slots:
         QCOMPARE(main.PicO->pos(), QPoint(12, hoogte * 30 + 14 + 53));
     }
 
+    void everyBoardIsCounted()
+    {
+        Bord bord;
+        const int eerst = BordNummer();
+        TekenBord(16, 19); // as large as the one before
+        QCOMPARE(BordNummer(), eerst + 1);
+    }
+
     void theTileIsWhiteInAThinFrame()
     {
         Bord bord;

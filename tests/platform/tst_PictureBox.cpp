@@ -1,6 +1,7 @@
 #include "support/PixelBox.h"
 
 #include <QMouseEvent>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <vector>
@@ -235,13 +236,49 @@ private slots:
     {
         PictureBox box(nullptr);
         box.BackColor = Blauw;
-        box.resize(60000, 60000); // no picture can be as large
+        box.resize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX); // no picture can be as large
         const QImage getoond = [&box] {
             QImage beeld(20, 20, QImage::Format_RGB32);
             box.render(&beeld, QPoint(), QRegion(0, 0, 20, 20));
             return beeld;
         }();
         QCOMPARE(InktVlak(getoond, getoond.rect(), Blauw), QRect());
+    }
+
+    void onlyAScaleThatIsNoWholeNumberMakesItSmooth_data()
+    {
+        QTest::addColumn<QString>("schaal");
+        QTest::addColumn<bool>("glad");
+        Geval("1", "1", false);
+        Geval("1.25", "1.25", true);
+        Geval("1.5", "1.5", true);
+        Geval("2", "2", false);
+    }
+    void onlyAScaleThatIsNoWholeNumberMakesItSmooth()
+    {
+        QFETCH(QString, schaal);
+        QFETCH(bool, glad);
+        if (!qEnvironmentVariableIsSet("QT_SCALE_FACTOR")) { // a program has one scale: this one is run again
+            QProcess zelf;
+            QProcessEnvironment omgeving = QProcessEnvironment::systemEnvironment();
+            omgeving.insert(u"QT_SCALE_FACTOR"_s, schaal);
+            zelf.setProcessEnvironment(omgeving);
+            zelf.start(QCoreApplication::applicationFilePath(),
+                       {QLatin1String(QTest::currentTestFunction()) + u':' + schaal});
+            QVERIFY(zelf.waitForFinished());
+            QVERIFY2(zelf.exitStatus() == QProcess::NormalExit && zelf.exitCode() == 0,
+                     zelf.readAllStandardOutput().constData());
+            return;
+        }
+        PixelBox box(20, 20);
+        box.BoxFull(3, 0, 3, 19, Zwart);
+        box.BoxFull(8, 0, 8, 19, Zwart);
+        const QImage getoond = Getoond(box);
+        QCOMPARE(getoond.width(), qRound(20 * schaal.toDouble()));
+        bool heeftTussenkleur = false;
+        for (int x = 0; x < getoond.width(); ++x)
+            heeftTussenkleur |= getoond.pixel(x, 5) != Zwart && getoond.pixel(x, 5) != Wit;
+        QCOMPARE(heeftTussenkleur, glad);
     }
 
     void aBoxWithoutASideTakesDrawing_data()
