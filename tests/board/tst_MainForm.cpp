@@ -213,6 +213,7 @@ private slots:
         QCOMPARE(bord.Venster.palette().color(QPalette::Window), QColor(230, 230, 190));
         QCOMPARE(bord.Venster.Pic->parentWidget()->size(), QSize((18600 - 90) / 15, (11340 - 450 - 300) / 15));
         QCOMPARE(bord.Venster.Label2->font().pixelSize(), 40); // size 30
+        QVERIFY(!bord.Venster.Label2->font().bold());
         QCOMPARE(bord.Venster.windowType(), Qt::Window);       // it can be minimised, as no dialog can
         QVERIFY(!bord.Venster.windowIcon().isNull());
         QVERIFY(&Main() == &bord.Venster);
@@ -326,6 +327,7 @@ private slots:
     {
         Bord bord;
         const Label &klok = *bord.Venster.KlokLabel;
+        QCOMPARE(bord.Venster.Timer1->objectName(), u"Timer1"_s);
         QCOMPARE(bord.Venster.Timer1->interval(), 1000);
         QVERIFY(bord.Venster.Timer1->isActive() && !bord.Venster.Timer1->isSingleShot());
         bord.Venster.Timer1->setInterval(3600000);

@@ -52,7 +52,7 @@ private slots:
         Bord bord;
         OpenFile form;
         QCOMPARE(Misplaatst(form, {{"List1", 180, 180, 2400, 2940},
-                                   {"Image1", 3300, 1800},
+                                   {"Image1", 3300, 1800, 1440, 1440},
                                    {"Label2", 2700, 180, 2100, 2100},
                                    {"DelKnop", 180, 3390, 960, 360},
                                    {"CancelKnop", 2910, 3390, 0, 360},
