@@ -149,9 +149,10 @@ void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)
 // Only the array is asked, not the pixels, and the puzzle doesn't count as changed.
 void MainForm::ZwartOmzetten()
 {
-    if (CurCell < 0 || CurCell >= static_cast<int>(VakZwart.size()))
+    const auto vak = static_cast<std::size_t>(CurCell);
+    if (vak >= VakZwart.size())
         throw Fout(Fout::IndexBuitenBereik, u"vakje %1"_s.arg(CurCell));
-    bool &isZwart = VakZwart[static_cast<std::size_t>(CurCell)];
+    bool &isZwart = VakZwart[vak];
     const int x = CurCol * VakMaat + 15;
     const int y = CurRow * VakMaat + 15;
     const int grootX = CurCol * VakMaatGroot + 45;
