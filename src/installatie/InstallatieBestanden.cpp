@@ -1,13 +1,14 @@
 #include "installatie/InstallatieBestanden.h"
 
+#include "platform/Alfabet.h"
 #include "platform/CodePage.h"
+#include "platform/Regels.h"
 #include "platform/Teksten.h"
 
 #include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
-#include <set>
 
 using namespace Qt::StringLiterals;
 
@@ -15,13 +16,21 @@ static QStringList Regels(const QByteArray &bron)
 {
     if (!bron.isValidUtf8())
         throw BronFout("not valid UTF-8");
-    return QString::fromUtf8(bron).replace("\r\n"_L1, "\n"_L1).split(u'\n', Qt::SkipEmptyParts);
+    QStringList regels;
+    VoorElkeRegel(bron, [&](QByteArrayView bytes) {
+        const QString regel = QString::fromUtf8(bytes); // without a byte order mark
+        if (!regel.isEmpty())
+            regels += regel;
+    });
+    return regels;
 }
 
 static QByteArray Regel(const QString &woord)
 {
     return Files::NaarBytes(woord) + "\r\n";
 }
+
+// --- the word database ---
 
 /// Small letters without their accents, and ligatures as the two letters that they join.
 static QString ZonderAccenten(const QString &woord)
@@ -30,8 +39,6 @@ static QString ZonderAccenten(const QString &woord)
     kaal.removeIf([](QChar teken) { return teken.isMark(); });
     return kaal.replace(u'\u0133', "ij"_L1).replace(u'\u00E6', "ae"_L1).replace(u'\u0153', "oe"_L1);
 }
-
-// --- the word database ---
 
 static bool HeeftHoofdletter(const QString &regel)
 {
@@ -72,18 +79,23 @@ static bool IsLijstwoord(const QString &regel)
 
 QByteArray MaakLijst(const QByteArray &bron)
 {
-    std::set<std::pair<QString, QString>> woorden; // by their plain letters, then as they are written
+    QStringList woorden;
+    QSet<QString> gehad;
     for (const QString &regel : Regels(bron)) {
         if (!IsLijstwoord(regel))
             throw BronFout("not a word of letters with single blanks or hyphens between them: " +
                            regel.left(60).toStdString());
-        if (!woorden.emplace(ZonderAccenten(KleineLetters(regel)), Hoofdletters(regel)).second)
+        const QString woord = Hoofdletters(regel);
+        if (gehad.contains(woord))
             throw BronFout("there twice: " + regel.left(60).toStdString());
+        gehad += woord;
+        woorden += woord;
     }
-    if (woorden.empty())
+    if (woorden.isEmpty())
         throw BronFout("no word in it");
+    SorteerAlfabetisch(woorden);
     QByteArray bestand;
-    for (const auto &[kaal, woord] : woorden)
+    for (const QString &woord : std::as_const(woorden))
         bestand += Regel(woord);
     return bestand;
 }

@@ -19,8 +19,7 @@ public:
 /// Raises BronFout unless there is a word for each first letter, on which the search rests.
 QByteArray MaakWoorden(const QByteArray &bron);
 
-/// A word list: the words of the source in upper case and in alphabetical order, a letter with an accent beside its
-/// plain letter.
+/// A word list: the words of the source in upper case, in the order of a list that is kept sorted.
 /// Raises BronFout without a word, for a word that is there twice, and for one that is anything but letters of the code
 /// page with single blanks or hyphens between them.
 QByteArray MaakLijst(const QByteArray &bron);

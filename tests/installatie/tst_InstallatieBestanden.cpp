@@ -67,7 +67,7 @@ private slots:
         vervalt("other letters", "stra\u00DFe\nsm\u00F8rg\n\u03BB\u03BC\n\u0434\u0430\n");
         vervalt("letters beyond the first plane", "\U0001D41A\U0001D41B\n\U0001F600\n");
         vervalt("zero byte", QByteArray("a\0b\n", 4));
-        vervalt("CR alone", "aap\rnoot\n");
+        blijft("source with CR", "aap\rnoot\r", "aap\r\nnoot\r\n");
         blijft("there twice", "aap\nnoot\naap\n", "aap\r\nnoot\r\n");
         blijft("the same without accents", "één\neen\nëen\n", "een\r\n");
         blijft("not the same in capitals", "Aap\naap\n", "aap\r\n");
@@ -131,8 +131,6 @@ private slots:
               u"ÇETTER\r\nDAS\r\nÉZEL\r\nEZELS\r\nFRET\r\nKAFÉA\r\nKAFEE\r\nZEE\r\n"_s);
         Geval("only an accent between them", QByteArray("één\nén\nen\neen\n"), u"EEN\r\nÉÉN\r\nEN\r\nÉN\r\n"_s);
         Geval("ij is two letters", QByteArray("ijs\nik\nigel\n"), u"IGEL\r\nIJS\r\nIK\r\n"_s);
-        Geval("ligatures among their letters", QByteArray("oever\nœuvre\noerang\naf\næd\nad\n"),
-              u"AD\r\nÆD\r\nAF\r\nOERANG\r\nŒUVRE\r\nOEVER\r\n"_s);
         Geval("blanks and hyphens before letters", QByteArray("witte\nwit-z\nwit z\nwit\n"),
               u"WIT\r\nWIT Z\r\nWIT-Z\r\nWITTE\r\n"_s);
         Geval("several parts", QByteArray("jeu de boules\njan-van-gent\n"), u"JAN-VAN-GENT\r\nJEU DE BOULES\r\n"_s);
@@ -150,7 +148,7 @@ private slots:
     {
         QTest::addColumn<QByteArray>("woord");
         for (const char *woord : {" aap", "aap ", "\taap", "a  p", "a -p", "-aap", "aap-", "a--p", " ", "-", "aap,noot",
-                                  "\"aap\"", "foto's", "a4", "aap.", "aap;", "aap\rnoot", "a\u00A0p", "cafe\u0301"})
+                                  "\"aap\"", "foto's", "a4", "aap.", "aap;", "a\u00A0p", "cafe\u0301"})
             Geval(QByteArray("\"") + woord + '"', QByteArray(woord));
         Geval("not in the code page", QByteArray("Łódź"));
         Geval("ligature that is not in the code page", QByteArray("\u0133s"));
