@@ -1,6 +1,9 @@
 #include "platform/Plaatjes.h"
 
+#include "platform/Tekening.h"
+
 #include <QFile>
+#include <QImageReader>
 #include <QPainter>
 #include <QSvgRenderer>
 #include <QWidget>
@@ -17,18 +20,11 @@ static QByteArray Tekening(const QString &naam)
     return open ? bestand.readAll() : QByteArray();
 }
 
-static void Teken(QPaintDevice &doel, QSvgRenderer &tekening, QSize maat)
-{
-    QPainter painter(&doel);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    tekening.render(&painter, QRectF(QPointF(0, 0), maat));
-}
-
 static QImage OpWit(QSvgRenderer &tekening, QSize maat)
 {
     QImage beeld(maat.isEmpty() ? tekening.defaultSize() : maat, QImage::Format_RGB32);
     beeld.fill(Qt::white);
-    Teken(beeld, tekening, beeld.size());
+    TekenSvg(beeld, tekening, beeld.size());
     return beeld;
 }
 
@@ -44,19 +40,27 @@ QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKle
     return OpWit(tekening, {});
 }
 
+/// The picture as it was drawn out in its own size.
+static QString Uitgetekend(const QString &naam)
+{
+    return u":/assets/"_s + naam + u".png"_s;
+}
+
 QPixmap Pixmap(const QString &naam, QSize maat, double ratio)
 {
+    if (ratio == 1 && maat == Maat(naam))
+        return QPixmap(Uitgetekend(naam));
     QSvgRenderer tekening(Tekening(naam));
     QPixmap pixmap(maat * ratio);
     pixmap.setDevicePixelRatio(ratio);
     pixmap.fill(Qt::transparent);
-    Teken(pixmap, tekening, maat);
+    TekenSvg(pixmap, tekening, maat);
     return pixmap;
 }
 
 QSize Maat(const QString &naam)
 {
-    return QSvgRenderer(Tekening(naam)).defaultSize();
+    return QImageReader(Uitgetekend(naam)).size();
 }
 
 } // namespace Plaatjes

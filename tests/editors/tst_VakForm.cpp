@@ -53,13 +53,6 @@ private slots:
         QCOMPARE(TabVolgorde(form), u"Text1 HScroll1 CancelKnop OkKnop"_s);
     }
 
-    void theTabKeyGoesFromTheClueOn()
-    {
-        Bord bord;
-        VakForm form;
-        QCOMPARE(TabVolgorde(form), u"Text1 HScroll1 CancelKnop OkKnop"_s);
-    }
-
     void asItOpens()
     {
         Bord bord;
