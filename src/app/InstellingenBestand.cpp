@@ -20,7 +20,7 @@ void LaadInstellingen()
         gelezen = LeesInstellingen(Files::Lees(pad));
     } catch (const Fout &fout) {
         if (fout.nummer() != Fout::BestandNietGevonden && fout.nummer() != Fout::GeenToegang)
-            throw Fout(fout.nummer(), u"het instellingenbestand "_s + pad);
+            throw Fout(static_cast<Fout::Nummer>(fout.nummer()), u"het instellingenbestand "_s + pad);
         negeer(BewaarInstellingen); // not there, or not to be opened
         return;
     }

@@ -14,6 +14,8 @@
 #include "editors/Filippine.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
+#include "generators/AutoForm.h"
+#include "generators/SudokuSpel.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Screen.h"
@@ -55,6 +57,7 @@ void VerbindOpdrachten()
     Koppel(main.BiebWoordzoeker, Toon<FormMain>);
     Koppel(main.BiebOntbrekendeLetters, Toon<MissingForm>);
     Koppel(main.ToolsAdd, Toon<AddForm>);
+    Koppel(main.ToolsAutoWoordzoeker, Toon<AutoForm>);
     Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
     Koppel(main.HelpHelp, OpenHelp);
     Koppel(main.HelpSpecialeTekens, ToonSpecialeTekens);
@@ -65,6 +68,8 @@ void VerbindOpdrachten()
     main.bij(main.EditDeleteRaster, &QAction::triggered, [] { VerwijderRaster(*Main().Pic); });
     main.bij(main.EditDeleteLetters, &QAction::triggered, [] { VerwijderLetters(*Main().Pic); });
     main.bij(&main, &MainForm::VakMenuGekozen, SoortVakTekst_Click);
+    main.bij(&main, &MainForm::SudokuMenuGekozen, SuMe_Click);
+    main.bij(main.StartKnop, &ImageButton::clicked, [] { StartKnop_Click(); });
     main.bij(main.HelpKnop, &ImageButton::clicked, [] { HelpKnop_Click(); });
     main.bij(main.AboutKnop, &ImageButton::clicked, [] { AboutKnop_Click(); });
     main.bij(main.ExitKnop, &ImageButton::clicked, [] { ExitKnop_Click(); });

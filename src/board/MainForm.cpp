@@ -21,6 +21,7 @@ MainForm::MainForm() : Form(u"Main"_s, u"Raster Atelier (16x19)"_s, 18600, 11340
     setWindowFlags(Qt::Window);
     setWindowIcon(Plaatjes::Pixmap(u"rasteratelier"_s, {64, 64}, 1));
     MaakBord();
+    MaakSudokuPaneel();
     MaakLijst();
     MaakWoordPaneel();
     MaakKnoppen();

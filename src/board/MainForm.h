@@ -13,6 +13,7 @@
 #include <QComboBox>
 #include <QFrame>
 #include <QMenu>
+#include <QRadioButton>
 #include <QScrollBar>
 #include <QTimer>
 
@@ -34,6 +35,8 @@ public:
     /// bars, the controls of its kind, the count of its rows, and no mark on the board.
     /// @param programma what stands before the size in the title
     void ToonPuzzel(const QString &programma);
+    /// What all of these have but the name: an exported word search keeps the one that stands in the bar.
+    void ToonBord(const QString &programma);
 
     // The entry list: MainFormLijst.cpp.
     void ListView1_ItemClick();
@@ -60,7 +63,7 @@ public:
 
     QFrame *Frame1, *Frame2, *Frame3, *Frame4, *Frame5, *Frame6, *Frame7, *Frame8, *Frame9, *Frame10;
     Label *Label1, *Label2, *Label3, *Label4, *Label5, *Label6, *Label7, *Label8, *Label9, *Label10, *Label11, *Label12,
-        *Label15, *Label16, *Label17, *Label18, *KlokLabel, *CopyLabel;
+        *Label13, *Label14, *Label15, *Label16, *Label17, *Label18, *KlokLabel, *CopyLabel;
     PictureBox *Pic, *PicGroot, *PicVak, *PicR, *PicO, *Vak1, *Vak2;
     RectMark *Shape1;
     LineMark *Line1;
@@ -68,7 +71,8 @@ public:
     ListBox *List1, *List2, *List3;
     QComboBox *Combo1;
     QScrollBar *ScrolLengte;
-    ImageButton *DelKnop, *OkKnop, *LoadKnop, *HelpKnop, *AboutKnop, *ExitKnop;
+    ImageButton *DelKnop, *OkKnop, *LoadKnop, *StartKnop, *HelpKnop, *AboutKnop, *ExitKnop;
+    QList<QRadioButton *> Option; ///< the three levels of a Sudoku
     ImageBox *Image1, *LogoPic;
     QTimer *Timer1;
 
@@ -89,7 +93,8 @@ public:
     std::array<QAction *, 12> SuMe{}; ///< those of SudokuMenu, 1..11: "1" to "9", a separator, "Hint"
 
 signals:
-    void VakMenuGekozen(int index); ///< the item of SoortPlaatsing that was chosen (VakMenu)
+    void VakMenuGekozen(int index);    ///< the item of SoortPlaatsing that was chosen (VakMenu)
+    void SudokuMenuGekozen(int index); ///< the item of SudokuMenu that was chosen, as in SuMe
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -97,6 +102,7 @@ protected:
 
 private:
     void MaakBord();
+    void MaakSudokuPaneel(); // in MainFormSudoku.cpp
     void MaakLijst();
     void MaakWoordPaneel(); // this and its two parts in MainFormWoorden.cpp
     void MaakDatabaseDeel();

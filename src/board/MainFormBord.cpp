@@ -37,7 +37,6 @@ void MainForm::MaakBord()
     Shape1 = Maak<RectMark>("Shape1", QString(), Pic);
     Line1 = Maak<LineMark>("Line1", QString(), Pic);
     Label2 = MaakLabel("Label2", u" Load Database "_s);
-    Frame9 = MaakFrame("Frame9", u"Sudoku"_s);
     Frame1 = MaakFrame("Frame1", u"Statusbalk"_s);
     Label6 = MaakLabel("Label6", u"Coordinaten"_s, Frame1);
     KlokLabel = MaakLabel("KlokLabel", u"00:00"_s, Frame1);
@@ -50,7 +49,6 @@ void MainForm::MaakBord()
     Zet(PicR, 7605, 780, 450, 8760);
     Zet(PicO, 180, 9555, 7410, 300);
     Zet(Label2, 2565, 3000);
-    Zet(Frame9, 180, 5400, 4275, 4410);
     Zet(Frame1, 180, 9855, 7815, 540);
     Zet(Label6, 120, 180);
     Zet(KlokLabel, 7020, 180);
@@ -62,7 +60,6 @@ void MainForm::MaakBord()
     Label2->hide();
     KlokLabel->setAlignment(Qt::AlignRight); // its texts would be cut off on the other side
     PicGroot->hide();
-    Frame9->hide();
     PicR->BackColor = PicO->BackColor = Kleuren::Paneel;
     Pic->ZetLetter({.Naam = u"Arial"_s, .Punten = 8.25, .Vet = true});
     PicGroot->ZetLetter({.Naam = u"Arial Narrow"_s, .Punten = 8.25, .Vet = true});
@@ -94,9 +91,14 @@ void MainForm::ToonSoort()
 
 void MainForm::ToonPuzzel(const QString &programma)
 {
+    Bestandsnaam->setText(PuzzelNaam);
+    ToonBord(programma);
+}
+
+void MainForm::ToonBord(const QString &programma)
+{
     const Soort *soort = SoortVan(PuzzelType);
     setWindowTitle(u"%1 (%2x%3)"_s.arg(programma).arg(BoardWidth).arg(BoardHeight));
-    Bestandsnaam->setText(PuzzelNaam);
     Frame9->setVisible(soort && soort->MetFrame9);
     EditDeleteRaster->setEnabled(soort && soort->MetVerwijderen);
     EditDeleteLetters->setEnabled(soort && soort->MetVerwijderen);

@@ -111,7 +111,7 @@ void MainForm::MaakPopups()
         else
             item = SudokuMenu->addAction(u"Hint"_s);
         item->setObjectName(u"SuMe(%1)"_s.arg(i));
-        item->setEnabled(false); // a Sudoku cannot be played yet
+        bij(item, &QAction::triggered, [this, i] { emit SudokuMenuGekozen(i); });
         SuMe[static_cast<std::size_t>(i)] = item;
     }
 }

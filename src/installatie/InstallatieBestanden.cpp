@@ -77,17 +77,21 @@ static bool IsLijstwoord(const QString &regel)
     return vorm.match(regel).hasMatch() && std::all_of(regel.begin(), regel.end(), Files::InCodePage);
 }
 
+[[noreturn]] static void Weiger(const std::string &waarom, const QString &regel)
+{
+    throw BronFout(waarom + ": " + regel.left(60).toStdString());
+}
+
 QByteArray MaakLijst(const QByteArray &bron)
 {
     QStringList woorden;
     QSet<QString> gehad;
     for (const QString &regel : Regels(bron)) {
         if (!IsLijstwoord(regel))
-            throw BronFout("not a word of letters with single blanks or hyphens between them: " +
-                           regel.left(60).toStdString());
+            Weiger("not a word of letters with single blanks or hyphens between them", regel);
         const QString woord = Hoofdletters(regel);
         if (gehad.contains(woord))
-            throw BronFout("there twice: " + regel.left(60).toStdString());
+            Weiger("there twice", regel);
         gehad += woord;
         woorden += woord;
     }

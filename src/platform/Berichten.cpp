@@ -40,6 +40,8 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
         box.setIcon(QMessageBox::Critical);
     else if (icoon == Icoon::Waarschuwing)
         box.setIcon(QMessageBox::Warning);
+    else if (icoon == Icoon::Informatie)
+        box.setIcon(QMessageBox::Information);
     else if (knoppen == Knoppen::JaNee)
         box.setIcon(QMessageBox::Question);
     if (knoppen == Knoppen::Ok) {

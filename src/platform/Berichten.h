@@ -4,7 +4,7 @@
 
 enum class Knoppen { Ok, JaNee };
 enum class Antwoord { Ok, Ja, Nee };
-enum class Icoon { Geen, Kritiek, Waarschuwing };
+enum class Icoon { Geen, Kritiek, Waarschuwing, Informatie };
 
 /// Message boxes with Dutch buttons. One object is in use at a time; tests put their own in its place.
 class Berichten

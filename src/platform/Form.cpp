@@ -143,11 +143,11 @@ ImageButton *Form::MaakCancelKnop()
     return MaakKnop("CancelKnop", u"Annuleren"_s, u"knop-annuleren"_s);
 }
 
-QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften)
+QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften, QWidget *ouder)
 {
     QList<QRadioButton *> opties;
     for (const QString &opschrift : opschriften) {
-        opties += Maak<QRadioButton>("", opschrift, nullptr, opschrift);
+        opties += Maak<QRadioButton>("", opschrift, ouder, opschrift);
         opties.last()->setObjectName(u"Option%1"_s.arg(opties.size()));
     }
     opties.first()->setChecked(true);

@@ -81,7 +81,7 @@ protected:
     ImageButton *MaakOkKnop();
     ImageButton *MaakCancelKnop();
     /// The option buttons Option1, Option2 and so on, with these captions; the first one is chosen.
-    QList<QRadioButton *> MaakOpties(const QStringList &opschriften);
+    QList<QRadioButton *> MaakOpties(const QStringList &opschriften, QWidget *ouder = nullptr);
     /// The index of the option that is chosen.
     static int Gekozen(const QList<QRadioButton *> &opties);
     /// A box with the numbers from one to another, in which anything may be typed as well.

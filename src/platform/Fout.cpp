@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-static QString DutchText(Fout::Nummer nummer)
+static QString DutchText(qint32 nummer)
 {
     switch (nummer) {
     case Fout::OngeldigArgument:
@@ -31,6 +31,8 @@ static QString DutchText(Fout::Nummer nummer)
         return u"Geen toegang"_s;
     case Fout::OngeldigeWaarde:
         return u"Ongeldige waarde"_s;
+    case Fout::SleutelBestaatAl:
+        return u"Die sleutel bestaat al"_s;
     case Fout::OngeldigeAfbeelding:
         return u"Ongeldige afbeelding"_s;
     }
@@ -38,6 +40,11 @@ static QString DutchText(Fout::Nummer nummer)
 }
 
 Fout::Fout(Nummer nummer, QString waarbij) : nummer_(nummer), waarbij_(std::move(waarbij)) {}
+
+Fout::Fout(qint32 nummer, QString bron, QString tekst)
+    : nummer_(nummer), bron_(std::move(bron)), eigenTekst_(std::move(tekst))
+{
+}
 
 Fout Fout::Van(const std::exception &exception)
 {
@@ -50,6 +57,6 @@ Fout Fout::Van(const std::exception &exception)
 
 QString Fout::tekst() const
 {
-    const QString tekst = DutchText(nummer_);
+    const QString tekst = bron_.isEmpty() ? DutchText(nummer_) : eigenTekst_;
     return waarbij_.isEmpty() ? tekst : tekst + u" ("_s + waarbij_ + u")"_s;
 }

@@ -22,23 +22,29 @@ public:
         EindeBestand = 62,
         GeenToegang = 70,
         OngeldigeWaarde = 380,
+        SleutelBestaatAl = 457,
         OngeldigeAfbeelding = 481,
     };
 
     /// @param waarbij what the failure is about, such as a file's name; shown behind the text, may be empty.
     explicit Fout(Nummer nummer, QString waarbij = {});
+    /// A failure that a component raises, with a number and a text of its own.
+    /// @param bron who raises it
+    Fout(qint32 nummer, QString bron, QString tekst);
 
     /// The failure that an exception amounts to: a Fout is itself, one of the standard library gets its number.
     static Fout Van(const std::exception &exception);
 
-    Nummer nummer() const { return nummer_; }
+    qint32 nummer() const { return nummer_; }
+    const QString &bron() const { return bron_; } ///< empty but for a failure of a component
     /// The Dutch text of the number, with what it is about.
     QString tekst() const;
     const char *what() const noexcept override { return "run-time failure"; }
 
 private:
-    Nummer nummer_;
+    qint32 nummer_;
     QString waarbij_;
+    QString bron_, eigenTekst_; ///< of a component
 };
 
 /// Leaves a handler without a word: its window was closed, or the program ends, while it waited.

@@ -29,6 +29,15 @@ double Val(QStringView tekst)
     return QLocale::c().toDouble(cijfers);
 }
 
+/// Rounded, ties to even. @param over what the failure is about
+template <class Type> static Type Afgerond(double waarde, QStringView over)
+{
+    const double rond = std::nearbyint(waarde);
+    if (!(rond >= std::numeric_limits<Type>::min() && rond <= std::numeric_limits<Type>::max()))
+        throw Fout(Fout::Overloop, over.left(40).toString());
+    return static_cast<Type>(rond);
+}
+
 template <class Type> static Type Strikt(QStringView tekst)
 {
     bool isGetal = false;
@@ -36,10 +45,7 @@ template <class Type> static Type Strikt(QStringView tekst)
     // The words "inf" and "nan" are read as numbers; digits beyond a double's range are refused, but give infinity.
     if (isGetal ? !std::isfinite(waarde) : !std::isinf(waarde))
         throw Fout(Fout::TypeOnjuist, tekst.left(40).toString());
-    const double rond = std::nearbyint(waarde);
-    if (!(rond >= std::numeric_limits<Type>::min() && rond <= std::numeric_limits<Type>::max()))
-        throw Fout(Fout::Overloop, tekst.left(40).toString());
-    return static_cast<Type>(rond);
+    return Afgerond<Type>(waarde, tekst);
 }
 
 quint8 NaarByte(QStringView tekst)
@@ -55,6 +61,11 @@ qint16 NaarInt16(QStringView tekst)
 qint32 NaarInt32(QStringView tekst)
 {
     return Strikt<qint32>(tekst);
+}
+
+qint16 ValInt16(QStringView tekst)
+{
+    return Afgerond<qint16>(Val(tekst), tekst);
 }
 
 qint16 AlsInt16(qint64 waarde)

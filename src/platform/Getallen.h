@@ -9,6 +9,9 @@ namespace Getallen {
 /// over. Never fails.
 double Val(QStringView tekst);
 
+/// The same as a 16-bit number, rounded with ties to even. Raises Fout::Overloop outside -32768..32767.
+qint16 ValInt16(QStringView tekst);
+
 /// The whole text as a number (blanks around it allowed, a point for the fraction), rounded to the nearest whole
 /// number with ties to the even one.
 /// Raises Fout::TypeOnjuist when the text is no number, Fout::Overloop when it is outside the type's range.

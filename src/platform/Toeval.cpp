@@ -1,5 +1,6 @@
 #include "platform/Toeval.h"
 
+#include <chrono>
 #include <random>
 
 namespace {
@@ -20,8 +21,9 @@ Reeks &HuidigeReeks()
 
 void Toeval::Randomize()
 {
+    constexpr int MostSteps = 8;
     if (!HuidigeReeks().vast)
-        HuidigeReeks().generator.seed(std::random_device{}());
+        HuidigeReeks().generator.discard(std::chrono::steady_clock::now().time_since_epoch().count() % MostSteps);
 }
 
 double Toeval::Rnd()
@@ -37,6 +39,5 @@ void Toeval::Zaad(std::uint32_t zaad)
 
 void Toeval::ZonderZaad()
 {
-    HuidigeReeks().vast = false;
-    Randomize();
+    HuidigeReeks() = {};
 }

@@ -5,7 +5,8 @@
 /// The random generator.
 namespace Toeval {
 
-/// Starts a new series that nobody can foretell. After Zaad it does nothing, so that a seeded series stays as it is.
+/// Mixes the time into the series, which nobody can foretell anyhow: it goes on some steps further, and does not start
+/// again. After Zaad it does nothing, so that a seeded series stays as it is.
 void Randomize();
 
 /// The next number: at least 0 and below 1, in steps of 2^-24.

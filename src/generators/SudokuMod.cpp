@@ -1,0 +1,102 @@
+#include "generators/SudokuMod.h"
+
+#include "platform/Toeval.h"
+
+#include <bit>
+
+std::array<qint32, 81> SudokuOplossing;
+
+constexpr unsigned AlleCijfers = 0b11'1111'1110;
+
+static size_t RijVan(int cel)
+{
+    return static_cast<size_t>(cel / 9);
+}
+
+static size_t KolomVan(int cel)
+{
+    return static_cast<size_t>(cel % 9);
+}
+
+static size_t BlokVan(int cel)
+{
+    return static_cast<size_t>(cel / 27 * 3 + cel % 9 / 3);
+}
+
+void SudokuRaster::Zet(int cel, int cijfer)
+{
+    const unsigned bit = 1U << cijfer;
+    cellen_[static_cast<size_t>(cel)] = static_cast<qint16>(cijfer);
+    inRij_[RijVan(cel)] |= bit;
+    inKolom_[KolomVan(cel)] |= bit;
+    inBlok_[BlokVan(cel)] |= bit;
+}
+
+unsigned SudokuRaster::Vrij(int cel) const
+{
+    return AlleCijfers & ~(inRij_[RijVan(cel)] | inKolom_[KolomVan(cel)] | inBlok_[BlokVan(cel)]);
+}
+
+QString SudokuRaster::Kandidaten(int cel) const
+{
+    QString cijfers;
+    for (int cijfer = 1; cijfer <= 9; ++cijfer)
+        if (Vrij(cel) & 1U << cijfer)
+            cijfers += QString::number(cijfer);
+    return cijfers;
+}
+
+qint32 RandomGetal(qint32 Laag, qint32 Hoog)
+{
+    Toeval::Randomize();
+    return static_cast<qint32>(Toeval::Rnd() * (double(Hoog) - Laag + 1)) + Laag;
+}
+
+/// The digit at a place among those of a set. @param plaats from 1
+static int Cijfer(unsigned vrij, int plaats)
+{
+    while (--plaats > 0)
+        vrij &= vrij - 1;
+    return std::countr_zero(vrij);
+}
+
+/// The first of the empty cells with the fewest free digits; -1 when one has none.
+static int BesteCel(const SudokuRaster &raster)
+{
+    int beste = -1, kleinste = 10;
+    for (int cel = 0; cel < 81; ++cel) {
+        if (raster[cel] > 0)
+            continue;
+        const int aantal = std::popcount(raster.Vrij(cel));
+        if (aantal == 0)
+            return -1;
+        if (aantal < kleinste) {
+            kleinste = aantal;
+            beste = cel;
+        }
+    }
+    return beste;
+}
+
+/// Fills a grid from nothing. @return whether it came to no dead end
+static bool Vul(SudokuRaster &raster)
+{
+    for (int gevuld = 0; gevuld < 81; ++gevuld) {
+        const int cel = BesteCel(raster);
+        if (cel < 0)
+            return false;
+        const unsigned vrij = raster.Vrij(cel);
+        const int aantal = std::popcount(vrij);
+        raster.Zet(cel, Cijfer(vrij, aantal == 1 ? 1 : RandomGetal(1, aantal)));
+    }
+    return true;
+}
+
+void MaakSudoku()
+{
+    SudokuRaster raster;
+    while (!Vul(raster))
+        raster = {};
+    for (int cel = 0; cel < 81; ++cel)
+        SudokuOplossing[static_cast<size_t>(cel)] = raster[cel];
+}

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <QString>
+
+/// A word of a word search.
+class clsWord
+{
+public:
+    QString Word;
+};

@@ -1,0 +1,234 @@
+#include "generators/clsWordSearch.h"
+
+#include "platform/CodePage.h"
+#include "platform/Files.h"
+#include "platform/Fout.h"
+#include "platform/Getallen.h"
+#include "platform/Kleur.h"
+#include "platform/Regels.h"
+#include "platform/Toeval.h"
+
+using namespace Qt::StringLiterals;
+
+QString WoordzoekerRaster;
+
+constexpr int AantalRichtingen = 8;
+constexpr QChar Leeg = u' ';
+constexpr auto LineEnd = "\r\n"_L1;
+
+/// The failure of this class with a number above the base of its failures.
+static Fout EigenFout(qint32 nummer, const QString &bron, const QString &tekst)
+{
+    constexpr auto Base = static_cast<qint32>(0x80040000);
+    return {Base + nummer, bron, tekst};
+}
+
+clsWordSearch::clsWordSearch()
+{
+    Toeval::Randomize();
+}
+
+void clsWordSearch::SetGridHeight(qint16 hoogte)
+{
+    if (hoogte < 2)
+        throw EigenFout(1, u"WordSearch - GridHeight"_s,
+                        u"You have entered an invalid grid height, it must be more then 1."_s);
+    hoogte_ = hoogte;
+}
+
+void clsWordSearch::SetGridWidth(qint16 breedte)
+{
+    if (breedte < 2)
+        throw EigenFout(2, u"WordSearch - GridWidth"_s,
+                        u"You have entered an invalid grid width, it must be more then 1."_s);
+    breedte_ = breedte;
+}
+
+int clsWordSearch::AantalVakken() const
+{
+    return Getallen::AlsInt16(qint64{breedte_} * hoogte_);
+}
+
+QString clsWordSearch::Make()
+{
+    const int aantal = AantalVakken();
+    raster_ = QString(aantal, Leeg);
+    for (const clsWord &element : Words) {
+        QString woord = element.Word;
+        MeetRuimte();
+        Kansen kansen(static_cast<size_t>(aantal) + 1);
+        for (int p = 1; p <= aantal; ++p)
+            for (int d = 1; d <= AantalRichtingen; ++d)
+                if (WoordPast(woord, p, d))
+                    kansen[static_cast<size_t>(p)] |= static_cast<quint16>(1 << d);
+        const int p = KiesPositie(kansen);
+        if (p > 0) {
+            PlaatsWoord(woord, p, KiesRichting(kansen[static_cast<size_t>(p)]));
+            continue;
+        }
+        bool gaDoor = false;
+        if (CannotFitWord)
+            CannotFitWord(woord, gaDoor);
+        if (!gaDoor) {
+            raster_.clear();
+            return raster_;
+        }
+    }
+    VulLegeVakken();
+    WoordzoekerRaster = raster_;
+    return raster_;
+}
+
+// From the far end of each direction on, so that the next cell is always known. A word takes as many steps as it has
+// letters but one.
+void clsWordSearch::MeetRuimte()
+{
+    const int aantal = AantalVakken();
+    for (int d = 1; d <= AantalRichtingen; ++d) {
+        auto &ruimte = ruimte_.at(static_cast<size_t>(d));
+        ruimte.assign(static_cast<size_t>(aantal) + 1, 0);
+        const bool omlaag = VolgendVak(0, d) < 0; // to lower positions: these come first
+        for (int i = 1; i <= aantal; ++i) {
+            const int p = omlaag ? i : aantal + 1 - i;
+            if (raster_[p - 1] != Leeg)
+                continue;
+            const qint16 verder = KanStappen(p, d) ? ruimte[static_cast<size_t>(VolgendVak(p, d))] : qint16{0};
+            ruimte[static_cast<size_t>(p)] = static_cast<qint16>(verder + 1);
+        }
+    }
+}
+
+// What is compared is odd, and stays so: the first letter with the cell at position 1, whatever p is; and each letter
+// but the last with the cell behind its own, which must be empty anyhow, so that only a blank in the word is ever hit.
+bool clsWordSearch::WoordPast(const QString &woord, int p, int d) const
+{
+    const qsizetype n = woord.size();
+    if (n < 2 || woord.front() == raster_.front())
+        return false;
+    if (ruimte_.at(static_cast<size_t>(d))[static_cast<size_t>(p)] < n)
+        return false;
+    return !QStringView(woord).chopped(1).contains(Leeg);
+}
+
+int clsWordSearch::VolgendVak(int p, int d) const
+{
+    const std::array<int, AantalRichtingen + 1> stappen{
+        0, -breedte_, -breedte_ + 1, 1, breedte_ + 1, breedte_, breedte_ - 1, -1, -breedte_ - 1};
+    return p + stappen.at(static_cast<size_t>(d));
+}
+
+bool clsWordSearch::KanStappen(int p, int d) const
+{
+    if ((d == 1 || d == 2 || d == 8) && p <= breedte_)
+        return false;
+    if ((d == 4 || d == 5 || d == 6) && p > breedte_ * hoogte_ - breedte_)
+        return false;
+    if (d == 2 || d == 3 || d == 4)
+        return p % breedte_ >= 1;
+    if (d == 6 || d == 7 || d == 8)
+        return (p + breedte_ - 1) % breedte_ >= 1;
+    return true;
+}
+
+/// One of the numbers from 0 up to this one, without it.
+static size_t Kies(size_t aantal)
+{
+    return static_cast<size_t>(Toeval::Rnd() * static_cast<double>(aantal));
+}
+
+// A position counts once, however many directions it offers.
+int clsWordSearch::KiesPositie(const Kansen &kansen)
+{
+    std::vector<int> posities;
+    for (size_t p = 1; p < kansen.size(); ++p)
+        if (kansen[p] > 0)
+            posities.push_back(static_cast<int>(p));
+    return posities.empty() ? 0 : posities[Kies(posities.size())];
+}
+
+int clsWordSearch::KiesRichting(quint16 masker)
+{
+    std::vector<int> richtingen;
+    for (int d = 1; d <= AantalRichtingen; ++d)
+        if (masker & 1 << d)
+            richtingen.push_back(d);
+    return richtingen[Kies(richtingen.size())];
+}
+
+void clsWordSearch::PlaatsWoord(const QString &woord, int p, int d)
+{
+    for (const QChar letter : woord) {
+        raster_[p - 1] = letter;
+        p = VolgendVak(p, d);
+    }
+}
+
+void clsWordSearch::VulLegeVakken()
+{
+    for (QChar &vak : raster_)
+        if (vak == Leeg)
+            vak = QChar(static_cast<int>(Toeval::Rnd() * 26) + 65);
+}
+
+void clsWordSearch::Save(const QString &strFile)
+{
+    if (raster_.isEmpty())
+        return;
+    QStringList regels{SrchName, QString::number(breedte_), QString::number(hoogte_), QString::number(Words.Count())};
+    for (const clsWord &woord : Words)
+        regels += woord.Word;
+    regels += raster_;
+    Files::Schrijf(strFile, Files::NaarBytes(regels.join(LineEnd) + LineEnd));
+}
+
+void clsWordSearch::Load(const QString &strFile)
+{
+    QStringList regels;
+    VoorElkeRegel(Files::Lees(strFile), [&](QByteArrayView regel) { regels += Files::NaarTekst(regel); });
+    qsizetype volgende = 0;
+    const auto lees = [&] {
+        if (volgende == regels.size())
+            throw Fout(Fout::EindeBestand);
+        return regels[volgende++];
+    };
+    SrchName = lees();
+    SetGridWidth(Getallen::NaarInt16(lees()));
+    SetGridHeight(Getallen::NaarInt16(lees()));
+    for (double nog = Getallen::Val(lees()); nog >= 1; --nog)
+        Words.Add(lees());
+    raster_ = lees();
+    AantalVakken(); // raises when there are too many
+    Draw();
+}
+
+void clsWordSearch::Draw()
+{
+    const bool getekend = negeer([this] {
+        if (!Canvas)
+            throw Fout(Fout::OngeldigArgument);
+        TekenOp(*Canvas);
+    });
+    if (!getekend)
+        throw EigenFout(4, u"WordSearch - Draw"_s,
+                        u"The canvas specified is not a valid drawing object, please set, for example a picture box or "
+                        "form."_s);
+}
+
+// A unit is a cell: the middle of the cell in column c and row r is at (c, r).
+void clsWordSearch::TekenOp(class Canvas &canvas) const
+{
+    canvas.Cls();
+    canvas.ForeColor = FontColor;
+    canvas.Scale(0, 0, breedte_ + 1, hoogte_ + 1);
+    for (int p = 1; p <= AantalVakken(); ++p) {
+        const QString letter = raster_.mid(p - 1, 1);
+        const int c = (p - 1) % breedte_ + 1;
+        const int r = (p - 1) / breedte_ + 1;
+        canvas.PrintOp(c - canvas.TextWidth(letter) / 2, r - canvas.TextHeight(letter) / 2, letter);
+    }
+    canvas.ForeColor = RGB(150, 150, 150);
+    for (int i = 0; i <= hoogte_ + 1; ++i)
+        canvas.Line(0.5, i + 0.5, breedte_ + 0.5, i + 0.5, canvas.ForeColor);
+    for (int i = 0; i <= breedte_ + 1; ++i)
+        canvas.Line(i + 0.5, 0.5, i + 0.5, hoogte_ + 0.5, canvas.ForeColor);
+}
