@@ -58,16 +58,17 @@ class Control:
         return [[Control(self.program, table.getAccessibleAt(row, column)) for column in range(table.nColumns)]
                 for row in range(table.nRows)]
 
-    def tree(self):
-        """This control and all below it, from top to bottom."""
-        yield self
-        for child in self.children():
-            yield from child.tree()
+    def tree(self, wanted=lambda _: True):
+        """This control and all below it, from top to bottom; without those that are not wanted and all below them."""
+        if wanted(self):
+            yield self
+            for child in self.children():
+                yield from child.tree(wanted)
 
     def shown(self):
         """This control and all below it that are shown, from top to bottom."""
         self.accessible.clear_cache()
-        return [one for one in self.tree() if one.has(pyatspi.STATE_SHOWING)]
+        return list(self.tree(lambda one: one.has(pyatspi.STATE_SHOWING)))
 
     def all(self, role):
         """All of a role that are shown, from top to bottom."""
