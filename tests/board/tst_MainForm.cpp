@@ -266,10 +266,8 @@ private slots:
     void theLengthsToChooseFrom()
     {
         Bord bord;
-        QStringList lengtes;
-        for (int i = 0; i < bord.Venster.Combo1->count(); ++i)
-            lengtes += bord.Venster.Combo1->itemText(i);
-        QCOMPARE(lengtes.join(u' '), u"Alles 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 Alles"_s);
+        QCOMPARE(Items(*bord.Venster.Combo1).join(u' '),
+                 u"Alles 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 Alles"_s);
         QCOMPARE(bord.Venster.Combo1->currentIndex(), 0);
         QCOMPARE(bord.Venster.ScrolLengte->minimum(), 2);
         QCOMPARE(bord.Venster.ScrolLengte->maximum(), 19);

@@ -116,10 +116,8 @@ private slots:
             doek.FontName = naam;
             doek.FontSize = punten;
             doek.FontBold = vet;
-            doek.CurrentX = 1500;
-            doek.CurrentY = 900;
             const QRectF cel(100, 60, doek.TextWidth(tekst) / 15, doek.TextHeight(tekst) / 15);
-            doek.Print(tekst);
+            doek.PrintOp(1500, 900, tekst);
             const QRect inkt = doek.Inkt();
             QVERIFY(QRectF(inkt).intersects(cel));
             QVERIFY2(cel.adjusted(-1, -1, 1, 1).contains(QRectF(inkt)), qPrintable(tekst));
@@ -171,12 +169,8 @@ private slots:
         Doek twips, pixels(ScaleModes::Pixels);
         QCOMPARE(pixels.TextWidth(tekst) * 15, twips.TextWidth(tekst));
         QCOMPARE(pixels.TextHeight(tekst) * 15, twips.TextHeight(tekst));
-        twips.CurrentX = 750;
-        twips.CurrentY = 300;
-        twips.Print(tekst);
-        pixels.CurrentX = 50;
-        pixels.CurrentY = 20;
-        pixels.Print(tekst);
+        twips.PrintOp(750, 300, tekst);
+        pixels.PrintOp(50, 20, tekst);
         QVERIFY(HeeftInkt(pixels.Image(), pixels.rect()));
         QCOMPARE(pixels.Image(), twips.Image());
     }
@@ -269,15 +263,10 @@ private slots:
     {
         Doek doek;
         for (const double x : {-1e6, 1e6})
-            for (const double y : {-1e6, 0.0, 1e6}) {
-                doek.CurrentX = x;
-                doek.CurrentY = y;
-                doek.Print(u"Raster"_s);
-            }
+            for (const double y : {-1e6, 0.0, 1e6})
+                doek.PrintOp(x, y, u"Raster"_s);
         QCOMPARE(doek.Inkt(), QRect());
-        doek.CurrentX = -30;
-        doek.CurrentY = -30;
-        doek.Print(u"W"_s);
+        doek.PrintOp(-30, -30, u"W"_s);
         QVERIFY(!doek.Inkt().isEmpty());
     }
 

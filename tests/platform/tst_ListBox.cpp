@@ -1,5 +1,6 @@
 #include "platform/DrieWoorden.h"
 #include "support/Testbank.h"
+#include "support/Venster.h"
 
 #include <QElapsedTimer>
 #include <QRegularExpression>
@@ -34,14 +35,6 @@ private slots:
     void aTextOfMegabytesIsShownByItsBeginning();
 };
 
-static QStringList Teksten(const ListBox &lijst)
-{
-    QStringList teksten;
-    for (int i = 0; i < lijst.ListCount(); ++i)
-        teksten += lijst.List(i);
-    return teksten;
-}
-
 void tst_ListBox::anEmptyListHasNothingSelected()
 {
     const ListBox lijst(nullptr);
@@ -55,7 +48,7 @@ void tst_ListBox::itemsAreAddedAtTheEnd()
     ListBox lijst(nullptr);
     for (const char *tekst : {"noot", "aap", "", "noot"})
         lijst.AddItem(QLatin1String(tekst));
-    QCOMPARE(Teksten(lijst), (QStringList{"noot", "aap", "", "noot"}));
+    QCOMPARE(Items(lijst), (QStringList{"noot", "aap", "", "noot"}));
     QCOMPARE(lijst.ListIndex(), -1);
 }
 
@@ -66,7 +59,7 @@ void tst_ListBox::itemsAreSetInOneGo()
     QSignalSpy opnieuw(lijst.model(), &QAbstractItemModel::modelReset);
     QSignalSpy erbij(lijst.model(), &QAbstractItemModel::rowsInserted);
     lijst.SetItems({u"aap"_s, u"noot"_s});
-    QCOMPARE(Teksten(lijst), (QStringList{"aap", "noot"}));
+    QCOMPARE(Items(lijst), (QStringList{"aap", "noot"}));
     QCOMPARE(opnieuw.size(), 1);
     QCOMPARE(erbij.size(), 0);
 }
@@ -152,7 +145,7 @@ void tst_ListBox::removingLeavesNothingSelected()
     lijst.SetListIndex(gekozen);
     QSignalSpy klik(&lijst, &ListBox::Click);
     lijst.RemoveItem(weg);
-    QTEST(Teksten(lijst), "over");
+    QTEST(Items(lijst), "over");
     QCOMPARE(lijst.ListIndex(), -1);
     QCOMPARE(lijst.Text(), QString());
     QCOMPARE(klik.size(), 0);
@@ -163,7 +156,7 @@ void tst_ListBox::removingWhatIsNotThereChangesNothing()
     DrieWoorden lijst;
     lijst.RemoveItem(-1);
     lijst.RemoveItem(3);
-    QCOMPARE(Teksten(lijst), (QStringList{"aap", "noot", "mies"}));
+    QCOMPARE(Items(lijst), (QStringList{"aap", "noot", "mies"}));
 }
 
 void tst_ListBox::aManyThousandItemsFit()

@@ -1,4 +1,4 @@
-#include "support/OmschrijvingBox.h"
+#include "platform/OmschrijvingBox.h"
 #include "support/Testbank.h"
 #include "support/Venster.h"
 

@@ -63,6 +63,22 @@ QString TabVolgorde(QWidget &venster)
     return namen.join(u' ');
 }
 
+QStringList Items(const ListBox &lijst)
+{
+    QStringList items;
+    for (int i = 0; i < lijst.ListCount(); ++i)
+        items += lijst.List(i);
+    return items;
+}
+
+QStringList Items(const QComboBox &combo)
+{
+    QStringList items;
+    for (int i = 0; i < combo.count(); ++i)
+        items += combo.itemText(i);
+    return items;
+}
+
 QString RechtsKlik(QWidget &control, const QString &keuze)
 {
     const QPoint midden = control.rect().center();

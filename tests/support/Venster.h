@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/ListBox.h"
+
+#include <QComboBox>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -20,6 +23,10 @@ QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel);
 /// @return the names of the controls that take the focus, in their order, from the one that has it when the window
 /// opens
 QString TabVolgorde(QWidget &venster);
+
+/// All that can be chosen, from top to bottom.
+QStringList Items(const ListBox &lijst);
+QStringList Items(const QComboBox &combo);
 
 /// Opens the menu of a control as a right click does, and chooses an item if one is given.
 /// @return its items with "|" between them, those that cannot be chosen between brackets

@@ -85,6 +85,20 @@ private slots:
         tekst.setObjectName(u"Val"_s);
         QCOMPARE(TabVolgorde(venster), u"Text1 Text2 Text3 Val en terug naar Val"_s);
     }
+
+    void theMenuOfARightClick()
+    {
+        TestVenster venster;
+        venster.show();
+        QFrame leeg;
+        QCOMPARE(RechtsKlik(leeg), u"geen menu"_s);
+        venster.Text3->setText(u"woord"_s);
+        const QString items = RechtsKlik(*venster.Text3, u"Alles selecteren"_s);
+        QVERIFY2(items.startsWith(u"(Ongedaan maken)|(Opnieuw)|"_s) && items.endsWith(u"|Alles selecteren"_s),
+                 qPrintable(items));
+        QCOMPARE(venster.Text3->selectedText(), u"woord"_s);
+        QVERIFY(RechtsKlik(*venster.Text3).endsWith(u"|(Alles selecteren)"_s));
+    }
 };
 
 RASTER_TEST(tst_Venster)
