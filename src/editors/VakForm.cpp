@@ -87,8 +87,7 @@ void VakForm::VakjeTonen(qint16 soort)
     ImgR->hide();
     ImgO->hide();
     Pic->SetPicture(Image1); // wipes the divider of an earlier kind
-    Text1->SetText(QString());
-    Label3->SetCaption(QString());
+    Text1->SetText(QString()); // and with it the preview
 
     if (const VakSoort *vak = VakSoortVan(soort)) {
         if (vak->Gesplitst())
