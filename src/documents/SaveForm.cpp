@@ -114,6 +114,5 @@ void SaveForm::ToonVoortgang()
         Wachten(0.02, QEventLoop::ExcludeUserInputEvents);
     }
     Screen::MousePointer(Screen::Arrow);
-    Label1->SetCaption(u"100%"_s);
     Wachten(1, QEventLoop::ExcludeUserInputEvents);
 }

@@ -45,7 +45,7 @@ class tst_SaveForm : public QObject
     {
         SaveForm form;
         form.Text1->setText(naam);
-        form.SaveKnop_Click();
+        form.SaveKnop->click();
         QVERIFY(form.Unloaded());
     }
     static QStringList Fotos(const Bord &bord)
@@ -189,6 +189,19 @@ private slots:
         QVERIFY(bord.Bank.Inhoud(u"Puzzels/vakantie2.bmp"_s).size() < 9000000);
     }
 
+    void theListCanBeSavedAlone()
+    {
+        Bord bord;
+        Vul(bord);
+        SaveForm form;
+        QString naam = u"vakantie PUZZEL"_s;
+        form.SaveLijstPuzzel(naam);
+        QCOMPARE(naam, u"Vakantie puzzel"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), QStringList{u"Vakantie puzzel.lst"_s});
+        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie puzzel.lst"_s).count("\r\n"), 10);
+        QVERIFY(PuzzelGewijzigd && !form.Unloaded());
+    }
+
     void theProgressShow()
     {
         Bord bord;
@@ -211,6 +224,8 @@ private slots:
         QVERIFY(qAbs(klok.Wachttijden.last() - 1) < 1e-6);
         QVERIFY(!klok.Zandlopers.last());
         QCOMPARE(klok.Welke.last(), QEventLoop::ExcludeUserInputEvents);
+        QVERIFY(!form.Bar->isHidden());
+        QCOMPARE(form.Bar->GetPixel(10, 0), qRgb(0, 240, 0));
         QCOMPARE(form.Bar->GetPixel(10, 20), qRgb(0, 240, 0));
         QVERIFY(form.Bar->GetPixel(10, 21) != qRgb(0, 240, 0));
     }
@@ -351,7 +366,7 @@ private slots:
         PuzzelGewijzigd = true;
         SaveForm form;
         form.Text1->setText(u"reis"_s);
-        form.CancelKnop_Click();
+        form.CancelKnop->click();
         QVERIFY(form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
