@@ -86,7 +86,7 @@ void VakForm::VakjeTonen(qint16 soort)
 {
     ImgR->hide();
     ImgO->hide();
-    Pic->SetPicture(Image1); // wipes the divider of an earlier kind
+    Pic->SetPicture(Image1);   // wipes the divider of an earlier kind
     Text1->SetText(QString()); // and with it the preview
 
     if (const VakSoort *vak = VakSoortVan(soort)) {

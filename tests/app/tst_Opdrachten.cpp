@@ -82,7 +82,7 @@ private slots:
                         uit += item->objectName();
         QCOMPARE(uit.join(u' '), u"FilePrint ShowOrgineel EditDeleteRaster EditDeleteLetters "
                                  "BiebSpreekwoorden BiebChemisch ToolsConfig ToolsKladblok "
-                                 "ToolsAutoWoordzoeker Export(1)"_s);
+                                 "Export(1)"_s);
     }
 
     void menuItemsOpenTheirWindow_data()
@@ -96,6 +96,7 @@ private slots:
         Geval("BiebWoordzoeker", "BiebWoordzoeker", "FormMain");
         Geval("BiebOntbrekendeLetters", "BiebOntbrekendeLetters", "MissingForm");
         Geval("ToolsAdd", "ToolsAdd", "AddForm");
+        Geval("ToolsAutoWoordzoeker", "ToolsAutoWoordzoeker", "AutoForm");
     }
     void menuItemsOpenTheirWindow()
     {

@@ -112,6 +112,12 @@ private slots:
             u"Label10=Item verwijderen"_s,
             u"Label11=0 Items"_s,
             u"Label12=Soortpuzzel : Zweeds"_s,
+            u"Label13=Nieuwe puzzel"_s,
+            u"Label14=Klik op de 'Ok' button voor het schudden van de puzzel. Door met de linkermuisknop op een leeg "
+            u"vakje "
+            "te klikken kun je een ontbrekend getal plaatsen. Als de kleur van het getal rood is dan heb je een fout "
+            "getal, "
+            "is de kleur groen dan is het getal juist."_s,
             u"Label15="_s,
             u"Label16=Woordlengte (2)"_s,
             u"Label17=Zoeken"_s,
