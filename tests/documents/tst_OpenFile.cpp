@@ -33,7 +33,7 @@ class tst_OpenFile : public QObject
     {
         OpenFile form;
         form.List1->SetListIndex(static_cast<int>(Items(*form.List1).indexOf(naam)));
-        form.OkKnop_Click();
+        form.OkKnop->click();
         QVERIFY(form.Unloaded());
     }
 
@@ -97,7 +97,7 @@ private slots:
         form.List1->SetListIndex(0);
         QCOMPARE(PuzzelNaam, u"Reis"_s);
         QVERIFY(form.DelKnop->isEnabled());
-        form.CancelKnop_Click();
+        form.CancelKnop->click();
         QVERIFY(form.Unloaded());
         QCOMPARE(PuzzelNaam, u"Reis"_s); // it stays so
         QCOMPARE(bord.Veranderd(ervoor), u"PuzzelNaam"_s);
@@ -184,8 +184,9 @@ private slots:
         PuzzelNaam = u"oud"_s;
         OpenFile form;
         QCOMPARE(form.List1->ListCount(), 0);
-        form.OkKnop_Click();
+        form.OkKnop->click();
         QVERIFY(!form.Unloaded());
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.2);
         QCOMPARE(PuzzelNaam, u"oud"_s);
         QDir(bord.Bank.Map() + u"/Puzzels"_s).removeRecursively();
         OpenFile zonderMap;
@@ -367,6 +368,18 @@ private slots:
         QCOMPARE(bord.Venster.Label11->Caption(), u"100000 Items"_s);
     }
 
+    // Up to a byte before the largest size it is whole, and it goes on behind that.
+    void aListBeyondTheLargestIsDamaged()
+    {
+        Bord bord;
+        const QByteArray kop = SchrijfPuzzelLijst(Sudoku, 9, 9, {}), einde("\r\n");
+        const QByteArray lang(GrootsteLijst - 1 - kop.size() - 5 * einde.size(), 'x');
+        bord.Bank.Schrijf(u"Puzzels/groot.lst"_s, kop + einde + lang + einde.repeated(4) + einde);
+        Open(u"groot"_s);
+        QCOMPARE(PuzzelType, Sudoku);
+        QCOMPARE(bord.Venster.Label12->Caption(), u"Soortpuzzel : Zweeds"_s); // as it was
+    }
+
     void deletingAPuzzle()
     {
         Bord bord;
@@ -377,10 +390,10 @@ private slots:
         OpenFile form;
         form.List1->SetListIndex(0);
         bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
-        form.DelKnop_Click();
+        form.DelKnop->click();
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 6);
         QCOMPARE(form.List1->ListCount(), 2);
-        form.DelKnop_Click();
+        form.DelKnop->click();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 2);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wilt je deze puzzel 'Boom' verwijderen?"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Delete"_s);
@@ -390,8 +403,9 @@ private slots:
         QCOMPARE(Items(*form.List1), QStringList{u"Zee"_s});
         QVERIFY(!form.Unloaded());
         QCOMPARE(form.List1->ListIndex(), -1); // nothing is selected then
-        form.DelKnop_Click();
-        QCOMPARE(bord.Bank.Script.Gezien.size(), 2); // and the next press stops at once
+        form.DelKnop->click();
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 2);     // and the next press stops at once
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 3 * 0.2); // with its effect
     }
 };
 
