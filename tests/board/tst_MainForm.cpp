@@ -250,8 +250,6 @@ private slots:
     void theCellPicturesOfAFilippine()
     {
         Bord bord;
-        QCOMPARE(bord.Venster.Vak1->size(), QSize(31, 31));
-        QCOMPARE(bord.Venster.Vak2->size(), QSize(31, 31));
         QCOMPARE(qRed(bord.Venster.Vak1->GetPixel(5, 5)), 240);
         QCOMPARE(qRed(bord.Venster.Vak2->GetPixel(5, 5)), 174);
     }
@@ -260,13 +258,10 @@ private slots:
     {
         Bord bord;
         const MainForm &main = bord.Venster;
-        const auto font = [](const PictureBox &box) {
-            return u"%1 %2 %3"_s.arg(box.FontName).arg(box.FontSize).arg(box.FontBold ? "vet" : "");
-        };
-        QCOMPARE(font(*main.Pic), u"Arial 8.25 vet"_s);
-        QCOMPARE(font(*main.PicGroot), u"Arial Narrow 8.25 vet"_s);
-        QCOMPARE(font(*main.PicR), u"Arial 9.75 vet"_s);
-        QCOMPARE(font(*main.PicO), u"Arial 9.75 vet"_s);
+        QCOMPARE(Lettersoort(*main.Pic), u"Arial 8.25 1 ff000000"_s);
+        QCOMPARE(Lettersoort(*main.PicGroot), u"Arial Narrow 8.25 1 ff000000"_s);
+        QCOMPARE(Lettersoort(*main.PicR), u"Arial 9.75 1 ff000000"_s);
+        QCOMPARE(Lettersoort(*main.PicO), u"Arial 9.75 1 ff000000"_s);
     }
 
     void theLengthsToChooseFrom()

@@ -53,16 +53,6 @@ inline QString Verschil(const QImage &is, const QImage &hoort)
         .arg(waar.bottom());
 }
 
-/// What a board prints with: font, points, bold, colour.
-inline QString Letters(const PictureBox &box)
-{
-    return QStringLiteral("%1 %2 %3 %4")
-        .arg(box.FontName)
-        .arg(box.FontSize)
-        .arg(box.FontBold)
-        .arg(box.ForeColor, 8, 16);
-}
-
 /// All that an editor may change.
 inline Stand EditorStand(const Bord &bord)
 {

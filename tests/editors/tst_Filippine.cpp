@@ -82,15 +82,6 @@ class tst_Filippine : public QObject
 {
     Q_OBJECT
 private slots:
-    void theTwoCellsHaveTheirReds()
-    {
-        Bord bord;
-        QCOMPARE(bord.Venster.Vak1->Image().size(), QSize(31, 31));
-        QCOMPARE(bord.Venster.Vak2->Image().size(), QSize(31, 31));
-        QCOMPARE(qRed(bord.Venster.Vak1->Image().pixel(5, 5)), 240);
-        QCOMPARE(qRed(bord.Venster.Vak2->Image().pixel(5, 5)), 174);
-    }
-
     void theRasterOfABoardBecomesWhite()
     {
         Bord bord;

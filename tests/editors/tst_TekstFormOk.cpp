@@ -273,8 +273,8 @@ private slots:
         if (soort == Woordzoeker)
             verwacht.GroteLetter({2, 3}, u"O"_s);
         verwacht.Vergelijk(bord); // in the fonts that the boards have
-        QCOMPARE(Letters(*bord.Venster.Pic), u"Courier New 12 1 ff505050"_s);
-        QCOMPARE(Letters(*bord.Venster.PicGroot), u"Arial 48 1 ff505050"_s);
+        QCOMPARE(Lettersoort(*bord.Venster.Pic), u"Courier New 12 1 ff505050"_s);
+        QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial 48 1 ff505050"_s);
         QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
         QCOMPARE(bord.Rij(0), u"-|eerst|woord|-"_s);
         QCOMPARE(bord.Rij(1), u"C-04 / 51-H|letter|o|"_s + (soort == Kruiswoord ? u"1"_s : u"-"_s));

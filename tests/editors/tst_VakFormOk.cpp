@@ -296,8 +296,8 @@ private slots:
         // No row, no count; the colour is what Plaats chose.
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"Orgineel Pic PicGroot PijlSoort PuzzelGewijzigd"_s);
         QVERIFY(PuzzelGewijzigd);
-        QCOMPARE(Letters(*bord.Venster.Pic), u"Courier New 7 0 ff0ac81e"_s);
-        QCOMPARE(Letters(*bord.Venster.PicGroot), u"Arial Narrow 13 1 ff000000"_s);
+        QCOMPARE(Lettersoort(*bord.Venster.Pic), u"Courier New 7 0 ff0ac81e"_s);
+        QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial Narrow 13 1 ff000000"_s);
         QCOMPARE(PijlSoort, quint8(7));
     }
 

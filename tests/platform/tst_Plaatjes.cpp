@@ -1,9 +1,9 @@
 #include "platform/Plaatjes.h"
 #include "platform/Tekening.h"
+#include "support/Testbank.h"
 
 #include <QDir>
 #include <QSvgRenderer>
-#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +38,7 @@ private slots:
     {
         QTest::addColumn<QString>("naam");
         for (const QString &naam : Tekeningen())
-            QTest::newRow(qPrintable(naam)) << naam;
+            Geval(naam.toUtf8(), naam);
     }
     void aPictureInItsOwnSizeIsItsDrawing()
     {

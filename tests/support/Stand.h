@@ -10,12 +10,22 @@
 /// is left out: it goes on by itself.
 using Stand = QMap<QString, QVariant>;
 
+/// What a picture prints with: font, points, bold, colour.
+inline QString Lettersoort(const PictureBox &box)
+{
+    return QStringLiteral("%1 %2 %3 %4")
+        .arg(box.FontName)
+        .arg(box.FontSize)
+        .arg(box.FontBold)
+        .arg(box.ForeColor, 8, 16);
+}
+
 inline QVariantList Inhoud(const QWidget &control)
 {
     if (const auto *label = qobject_cast<const Label *>(&control))
         return {label->Caption()};
     if (const auto *pic = qobject_cast<const PictureBox *>(&control))
-        return {pic->Image(), int(pic->ScaleMode()), pic->FontName, pic->FontSize, pic->FontBold, pic->ForeColor};
+        return {pic->Image(), int(pic->ScaleMode()), Lettersoort(*pic)};
     if (const auto *beeld = qobject_cast<const ImageBox *>(&control))
         return {beeld->Picture()};
     if (const auto *combo = qobject_cast<const QComboBox *>(&control))
