@@ -23,10 +23,10 @@ QByteArray SchrijfWoordlijst(const QStringList &woorden)
     return inhoud;
 }
 
-QStringList ZoekLengte(QByteArrayView database, qsizetype cellen)
+QStringList ZoekLengte(QByteArray database, qsizetype cellen)
 {
     QStringList woorden;
-    const QByteArray klein = KleineLetters(database);
+    const QByteArray klein = KleineLetters(std::move(database));
     VoorElkeRegel(klein, [&](QByteArrayView regel) {
         if (regel.size() - regel.count("ij") == cellen)
             woorden += Hoofdletters(ZonderCode(MetCode(Files::NaarTekst(regel)))); // a "?" of the file is an "ij" too

@@ -11,4 +11,4 @@ QStringList LeesWoordlijst(QByteArrayView inhoud);
 QByteArray SchrijfWoordlijst(const QStringList &woorden);
 
 /// The lines of a database that take so many cells, in capitals.
-QStringList ZoekLengte(QByteArrayView database, qsizetype cellen);
+QStringList ZoekLengte(QByteArray database, qsizetype cellen);

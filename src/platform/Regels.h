@@ -8,12 +8,17 @@
 /// of the text the last one.
 template <class Doe> void VoorElkeRegel(QByteArrayView tekst, Doe doe)
 {
-    const char *const einde = tekst.end();
-    for (const char *begin = tekst.begin(); begin != einde;) {
-        const char *const regelEinde = std::find_if(begin, einde, [](char c) { return c == '\r' || c == '\n'; });
-        doe(QByteArrayView(begin, regelEinde));
-        begin = regelEinde;
-        if (begin != einde && *begin++ == '\r' && begin != einde && *begin == '\n')
-            ++begin;
+    const auto volgende = [&](char teken, qsizetype vanaf) {
+        const qsizetype plaats = tekst.indexOf(teken, vanaf);
+        return plaats < 0 ? tekst.size() : plaats;
+    };
+    for (qsizetype begin = 0, cr = -1, lf = -1; begin < tekst.size();) {
+        if (cr < begin)
+            cr = volgende('\r', begin);
+        if (lf < begin)
+            lf = volgende('\n', begin);
+        const qsizetype einde = std::min(cr, lf);
+        doe(tekst.sliced(begin, einde - begin));
+        begin = lf == cr + 1 ? lf + 1 : einde + 1;
     }
 }

@@ -2,7 +2,6 @@
 
 #include "platform/CodePage.h"
 
-#include <algorithm>
 #include <array>
 
 QString Trim(QStringView tekst)
@@ -45,22 +44,21 @@ static Tabel MaakTabel(QString (*zet)(QString))
     return tabel;
 }
 
-static QByteArray Vertaal(QByteArrayView tekst, const Tabel &tabel)
+static QByteArray Vertaal(QByteArray tekst, const Tabel &tabel)
 {
-    QByteArray vertaald(tekst.size(), Qt::Uninitialized);
-    std::transform(tekst.begin(), tekst.end(), vertaald.begin(),
-                   [&](char teken) { return tabel[static_cast<quint8>(teken)]; });
-    return vertaald;
+    for (char &teken : tekst)
+        teken = tabel[static_cast<quint8>(teken)];
+    return tekst;
 }
 
-QByteArray Hoofdletters(QByteArrayView tekst)
+QByteArray Hoofdletters(QByteArray tekst)
 {
     static const Tabel tabel = MaakTabel(Hoofdletters);
-    return Vertaal(tekst, tabel);
+    return Vertaal(std::move(tekst), tabel);
 }
 
-QByteArray KleineLetters(QByteArrayView tekst)
+QByteArray KleineLetters(QByteArray tekst)
 {
     static const Tabel tabel = MaakTabel(KleineLetters);
-    return Vertaal(tekst, tabel);
+    return Vertaal(std::move(tekst), tabel);
 }

@@ -12,7 +12,7 @@ QString Trim(QStringView tekst);
 QString Hoofdletters(QString tekst);
 QString KleineLetters(QString tekst);
 
-// The same of a text at rest, in bytes of that page.
+// The same of a text at rest, in bytes of that page. One that nobody else holds is changed where it lies.
 
-QByteArray Hoofdletters(QByteArrayView tekst);
-QByteArray KleineLetters(QByteArrayView tekst);
+QByteArray Hoofdletters(QByteArray tekst);
+QByteArray KleineLetters(QByteArray tekst);

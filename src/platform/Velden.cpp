@@ -6,14 +6,20 @@
 
 #include <QByteArrayList>
 
+#include <algorithm>
+#include <array>
+
 namespace Files {
 
 static constexpr char LineEnd[] = "\r\n";
 
-static bool IsLineEnd(char c)
-{
-    return c == '\r' || c == '\n';
-}
+/// What ends a field, by its code: a table, as whole databases are read with it.
+static constexpr auto EindigtVeld = [] {
+    std::array<bool, 256> tabel{};
+    for (const uchar teken : {',', '\r', '\n'})
+        tabel[teken] = true;
+    return tabel;
+}();
 
 QByteArrayView VeldLezer::Neem(qsizetype aantal)
 {
@@ -24,9 +30,9 @@ QByteArrayView VeldLezer::Neem(qsizetype aantal)
 
 void VeldLezer::SlaScheidingOver()
 {
-    if (rest_.startsWith(QByteArrayView(LineEnd)))
+    if (rest_.size() > 1 && rest_[0] == '\r' && rest_[1] == '\n')
         Neem(2);
-    else if (!rest_.isEmpty() && (rest_.front() == ',' || IsLineEnd(rest_.front())))
+    else if (!rest_.isEmpty() && EindigtVeld[static_cast<uchar>(rest_.front())])
         Neem(1);
 }
 
@@ -50,7 +56,7 @@ VeldLezer::Veld VeldLezer::LeesVeld()
             Neem(1);
         slaBlanksOver();
     } else {
-        veld.Bytes = neemTot([](char c) { return c == ',' || IsLineEnd(c); });
+        veld.Bytes = neemTot([](char c) { return EindigtVeld[static_cast<uchar>(c)]; });
     }
     SlaScheidingOver();
     return veld;

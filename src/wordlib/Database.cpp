@@ -5,10 +5,8 @@
 #include "platform/Teksten.h"
 #include "platform/Velden.h"
 
-#include <QByteArrayMatcher>
-
 #include <algorithm>
-#include <set>
+#include <bit>
 #include <string>
 
 Woorden LeesWoorden(QByteArrayView inhoud)
@@ -55,7 +53,7 @@ namespace {
 class Voorraad
 {
 public:
-    explicit Voorraad(std::string_view letters)
+    explicit Voorraad(std::string_view letters) : genomen_(letters)
     {
         for (const char letter : letters)
             ++Aantal(letter);
@@ -69,22 +67,22 @@ public:
         if (Aantal(letter) == 0)
             return false;
         --Aantal(letter);
-        genomen_ += letter;
+        genomen_[aantalGenomen_++] = letter;
         return true;
     }
 
     void LegAllesTerug()
     {
-        for (const char letter : genomen_)
-            ++Aantal(letter);
-        genomen_.clear();
+        while (aantalGenomen_ > 0)
+            ++Aantal(genomen_[--aantalGenomen_]);
     }
 
 private:
     qsizetype &Aantal(char letter) { return aantal_[static_cast<quint8>(letter)]; }
 
     std::array<qsizetype, 256> aantal_{};
-    std::string genomen_;
+    std::string genomen_; ///< as many as there were letters at most
+    size_t aantalGenomen_ = 0;
 };
 
 } // namespace
@@ -168,15 +166,18 @@ static size_t AantalKlinkerplaatsen(std::string_view woord)
 namespace {
 
 /// Sorts words by their length as an exchange sort does: for each place in turn, the word in it changes places with
-/// each shorter one behind it, as they come. There are few lengths; where the words of each stand is kept, so that the
-/// next shorter one is looked up.
+/// each shorter one behind it, as they come. The lengths are the leaves of a tree, in which each node has the shortest
+/// one below it: so the next shorter word is found without passing by all that are not.
 class Ruilsortering
 {
 public:
-    explicit Ruilsortering(std::vector<std::string_view> &woorden) : woorden_(woorden)
+    explicit Ruilsortering(std::vector<std::string_view> &woorden)
+        : woorden_(woorden), bladeren_(std::bit_ceil(woorden.size())), kortste_(2 * bladeren_, Geen)
     {
         for (size_t plaats = 0; plaats < woorden.size(); ++plaats)
-            plaatsen_.at(woorden[plaats].size()).insert(plaats);
+            kortste_[bladeren_ + plaats] = static_cast<quint8>(woorden[plaats].size());
+        for (size_t knoop = bladeren_ - 1; knoop > 0; --knoop)
+            WerkBij(knoop);
         for (size_t plaats = 0; plaats < woorden.size(); ++plaats)
             Ruil(plaats);
     }
@@ -185,11 +186,11 @@ private:
     void Ruil(size_t plaats)
     {
         std::string_view &woord = woorden_[plaats];
-        plaatsen_.at(woord.size()).erase(plaats);
         size_t ander = plaats;
         while ((ander = KortereNa(ander, woord.size())) < woorden_.size()) {
-            plaatsen_.at(woorden_[ander].size()).erase(ander);
-            plaatsen_.at(woord.size()).insert(ander);
+            kortste_[bladeren_ + ander] = static_cast<quint8>(woord.size());
+            for (size_t knoop = (bladeren_ + ander) / 2; knoop > 0; knoop /= 2)
+                WerkBij(knoop);
             std::swap(woord, woorden_[ander]);
         }
     }
@@ -198,17 +199,26 @@ private:
     /// none.
     size_t KortereNa(size_t plaats, size_t lengte) const
     {
-        size_t eerste = woorden_.size();
-        for (size_t kortere = KortsteMetKlinkers; kortere < lengte; ++kortere) {
-            const auto ander = plaatsen_.at(kortere).upper_bound(plaats);
-            if (ander != plaatsen_.at(kortere).end())
-                eerste = std::min(eerste, *ander);
-        }
-        return eerste;
+        size_t knoop = bladeren_ + plaats;
+        do {
+            while (knoop % 2 != 0) // a right branch, or the root
+                knoop /= 2;
+            if (knoop == 0)
+                return woorden_.size();
+            ++knoop;
+        } while (kortste_[knoop] >= lengte);
+        while (knoop < bladeren_)
+            knoop = 2 * knoop + (kortste_[2 * knoop] >= lengte);
+        return knoop - bladeren_;
     }
 
+    void WerkBij(size_t knoop) { kortste_[knoop] = std::min(kortste_[2 * knoop], kortste_[2 * knoop + 1]); }
+
+    static constexpr quint8 Geen = 255; ///< longer than any word
+
     std::vector<std::string_view> &woorden_;
-    std::array<std::set<size_t>, LangsteMetKlinkers + 1> plaatsen_; ///< of the words of each length
+    size_t bladeren_;
+    std::vector<quint8> kortste_; ///< the root at 1, the branches of a node at twice its index
 };
 
 } // namespace
@@ -225,12 +235,19 @@ void ZoekKlinkers(const Zoekgebied &gebied, const Vondst &vondst)
     std::for_each(gevonden.begin(), gevonden.end(), vondst);
 }
 
-void ZoekTrefwoord(QByteArrayView database, QByteArrayView Key, const Vondst &vondst)
+void ZoekTrefwoord(QByteArray database, QByteArrayView Key, const Vondst &vondst)
 {
-    const QByteArray klein = KleineLetters(database);
-    const QByteArrayMatcher trefwoord(Key);
-    VoorElkeRegel(klein, [&](QByteArrayView regel) {
-        if (trefwoord.indexIn(regel) >= 0)
-            vondst({regel.data(), static_cast<size_t>(regel.size())});
-    });
+    const QByteArray klein = KleineLetters(std::move(database));
+    const auto alsTekst = [](QByteArrayView v) { return std::string_view(v.data(), static_cast<size_t>(v.size())); };
+    if (Key.isEmpty())
+        return VoorElkeRegel(klein, [&](QByteArrayView regel) { vondst(alsTekst(regel)); });
+    // The key is looked for in all the lines at once, and the line round it is taken.
+    const std::string_view tekst = alsTekst(klein), trefwoord = alsTekst(Key);
+    for (size_t vanaf = 0, plaats = 0; (plaats = tekst.find(trefwoord, vanaf)) != std::string_view::npos;) {
+        const size_t begin = tekst.find_last_of("\r\n", plaats) + 1; // 0 in the first line
+        const size_t einde = std::min(tekst.find_first_of("\r\n", plaats), tekst.size());
+        if (einde - plaats >= trefwoord.size())
+            vondst(tekst.substr(begin, einde - begin));
+        vanaf = einde + 1;
+    }
 }

@@ -28,7 +28,7 @@ void MaakLetterIndex(const Woorden &Words, qint32 laatste, LetterIndex &LetterSt
 using Vondst = std::function<void(std::string_view woord)>;
 
 /// A search goes through the words from the first one to this index, included. Fout::IndexBuitenBereik is raised when
-/// it comes beyond the words that there are.
+/// it comes beyond the words that there are. No word is empty.
 struct Zoekgebied
 {
     const Woorden &Words;
@@ -54,4 +54,4 @@ void ZoekLengte(const Zoekgebied &gebied, qint16 Lengte, const Vondst &vondst);
 void ZoekKlinkers(const Zoekgebied &gebied, const Vondst &vondst);
 
 /// The lines of a database in lower case that contain the key.
-void ZoekTrefwoord(QByteArrayView database, QByteArrayView Key, const Vondst &vondst);
+void ZoekTrefwoord(QByteArray database, QByteArrayView Key, const Vondst &vondst);

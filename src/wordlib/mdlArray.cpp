@@ -9,7 +9,6 @@
 #include <array>
 #include <bit>
 #include <limits>
-#include <numeric>
 
 static Woord &Op(Woorden &woorden, qint32 index)
 {
@@ -21,6 +20,12 @@ static qint32 LaatsteIndex(const Woorden &woorden)
     if (woorden.empty() || woorden.size() > std::numeric_limits<qint32>::max() / 4)
         throw Fout(Fout::IndexBuitenBereik);
     return static_cast<qint32>(woorden.size()) - 1;
+}
+
+static void EisBereik(const Woorden &woorden, qint32 Lo, qint32 Hi)
+{
+    if (Lo < 0 || Hi >= std::ssize(woorden))
+        throw Fout(Fout::IndexBuitenBereik);
 }
 
 Woord::Woord(std::string_view tekst) : Tekst(tekst)
@@ -81,11 +86,13 @@ static void Splits(Woorden &Arr, qint32 Split, qint32 Lo, qint32 Hi, int diepte)
 
 void QuickSortStrings(Woorden &Arr, qint32 Split, qint32 Lo, qint32 Hi)
 {
-    Splits(Arr, Split, Lo, Hi, 2 * static_cast<int>(std::bit_width(Arr.size())));
+    EisBereik(Arr, Lo, Hi);
+    Splits(Arr, std::max(Split, 1), Lo, Hi, 2 * static_cast<int>(std::bit_width(Arr.size())));
 }
 
 void InsertionSortStrings(Woorden &Arr, qint32 Lo, qint32 Hi)
 {
+    EisBereik(Arr, Lo, Hi);
     for (qint32 I = Lo + 1; I <= Hi; ++I) {
         const Woord T = Op(Arr, I);
         qint32 J = I;
@@ -117,40 +124,78 @@ qint32 HashString(std::string_view Text, qint32 Lengte)
         return -1;
     if (Lengte >= 0)
         Text = Text.substr(0, static_cast<size_t>(Lengte));
-    // Words of four bytes, the first one lowest; the last of them, which may be all zero, and one more are filled up.
+    // Words of four bytes, the first one lowest: K whole ones, one of the bytes that are left over and zeros, one of
+    // zeros.
     const size_t K = Text.size() / 4;
-    quint32 H = 0;
-    for (size_t I = 0; I <= K + 1; ++I) {
-        std::array<char, 4> vier{};
-        if (4 * I < Text.size())
-            Text.copy(vier.data(), vier.size(), 4 * I);
-        H ^= qFromLittleEndian<quint32>(vier.data()) ^ static_cast<quint32>(I);
-    }
+    quint32 H = static_cast<quint32>(K ^ (K + 1));
+    for (size_t I = 0; I < K; ++I)
+        H ^= qFromLittleEndian<quint32>(Text.data() + 4 * I) ^ static_cast<quint32>(I);
+    for (size_t plaats = 4 * K; plaats < Text.size(); ++plaats)
+        H ^= quint32{static_cast<quint8>(Text[plaats])} << 8 * (plaats % 4);
     return static_cast<qint32>(H & 0x7FFFFFFF);
 }
 
-/// The first free place from this one on. Each place names one that lies before or at the next free one; the way is
-/// shortened as it is walked, so that many words of one hash don't walk it over and over.
-static quint32 VrijVanaf(std::vector<quint32> &volgende, quint32 plaats)
+namespace {
+
+/// The free places of a table. Each bit of the lowest level is a place that is taken; one of a higher level stands for
+/// 64 bits below it that are all set, so that no run of taken places, however long, is walked.
+class VrijePlaatsen
 {
-    while (volgende[plaats] != plaats) {
-        volgende[plaats] = volgende[volgende[plaats]];
-        plaats = volgende[plaats];
+public:
+    explicit VrijePlaatsen(size_t aantal)
+    {
+        do {
+            aantal = aantal / 64 + 1; // at least one bit behind the last place, which stays free
+            niveaus_.emplace_back(aantal);
+        } while (aantal > 1);
     }
-    return plaats;
-}
+
+    /// The first free place from this one on; from the number of places on when none of them is.
+    size_t Vanaf(size_t plaats) const
+    {
+        size_t niveau = 0;
+        quint64 vrij = 0;
+        while ((vrij = ~niveaus_[niveau][plaats / 64] >> plaats % 64) == 0) {
+            plaats = plaats / 64 + 1;
+            ++niveau;
+        }
+        plaats += static_cast<size_t>(std::countr_zero(vrij));
+        for (; niveau > 0; --niveau)
+            plaats = plaats * 64 + static_cast<size_t>(std::countr_one(niveaus_[niveau - 1][plaats]));
+        return plaats;
+    }
+
+    void Neem(size_t plaats)
+    {
+        for (std::vector<quint64> &niveau : niveaus_) {
+            quint64 &bits = niveau[plaats / 64];
+            bits |= quint64{1} << plaats % 64;
+            if (~bits != 0)
+                break;
+            plaats /= 64;
+        }
+    }
+
+private:
+    std::vector<std::vector<quint64>> niveaus_;
+};
+
+} // namespace
 
 void BuildHashTable(const Woorden &Arr, std::vector<qint32> &Table)
 {
     const qint32 laatste = LaatsteIndex(Arr);
-    const auto S = static_cast<quint32>(4 * (laatste + 1));
+    const size_t S = 4 * Arr.size();
     Table.assign(S, LeegVak);
-    std::vector<quint32> volgende(S);
-    std::iota(volgende.begin(), volgende.end(), 0U);
+    VrijePlaatsen vrij(S);
     for (qint32 I = 0; I <= laatste; ++I) {
         const qint32 H = HashString(Arr[static_cast<size_t>(I)].Tekst, -1);
-        const quint32 P = VrijVanaf(volgende, static_cast<quint32>(H) % S);
+        if (H < 0)
+            throw Fout(Fout::IndexBuitenBereik);
+        size_t P = vrij.Vanaf(static_cast<size_t>(H) % S);
+        if (P >= S)
+            P = vrij.Vanaf(0); // around the end
         Table[P] = I;
-        volgende[P] = P + 1 == S ? 0 : P + 1;
+        vrij.Neem(P);
     }
 }

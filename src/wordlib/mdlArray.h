@@ -28,11 +28,13 @@ using Woorden = std::vector<Woord>;
 
 /// Sorts, ascending or descending. Raises Fout::IndexBuitenBereik for an array without elements.
 void SortStrings(Woorden &Arr, bool Aflopend);
-/// The part of the sort that leaves runs of at most Split + 1 elements between Lo and Hi as they are. Lo and Hi are
-/// indices of the array, both included.
+/// The part of the sort that leaves runs of at most Split + 1 elements between Lo and Hi as they are, a run of two in
+/// any case: three samples are needed to part one. Lo and Hi are both included; raises Fout::IndexBuitenBereik for one
+/// that is no index of the array, and so does the other part.
 void QuickSortStrings(Woorden &Arr, qint32 Split, qint32 Lo, qint32 Hi);
 /// The part that puts right an array that is nearly sorted between Lo and Hi.
 void InsertionSortStrings(Woorden &Arr, qint32 Lo, qint32 Hi);
+/// Raises Fout::IndexBuitenBereik for an array without elements.
 void ReverseStrings(Woorden &Arr);
 void SwapStrings(Woord &A, Woord &B);
 
@@ -40,7 +42,8 @@ void SwapStrings(Woord &A, Woord &B);
 inline constexpr qint32 LeegVak = -2147483647 - 1;
 
 /// Gives the table four places for each word, and puts the index of each, in order, into the first free place from its
-/// hash on, around the end. Raises Fout::IndexBuitenBereik for an array without elements.
+/// hash on, around the end. Raises Fout::IndexBuitenBereik for an array without elements, and for an empty text, which
+/// has no place.
 void BuildHashTable(const Woorden &Arr, std::vector<qint32> &Table);
 /// The hash of the first so many bytes of a text: 0 up to 2147483647, or -1 for an empty text.
 /// @param Lengte -1 for the whole text

@@ -25,6 +25,18 @@ private slots:
         QCOMPARE(AantalVakjes(u"aap"_s), 3);
         QCOMPARE(AantalVakjes(QString()), 0);
     }
+
+    void itIsOneLetterOfAWordInCapitals()
+    {
+        QCOMPARE(AantalLetters(u"IJSBEER"_s), 6);
+        QCOMPARE(AantalLetters(u"ijsbeer"_s), 7);
+        QCOMPARE(AantalLetters(u"IjsbeeriJ"_s), 9);
+        QCOMPARE(AantalLetters(u"IJIJ"_s), 2);
+        QCOMPARE(AantalLetters(u"IIJJ"_s), 3);
+        QCOMPARE(AantalLetters(u"Doetinchem"_s), 10);
+        QCOMPARE(AantalLetters(u"DE AAP"_s), 6);
+        QCOMPARE(AantalLetters(QString()), 0);
+    }
 };
 
 QTEST_APPLESS_MAIN(tst_LangeIJ)

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 
 #include <limits>
+#include <random>
 
 using namespace Qt::StringLiterals;
 
@@ -27,6 +28,9 @@ private slots:
     void selectingWhatIsNotThereSelectsNothing_data();
     void selectingWhatIsNotThereSelectsNothing();
     void newItemsAreNotSelected();
+    void aSortedListKeepsItsOrder();
+    void aSortedListIsSetInOneGo();
+    void anySortedListIsThatOfThePlainSort();
     void removingLeavesNothingSelected_data();
     void removingLeavesNothingSelected();
     void removingWhatIsNotThereChangesNothing();
@@ -123,6 +127,50 @@ void tst_ListBox::newItemsAreNotSelected()
     lijst.SetItems({u"wim"_s, u"zus"_s, u"jet"_s});
     QCOMPARE(lijst.ListIndex(), -1);
     QCOMPARE(klik.size(), 0);
+}
+
+void tst_ListBox::aSortedListKeepsItsOrder()
+{
+    ListBox lijst(nullptr);
+    lijst.Sorted = true;
+    for (const QString &tekst : {u"noot"_s, u"Mies"_s, u"aap"_s, u"\u00E9\u00E9n"_s, u"NOOT"_s, u"een"_s, u"f"_s})
+        lijst.AddItem(tekst);
+    QCOMPARE(lijst.Items(),
+             (QStringList{u"aap"_s, u"een"_s, u"\u00E9\u00E9n"_s, u"f"_s, u"Mies"_s, u"noot"_s, u"NOOT"_s}));
+    lijst.RemoveItem(3);
+    lijst.AddItem(u"Een"_s);
+    QCOMPARE(lijst.Items(),
+             (QStringList{u"aap"_s, u"een"_s, u"Een"_s, u"\u00E9\u00E9n"_s, u"Mies"_s, u"noot"_s, u"NOOT"_s}));
+}
+
+void tst_ListBox::aSortedListIsSetInOneGo()
+{
+    ListBox lijst(nullptr);
+    lijst.Sorted = true;
+    lijst.AddItem(u"oud"_s);
+    QSignalSpy opnieuw(lijst.model(), &QAbstractItemModel::modelReset);
+    lijst.SetItems({u"noot"_s, u"NOOT"_s, u"aap"_s, u"noot"_s});
+    QCOMPARE(lijst.Items(), (QStringList{u"aap"_s, u"noot"_s, u"NOOT"_s, u"noot"_s}));
+    QCOMPARE(opnieuw.size(), 1);
+}
+
+void tst_ListBox::anySortedListIsThatOfThePlainSort()
+{
+    std::mt19937 toeval(1);
+    for (int ronde = 0; ronde < 50; ++ronde) {
+        QStringList teksten;
+        for (int i = 0; i < 40; ++i)
+            teksten += QStringLiteral("aAbB").sliced(toeval() % 4, 1) + QStringLiteral("aAbB").sliced(toeval() % 4, 1);
+        ListBox eenVoorEen(nullptr), ineens(nullptr);
+        eenVoorEen.Sorted = ineens.Sorted = true;
+        for (const QString &tekst : teksten)
+            eenVoorEen.AddItem(tekst);
+        ineens.SetItems(teksten);
+        std::stable_sort(teksten.begin(), teksten.end(),
+                         [](const QString &a, const QString &b) { return a.toLower() < b.toLower(); });
+        QCOMPARE(eenVoorEen.Items(), teksten);
+        QCOMPARE(ineens.Items(), teksten);
+    }
 }
 
 void tst_ListBox::removingLeavesNothingSelected_data()

@@ -16,6 +16,8 @@ private slots:
     void noOtherLetterOfTheCodePageHasAPartner();
     void aLetterOutsideTheCodePageStays();
     void aTextKeepsItsLength();
+    void bytesAreThoseOfTheText();
+    void bytesThatAreHeldElsewhereStay();
 };
 
 void tst_Teksten::trimTakesBlanksOffBothEnds_data()
@@ -91,6 +93,27 @@ void tst_Teksten::aTextKeepsItsLength()
     QCOMPARE(Hoofdletters(tekst).size(), tekst.size());
     QCOMPARE(KleineLetters(tekst).size(), tekst.size());
     QCOMPARE(Hoofdletters(tekst), u"STRA\u00DFE \U0001F600 \uFB01 "_s + QChar(0xD800));
+}
+
+void tst_Teksten::bytesAreThoseOfTheText()
+{
+    QByteArray alle;
+    for (int code = 0; code < 256; ++code)
+        alle += static_cast<char>(code);
+    QCOMPARE(Hoofdletters(alle), Files::NaarBytes(Hoofdletters(Files::NaarTekst(alle))));
+    QCOMPARE(KleineLetters(alle), Files::NaarBytes(KleineLetters(Files::NaarTekst(alle))));
+    QCOMPARE(Hoofdletters("aB1\xE9\xFF\xDF"_ba), QByteArray("AB1\xC9\x9F\xDF"));
+    QCOMPARE(KleineLetters("aB1\xC9\x9F\xDF"_ba), QByteArray("ab1\xE9\xFF\xDF"));
+    QCOMPARE(Hoofdletters(QByteArray()), QByteArray());
+}
+
+void tst_Teksten::bytesThatAreHeldElsewhereStay()
+{
+    const QByteArray bytes("aap"), vast = QByteArray::fromRawData("noot", 4);
+    QCOMPARE(Hoofdletters(bytes), QByteArray("AAP"));
+    QCOMPARE(bytes, QByteArray("aap"));
+    QCOMPARE(Hoofdletters(vast), QByteArray("NOOT"));
+    QCOMPARE(vast, QByteArray("noot"));
 }
 
 RASTER_TEST(tst_Teksten)

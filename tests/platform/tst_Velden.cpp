@@ -11,6 +11,8 @@ private slots:
     void fieldsAreRead_data();
     void fieldsAreRead();
     void textFieldsAreCodePage1252();
+    void itemsAreReadAsBytes_data();
+    void itemsAreReadAsBytes();
     void numberFieldsAreRead();
     void aNumberFieldThatIsNoNumberFails_data();
     void aNumberFieldThatIsNoNumberFails();
@@ -72,6 +74,42 @@ void tst_Velden::textFieldsAreCodePage1252()
     Files::VeldLezer lezer(inhoud);
     QCOMPARE(lezer.Tekst(), u"\u20AC 5"_s);
     QCOMPARE(lezer.Tekst(), u"geti\u00EBnd"_s);
+}
+
+void tst_Velden::itemsAreReadAsBytes_data()
+{
+    QTest::addColumn<QByteArray>("inhoud");
+    QTest::addColumn<QByteArrayList>("items");
+    const auto rij = [](const char *naam, const char *inhoud, const QByteArrayList &items) {
+        Geval(naam, QByteArray(inhoud), items);
+    };
+    rij("nothing", "", {});
+    rij("lines and commas", "aap\r\nnoot,mies\r\n", {"aap", "noot", "mies"});
+    rij("blanks around go", "  aap  , noot \r\n\t wim ", {"aap", "noot", "\t wim"});
+    rij("blanks within stay", "de  aap", {"de  aap"});
+    rij("a tab behind stays", "aap\t\r\nnoot \t \r\n", {"aap\t", "noot \t"});
+    rij("a hard space stays",
+        "\xA0"
+        "aap\xA0",
+        {"\xA0"
+         "aap\xA0"});
+    rij("quotes go, blanks in them stay", "\" aap \" , noot", {" aap ", "noot"});
+    rij("comma and line end in quotes", "\"aap,\r\nnoot\",mies", {"aap,\r\nnoot", "mies"});
+    rij("quotes that don't close", "\"aap \r\nnoot", {"aap \r\nnoot"});
+    rij("a quote further on", "aap\"noot \",mies", {"aap\"noot \"", "mies"});
+    rij("empty ones", ",\r\n  \r\n\"\",", {"", "", "", ""});
+    rij("bytes of the code page", "caf\xE9,\x80\xFF", {"caf\xE9", "\x80\xFF"});
+}
+
+void tst_Velden::itemsAreReadAsBytes()
+{
+    QFETCH(QByteArray, inhoud);
+    Files::VeldLezer lezer(inhoud);
+    QByteArrayList gelezen;
+    while (!lezer.Einde())
+        gelezen += lezer.Item().toByteArray();
+    QTEST(gelezen, "items");
+    QCOMPARE(FoutVan([&] { lezer.Item(); }), int{Fout::EindeBestand});
 }
 
 void tst_Velden::numberFieldsAreRead()
