@@ -35,9 +35,10 @@ def starts(build, folder):
     return [tuple(map(statistics.median, zip(*one))) for one in zip(*rounds)]
 
 
-def boards(build):
-    said = subprocess.run([build / "bench_bord", "--benchmark_format=json", "--benchmark_repetitions=5",
-                           "--benchmark_report_aggregates_only=true"], capture_output=True, text=True, check=True)
+def medians(program, *options):
+    """The median time of each benchmark of a program."""
+    said = subprocess.run([program, "--benchmark_format=json", "--benchmark_repetitions=5",
+                           "--benchmark_report_aggregates_only=true", *options], capture_output=True, text=True, check=True)
     return {row["run_name"].split("/")[0]: row["real_time"] for row in json.loads(said.stdout)["benchmarks"]
             if row["aggregate_name"] == "median"}
 
@@ -51,11 +52,22 @@ server = start_x_server()
 try:
     with tempfile.TemporaryDirectory() as folder:
         (ours, memory), (empty, empty_memory), (picture, _) = starts(build, folder)
-    times = boards(build)
+    times = medians(build / "bench_bord")
+    words = medians(build / "bench_woorden", "--benchmark_enable_random_interleaving=true")
 finally:
     server.terminate()
 report("start to first painted window, beside an empty one", ours * 1000, empty * 1000, "ms", 1.5)
 report("the same, beside a window with text and a picture", ours * 1000, picture * 1000, "ms", 1.2)
 report("drawing both boards, beside a plain fill", times["DrawBothBoards"], times["FillBothPictures"], "us", 4)
 report("a whole save, beside the same bytes and fsync", times["WholeSaveWithoutItsWaits"], times["WriteTheSameBytes"], "ms", 2)
+for what, ours, peer, most in [
+        ("a shuffled word list loaded, beside sort", "LoadShuffled", "SortShuffled", 0.85),
+        ("the same in its order, beside sort of the shuffled", "LoadInFileOrder", "SortShuffled", 0.4),
+        ("words of seven letters and two wildcards, beside an", "ZoekLetters", "AnWords", 0.05),
+        ("words by their begin, beside grep", "ZoekBegin", "GrepBegin", 1),
+        ("words by their end, beside grep", "ZoekEind", "GrepEnd", 1),
+        ("words that contain a key, beside grep", "ZoekTrefwoord", "GrepKeyword", 1),
+        ("anagrams of nine letters, beside an", "ZoekWisselingen", "AnAnagrams", 0.05),
+        ("nine cells of which three known, beside grep -E", "ZoekOntbrekende", "GrepMissing", 1)]:
+    report(what, words[ours], words[peer], "ms", most)
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")

@@ -2,6 +2,8 @@
 
 #include "platform/CodePage.h"
 
+#include <QtEndian>
+
 #include <array>
 
 QString Trim(QStringView tekst)
@@ -44,21 +46,35 @@ static Tabel MaakTabel(QString (*zet)(QString))
     return tabel;
 }
 
-static QByteArray Vertaal(QByteArray tekst, const Tabel &tabel)
+static void Vertaal(char *begin, const char *einde, const Tabel &tabel)
 {
-    for (char &teken : tekst)
-        teken = tabel[static_cast<quint8>(teken)];
-    return tekst;
+    for (; begin != einde; ++begin)
+        *begin = tabel[static_cast<quint8>(*begin)];
 }
 
 QByteArray Hoofdletters(QByteArray tekst)
 {
     static const Tabel tabel = MaakTabel(Hoofdletters);
-    return Vertaal(std::move(tekst), tabel);
+    Vertaal(tekst.begin(), tekst.end(), tabel);
+    return tekst;
+}
+
+/// Whether eight bytes are from within ASCII, and none of them is in the row of the capitals there: as most of a word
+/// file is, which is passed over so.
+static bool IsAlKlein(const char *acht)
+{
+    constexpr quint64 Hoog = 0x8080808080808080, Letters = Hoog >> 1; // small ones have the bit below it too
+    const auto bytes = qFromUnaligned<quint64>(acht);
+    return ((bytes & Hoog) | (bytes & ~(bytes << 1) & Letters)) == 0;
 }
 
 QByteArray KleineLetters(QByteArray tekst)
 {
     static const Tabel tabel = MaakTabel(KleineLetters);
-    return Vertaal(std::move(tekst), tabel);
+    char *deel = tekst.begin(), *const einde = tekst.end();
+    for (; einde - deel >= 8; deel += 8)
+        if (!IsAlKlein(deel))
+            Vertaal(deel, deel + 8, tabel);
+    Vertaal(deel, einde, tabel);
+    return tekst;
 }

@@ -102,6 +102,13 @@ void tst_Teksten::bytesAreThoseOfTheText()
         alle += static_cast<char>(code);
     QCOMPARE(Hoofdletters(alle), Files::NaarBytes(Hoofdletters(Files::NaarTekst(alle))));
     QCOMPARE(KleineLetters(alle), Files::NaarBytes(KleineLetters(Files::NaarTekst(alle))));
+    for (int plaats = 0; plaats < 11; ++plaats)
+        for (const char teken : std::as_const(alle)) {
+            QByteArray bytes(11, 'a');
+            bytes[plaats] = teken;
+            QCOMPARE(Hoofdletters(bytes), Files::NaarBytes(Hoofdletters(Files::NaarTekst(bytes))));
+            QCOMPARE(KleineLetters(bytes), Files::NaarBytes(KleineLetters(Files::NaarTekst(bytes))));
+        }
     QCOMPARE(Hoofdletters("aB1\xE9\xFF\xDF"_ba), QByteArray("AB1\xC9\x9F\xDF"));
     QCOMPARE(KleineLetters("aB1\xC9\x9F\xDF"_ba), QByteArray("ab1\xE9\xFF\xDF"));
     QCOMPARE(Hoofdletters(QByteArray()), QByteArray());
