@@ -232,7 +232,8 @@ void Form::Wacht(double seconden)
 void Form::Sluit(ImageButton *knop, double wachttijd)
 {
     knop->Druk();
-    Wacht(wachttijd);
+    if (wachttijd > 0)
+        Wacht(wachttijd);
     Unload();
 }
 

@@ -32,12 +32,19 @@ void Klok::Slaap(double seconden, QEventLoop::ProcessEventsFlags welke)
 void Klok::Wacht(double seconden, QEventLoop::ProcessEventsFlags welke)
 {
     constexpr double Rounding = 1e-6; // what a difference of two times of a day loses at most
+    const auto slaap = [&](double zoLang) {
+        Slaap(zoLang, welke);
+        if (programmaEindigt)
+            throw Afgebroken();
+    };
+    if (seconden <= 0) {
+        slaap(0);
+        return;
+    }
     const double begin = Timer();
     double rest = seconden;
     while (rest > Rounding) {
-        Slaap(std::min(rest, seconden), welke);
-        if (programmaEindigt)
-            throw Afgebroken();
+        slaap(std::min(rest, seconden));
         const double nu = Timer();
         if (nu < begin && welke.testFlag(QEventLoop::ExcludeUserInputEvents))
             break; // at midnight such a wait would shut the user out for a day

@@ -16,7 +16,8 @@ public:
     /// Sleeps in the event loop for so many seconds, handling the events that come.
     virtual void Slaap(double seconden, QEventLoop::ProcessEventsFlags welke);
 
-    /// Waits until Timer has grown by so many seconds, running events all the while. It compares seconds since
+    /// Waits until Timer has grown by so many seconds, running events all the while; a wait of nothing runs those that
+    /// are pending. It compares seconds since
     /// midnight: a wait that spans midnight does not end in time, and nothing guards against that but where input is
     /// held back. Raises Afgebroken when the program has been ended meanwhile.
     /// @param welke ExcludeUserInputEvents keeps clicks and keys for later

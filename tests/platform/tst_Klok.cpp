@@ -34,10 +34,10 @@ private:
     std::vector<double> tijden_;
 };
 
-static bool IsAfgebroken(Klok &klok)
+static bool IsAfgebroken(Klok &klok, double seconden = 1)
 {
     try {
-        klok.Wacht(1);
+        klok.Wacht(seconden);
     } catch (const Afgebroken &) {
         return true;
     }
@@ -123,12 +123,37 @@ private slots:
         QCOMPARE(klok.Gewacht(), 2.0);
     }
 
-    void aWaitOfNothingDoesNotSleep()
+    void aWaitOfNothingRunsPendingEventsOnce()
     {
-        LijstKlok klok(100, {});
-        klok.Wacht(0);
+        LijstKlok klok(86399.9, {0.1}); // midnight doesn't prolong it
+        klok.Wacht(0, QEventLoop::ExcludeUserInputEvents);
+        QCOMPARE(klok.Gevraagd, std::vector{0.0});
+        QCOMPARE(klok.Welke, QEventLoop::ExcludeUserInputEvents);
+    }
+
+    void aWaitOfLessThanNothingIsOneOfNothing()
+    {
+        LijstKlok klok(100, {100});
         klok.Wacht(-1);
-        QVERIFY(klok.Gevraagd.empty());
+        QCOMPARE(klok.Gevraagd, std::vector{0.0});
+    }
+
+    void aRealWaitOfNothingRunsPendingEvents()
+    {
+        Klok klok;
+        int gedaan = 0;
+        QMetaObject::invokeMethod(
+            this, [&] { ++gedaan; }, Qt::QueuedConnection);
+        klok.Wacht(0);
+        QCOMPARE(gedaan, 1);
+    }
+
+    void theEndOfTheProgramEndsAWaitOfNothingToo()
+    {
+        DirecteKlok klok;
+        QMetaObject::invokeMethod(
+            this, [] { Klok::ProgrammaEindigt(); }, Qt::QueuedConnection);
+        QVERIFY(IsAfgebroken(klok, 0));
     }
 
     void aWaitSleepsOnlyWhatIsLeft()
