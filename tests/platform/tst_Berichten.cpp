@@ -140,11 +140,20 @@ private slots:
         QVERIFY(metEnter.Gegeven == Antwoord::Ja);
     }
 
-    void aRealCriticalMessageHasItsIcon()
+    void aRealMessageHasItsIcon_data()
     {
-        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Kritiek, QString(),
+        QTest::addColumn<int>("icoon");
+        QTest::addColumn<int>("plaatje");
+        Geval("none", int(Icoon::Geen), int(QMessageBox::NoIcon));
+        Geval("critical", int(Icoon::Kritiek), int(QMessageBox::Critical));
+        Geval("warning", int(Icoon::Waarschuwing), int(QMessageBox::Warning));
+    }
+    void aRealMessageHasItsIcon()
+    {
+        QFETCH(int, icoon);
+        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, static_cast<Icoon>(icoon), QString(),
                                   [](QMessageBox &box) { box.close(); });
-        QCOMPARE(bericht.Plaatje, QMessageBox::Critical);
+        QTEST(int(bericht.Plaatje), "plaatje");
         QVERIFY(bericht.Gegeven == Antwoord::Ok);
     }
 

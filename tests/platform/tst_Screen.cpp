@@ -32,6 +32,21 @@ private slots:
         QCOMPARE(Pointer(), -1);
     }
 
+    void busyWorkShowsTheHourglassUntilItEnds()
+    {
+        {
+            const Screen::Bezig bezig;
+            QCOMPARE(Pointer(), int(Qt::WaitCursor));
+        }
+        QCOMPARE(Pointer(), -1);
+        QCOMPARE(FoutVan([] {
+                     const Screen::Bezig bezig;
+                     throw Fout(Fout::Overloop);
+                 }),
+                 int(Fout::Overloop));
+        QCOMPARE(Pointer(), -1); // also when a failure ends the work
+    }
+
     void whateverPointerWasSetIsTakenAway()
     {
         QGuiApplication::setOverrideCursor(Qt::CrossCursor);
