@@ -37,9 +37,8 @@ class KijkKlok : public DirecteKlok
 public:
     void Slaap(double seconden, QEventLoop::ProcessEventsFlags welke) override
     {
-        const QCursor *pointer = QGuiApplication::overrideCursor();
         Verloop += u"%1 s"_s.arg(seconden, 0, 'g', 3);
-        Zandloper = Zandloper && pointer && pointer->shape() == Qt::WaitCursor;
+        Zandloper = Zandloper && ::Zandloper();
         InTwips = InTwips && Main().Pic->ScaleMode() == ScaleModes::Twips;
         Welke = welke;
         DirecteKlok::Slaap(seconden, welke);

@@ -25,8 +25,7 @@ public:
             Breedtes += InktVlak(Form->Bar->Image(), QRect(0, 0, 400, 22)).width();
             Wachttijden += seconden;
             Welke += welke;
-            const QCursor *pointer = QGuiApplication::overrideCursor();
-            Zandlopers += pointer && pointer->shape() == Qt::WaitCursor;
+            Zandlopers += Zandloper();
         }
     }
     SaveForm *Form = nullptr;

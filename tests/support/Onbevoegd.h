@@ -2,6 +2,7 @@
 
 #include "support/Testbank.h"
 
+#include <QDir>
 #include <QFile>
 
 #include <unistd.h>
@@ -12,19 +13,24 @@ class Onbevoegd
 {
 public:
     /// @param dicht the folders below the bank's Map where nothing can be made, "" for that folder itself
-    explicit Onbevoegd(const Testbank &bank, const QStringList &dicht) : map_(bank.Map()), root_(geteuid() == 0)
+    /// @param geheim those that cannot be looked into either
+    explicit Onbevoegd(const Testbank &bank, const QStringList &dicht, const QStringList &geheim = {})
+        : map_(bank.Map()), root_(geteuid() == 0)
     {
-        for (const QString &map : Mappen())
-            QFile::setPermissions(map_ + map, dicht.contains(map.mid(1)) ? Kijken : Kijken | Schrijven);
+        for (const QString &map : Mappen()) {
+            const QFile::Permissions kijken = geheim.contains(map.mid(1)) ? QFile::Permissions() : Kijken;
+            const bool magSchrijven = !dicht.contains(map.mid(1)) && kijken;
+            QFile::setPermissions(map_ + map, magSchrijven ? kijken | Schrijven : kijken);
+        }
         if (root_) {
             QFile::setPermissions(map_ + QLatin1String("/.."), Kijken | QFile::WriteOwner);
-            QCOMPARE(seteuid(65534), 0);
+            QCOMPARE(setresuid(65534, 65534, 0), 0); // it can come back
         }
     }
     ~Onbevoegd()
     {
         if (root_)
-            QCOMPARE(seteuid(0), 0);
+            QCOMPARE(setresuid(0, 0, 0), 0);
         for (const QString &map : Mappen())
             QFile::setPermissions(map_ + map, Kijken | Schrijven);
     }
@@ -34,7 +40,13 @@ private:
     static constexpr QFile::Permissions Kijken =
         QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
     static constexpr QFile::Permissions Schrijven = QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther;
-    static QStringList Mappen() { return {QString(), QStringLiteral("/Puzzels")}; }
+    QStringList Mappen() const
+    {
+        QStringList mappen{QString()};
+        for (const QString &map : QDir(map_).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
+            mappen += u'/' + map;
+        return mappen;
+    }
 
     QString map_;
     bool root_;

@@ -69,6 +69,12 @@ QStringList Testbank::Bestanden(const QString &onderMap) const
     return QDir(Map() + u'/' + onderMap).entryList(QDir::Files | QDir::Hidden, QDir::Name);
 }
 
+bool Zandloper()
+{
+    const QCursor *pointer = QGuiApplication::overrideCursor();
+    return pointer && pointer->shape() == Qt::WaitCursor;
+}
+
 QString NamenIn(const QObject &venster)
 {
     QStringList namen;

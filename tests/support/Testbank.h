@@ -57,6 +57,9 @@ template <class... Waarden> void Geval(const QByteArray &naam, const Waarden &..
     (void)(QTest::newRow(naam.constData()) << ... << waarden);
 }
 
+/// Whether the pointer is the hourglass.
+bool Zandloper();
+
 /// Whether something other than the colour stands in a rectangle of the picture, in pixels.
 bool HeeftInkt(const QImage &beeld, QRect vlak, QRgb achtergrond = qRgb(255, 255, 255));
 /// The smallest rectangle round all pixels within `vlak` that are not of the colour; empty when there are none.
