@@ -22,34 +22,31 @@ static void MaakItem(QWidget &balkOfMenu, const MenuRegel &regel)
     (*regel.Item)->setEnabled(false);
 }
 
-static void VulMenu(QMenuBar &balk, const char *naam, const QString &opschrift, const QList<MenuRegel> &regels)
+static void VulMenu(QMenu &menu, const QList<MenuRegel> &regels)
 {
-    QMenu *menu = balk.addMenu(opschrift);
-    menu->setObjectName(QLatin1String(naam));
     for (const MenuRegel &regel : regels) {
         if (regel.Item)
-            MaakItem(*menu, regel);
+            MaakItem(menu, regel);
         else
-            menu->addSeparator()->setObjectName(QLatin1String(regel.Naam));
+            menu.addSeparator()->setObjectName(QLatin1String(regel.Naam));
     }
 }
 
 void MainForm::MaakMenuBalk()
 {
     QMenuBar &balk = *MenuBalk();
-    VulMenu(balk, "Bestand", u"Bestand"_s,
-            {{&FileNew, "FileNew", u"Nieuwe puzzel ontwerpen"_s},
-             {nullptr, "FileStreep1", {}},
-             {&FileOpen, "FileOpen", u"Puzzel openen"_s},
-             {&FileSave, "FileSave", u"Puzzel opslaan"_s},
-             {&FilePrint, "FilePrint", u"Puzzel afdrukken"_s},
-             {nullptr, "FileStreep2", {}},
-             {&FileExit, "FileExit", u"Exit"_s}});
-    VulMenu(balk, "ShowGroot", u"Show"_s, {{&ShowOrgineel, "ShowOrgineel", u"Orgineel puzzelveld"_s}});
-    VulMenu(balk, "Edit", u"Bewerken"_s,
+    VulMenu(*MaakMenu("Bestand", u"Bestand"_s), {{&FileNew, "FileNew", u"Nieuwe puzzel ontwerpen"_s},
+                                                 {nullptr, "FileStreep1", {}},
+                                                 {&FileOpen, "FileOpen", u"Puzzel openen"_s},
+                                                 {&FileSave, "FileSave", u"Puzzel opslaan"_s},
+                                                 {&FilePrint, "FilePrint", u"Puzzel afdrukken"_s},
+                                                 {nullptr, "FileStreep2", {}},
+                                                 {&FileExit, "FileExit", u"Exit"_s}});
+    VulMenu(*MaakMenu("ShowGroot", u"Show"_s), {{&ShowOrgineel, "ShowOrgineel", u"Orgineel puzzelveld"_s}});
+    VulMenu(*MaakMenu("Edit", u"Bewerken"_s),
             {{&EditDeleteRaster, "EditDeleteRaster", u"Verwijder raster Filippine"_s},
              {&EditDeleteLetters, "EditDeleteLetters", u"Verwijder letters Filippine"_s}});
-    VulMenu(balk, "Biebliotheek", u"Bibliotheek"_s,
+    VulMenu(*MaakMenu("Biebliotheek", u"Bibliotheek"_s),
             {{&BiebOnlineWoordenboek, "BiebOnlineWoordenboek", u"Online woordenboek"_s},
              {nullptr, "BiebStreep1", {}},
              {&BiebInternZoeken, "BiebInternZoeken", u"Database doorzoeken"_s},
@@ -58,15 +55,15 @@ void MainForm::MaakMenuBalk()
              {nullptr, "BiebStreep2", {}},
              {&BiebSpreekwoorden, "BiebSpreekwoorden", u"Spreekwoorden en gezegden"_s},
              {&BiebChemisch, "BiebChemisch", u"Scheikundige symbolen"_s}});
-    VulMenu(balk, "Tools", u"Tools"_s,
+    VulMenu(*MaakMenu("Tools", u"Tools"_s),
             {{&ToolsAdd, "ToolsAdd", u"Woordlijsten bewerken"_s},
              {&ToolsConfig, "ToolsConfig", u"Instellingen"_s},
              {&ToolsKlemboard, "ToolsKlemboard", u"Copy puzzelveld naar Clipboard"_s},
              {&ToolsKladblok, "ToolsKladblok", u"Kladblok"_s},
              {nullptr, "ToolsStreep1", {}},
              {&ToolsAutoWoordzoeker, "ToolsAutoWoordzoeker", u"Automatische woordzoeker"_s}});
-    VulMenu(balk, "Exporteren", u"Website"_s, {{&Export1, "Export(1)", u"Html webpagina maken"_s}});
-    VulMenu(balk, "Help", u"Help"_s,
+    VulMenu(*MaakMenu("Exporteren", u"Website"_s), {{&Export1, "Export(1)", u"Html webpagina maken"_s}});
+    VulMenu(*MaakMenu("Help", u"Help"_s),
             {{&HelpHelp, "HelpHelp", u"Uitleg en hulp"_s},
              {&HelpSpecialeTekens, "HelpSpecialeTekens", u"Speciale tekens"_s},
              {&HelpMeerSoftware, "HelpMeerSoftware", u"Meer software"_s},

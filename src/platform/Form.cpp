@@ -246,6 +246,13 @@ void Form::Kleur(QWidget *control, QRgb achter, QRgb voor)
     control->setPalette(palet);
 }
 
+QMenu *Form::MaakMenu(const char *naam, const QString &opschrift)
+{
+    QMenu *menu = menuBalk_->addMenu(opschrift);
+    menu->setObjectName(QLatin1String(naam));
+    return menu;
+}
+
 QAction *MaakItem(QWidget &menu, const char *naam, const QString &opschrift)
 {
     auto *item = new QAction(opschrift, &menu);

@@ -10,6 +10,7 @@ class ImageBox;
 class ImageButton;
 class QAction;
 class QComboBox;
+class QMenu;
 class QMenuBar;
 class QRadioButton;
 class QScrollBar;
@@ -106,6 +107,8 @@ protected:
     void PasOpScherm();
 
     QMenuBar *MenuBalk() const { return menuBalk_; }
+    /// A menu at the end of the menu bar.
+    QMenu *MaakMenu(const char *naam, const QString &opschrift);
 
 private:
     void bijOpties(const QList<QRadioButton *> &opties, const std::function<void(int)> &handler);

@@ -130,7 +130,8 @@ void AddForm::NieuwKnop_Click()
     Text2->setFocus();
 }
 
-// A list that the user keeps closes the window too; wanted so.
+// A list that the user keeps closes the window too; wanted so. What was clicked during the progress show is not done
+// when that is over.
 void AddForm::SaveKnop_Click()
 {
     SaveKnop->Druk();
@@ -142,7 +143,7 @@ void AddForm::SaveKnop_Click()
         return;
     }
     SaveWoorden(Naam);
-    Wacht(0.2);
+    Wachten(0.2, QEventLoop::ExcludeUserInputEvents);
     Unload();
 }
 

@@ -9,7 +9,7 @@
 #include "platform/ScrollBar.h"
 #include "wordlib/Ontbrekend.h"
 
-#include <QMenuBar>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -38,7 +38,7 @@ MissingForm::MissingForm() : Form(u"MissingForm"_s, u"Ontbrekende Letters"_s, 81
     CancelKnop = MaakCancelKnop();
     ExportKnop = MaakKnopMetTip("ExportKnop", u" Woordenlijst exporteren naar hoofdscherm "_s, u"knop-export"_s);
     HelpPic = Maak<PictureBox>("HelpPic", u"Uitleg Ontbrekende letters"_s);
-    QMenu *help = MenuBalk()->addMenu(u"Help"_s);
+    QMenu *help = MaakMenu("Help", u"Help"_s);
     HelpUitleg = MaakItem(*help, "HelpUitleg", u"Uitleg Ontbrekende letters"_s);
     PasOpScherm();
 
@@ -50,7 +50,7 @@ MissingForm::MissingForm() : Form(u"MissingForm"_s, u"Ontbrekende Letters"_s, 81
     Zet(HScroll1, 2730, 2910, 5130, 300);
     Zet(Label4, 2700, 3270);
     Zet(Label5, 3945, 3270);
-    Zet(OkKnop, 2700, 3660);
+    Zet(OkKnop, 2700, 3660, 840, 330);
     Zet(Label7, 3750, 3720);
     Zet(CancelKnop, 6060, 3840);
     Zet(ExportKnop, 7065, 3840, 810, 360);

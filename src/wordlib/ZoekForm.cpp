@@ -11,7 +11,7 @@
 #include "platform/Screen.h"
 #include "platform/Teksten.h"
 
-#include <QMenuBar>
+#include <QMenu>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -37,7 +37,7 @@ ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100,
     ExportKnop = MaakKnopMetTip("ExportKnop", u" Copy woorden t/m 20 letters "_s, u"knop-export"_s);
     Label7 = MaakLabel("Label7", u"Copyeer lijst naar hoofdscherm"_s);
     Image1 = MaakBeeld("Image1", QString(), u"database"_s);
-    QMenu *bestand = MenuBalk()->addMenu(u"Bestand"_s);
+    QMenu *bestand = MaakMenu("Bestand", u"Bestand"_s);
     FilePrint = MaakItem(*bestand, "FilePrint", u"Lijst afdrukken"_s);
     PasOpScherm();
 
@@ -46,8 +46,10 @@ ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100,
     Zet(Text1, 3450, 300, 3390, 360);
     Zet(Label4, 6990, 360);
     Zet(Label3, 3510, 750, 3300, 1500);
-    for (int i = 0; i < Option1.size(); ++i)
+    for (int i = 0; i < Option1.size(); ++i) {
+        Option1[i]->setObjectName(u"Option1(%1)"_s.arg(i));
         Zet(Option1[i], 3600, 1800 + 300 * i, 3450, 300);
+    }
     Zet(Picture1, 990, 1770, 1440, 450);
     Zet(Label1, 3450, 3480, 1200, 390);
     Zet(Knop, 3480, 3510, 1140, 330);

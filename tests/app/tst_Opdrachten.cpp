@@ -6,6 +6,7 @@
 #include "platform/LineBox.h"
 #include "support/Bestuurder.h"
 #include "support/Bord.h"
+#include "support/Verloop.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -106,6 +107,29 @@ private slots:
         Bestuurder bestuurder(venster, [](Form &form) { QVERIFY(form.isModal()); });
         Vind<QAction>(programma.Main(), item)->trigger();
         QVERIFY(bestuurder.Gezien());
+    }
+
+    // The notice lies over the board and the pointer is the hourglass as long as the database is read.
+    void theSearchOfTheDatabaseShowsANotice()
+    {
+        Programma programma;
+        MainForm &main = programma.Main();
+        QVERIFY(QDir(programma.Scherm.Bank.Map()).mkdir(u"Data"_s));
+        programma.Scherm.Bank.Schrijf(u"Data/nederlands.lib"_s, "aal");
+        const Stand ervoor = programma.Scherm.Nu();
+        QImage notitie;
+        Verloop verloop([&] {
+            notitie = Getoond(main).copy(QRect(main.Label2->mapTo(&main, QPoint()), main.Label2->size()));
+            return programma.Scherm.Veranderd(ervoor);
+        });
+        bool geladen = false;
+        Bestuurder bestuurder(u"ZoekForm"_s, [&](Form &) { geladen = main.Label2->isHidden() && !Zandloper(); });
+        main.BiebInternZoeken->trigger();
+        QCOMPARE(verloop.Stappen, QStringList{u"0 s zonder invoer | zandloper Label2"_s});
+        QCOMPARE(notitie, Getoond(*main.Label2));
+        QCOMPARE(notitie.pixel(0, 0), qRgb(230, 230, 0));
+        QVERIFY(geladen);
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), QString());
     }
 
     void documentsAndAddresses_data()
