@@ -7,7 +7,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestWoordlijst : public QObject
+class tst_Woordlijst : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ private slots:
     void anyLinesAreSearched();
 };
 
-void TestWoordlijst::itemsAreRead_data()
+void tst_Woordlijst::itemsAreRead_data()
 {
     QTest::addColumn<QByteArray>("inhoud");
     QTest::addColumn<QStringList>("woorden");
@@ -39,13 +39,13 @@ void TestWoordlijst::itemsAreRead_data()
     rij("code page 1252", "\xC9\xC9N \x80\r\n", {u"\u00C9\u00C9N \u20AC"_s});
 }
 
-void TestWoordlijst::itemsAreRead()
+void tst_Woordlijst::itemsAreRead()
 {
     QFETCH(QByteArray, inhoud);
     QTEST(LeesWoordlijst(inhoud), "woorden");
 }
 
-void TestWoordlijst::wordsAreWrittenInCapitals_data()
+void tst_Woordlijst::wordsAreWrittenInCapitals_data()
 {
     QTest::addColumn<QStringList>("woorden");
     QTest::addColumn<QByteArray>("inhoud");
@@ -56,20 +56,20 @@ void TestWoordlijst::wordsAreWrittenInCapitals_data()
     Geval("an empty word", QStringList{""}, QByteArray("\r\n"));
 }
 
-void TestWoordlijst::wordsAreWrittenInCapitals()
+void tst_Woordlijst::wordsAreWrittenInCapitals()
 {
     QFETCH(QStringList, woorden);
     QTEST(SchrijfWoordlijst(woorden), "inhoud");
 }
 
-void TestWoordlijst::whatIsWrittenIsReadBack()
+void tst_Woordlijst::whatIsWrittenIsReadBack()
 {
     const QStringList woorden{"AAP", "", "DE AAP", u"\u00C9\u00C9N"_s, "AAP"};
     QCOMPARE(LeesWoordlijst(SchrijfWoordlijst(woorden)), woorden);
     QCOMPARE(LeesWoordlijst(SchrijfWoordlijst({"aap,noot"})), (QStringList{"AAP", "NOOT"}));
 }
 
-void TestWoordlijst::linesOfSoManyCellsAreFound_data()
+void tst_Woordlijst::linesOfSoManyCellsAreFound_data()
 {
     QTest::addColumn<QByteArray>("database");
     QTest::addColumn<int>("cellen");
@@ -87,14 +87,14 @@ void TestWoordlijst::linesOfSoManyCellsAreFound_data()
     rij("nothing", "", 2, {});
 }
 
-void TestWoordlijst::linesOfSoManyCellsAreFound()
+void tst_Woordlijst::linesOfSoManyCellsAreFound()
 {
     QFETCH(QByteArray, database);
     QFETCH(int, cellen);
     QTEST(ZoekLengte(database, cellen), "woorden");
 }
 
-void TestWoordlijst::anyLinesAreSearched()
+void tst_Woordlijst::anyLinesAreSearched()
 {
     std::mt19937 toeval(1);
     const QByteArray tekens("ijIJa?\xE9\xFF\n\r");
@@ -110,5 +110,5 @@ void TestWoordlijst::anyLinesAreSearched()
     }
 }
 
-RASTER_TEST(TestWoordlijst)
+RASTER_TEST(tst_Woordlijst)
 #include "tst_Woordlijst.moc"

@@ -5,7 +5,7 @@
 
 using namespace Qt::StringLiterals;
 
-class TestAlfabet : public QObject
+class tst_Alfabet : public QObject
 {
     Q_OBJECT
 
@@ -18,7 +18,7 @@ private slots:
     void aLargeListIsSorted();
 };
 
-void TestAlfabet::textsRise()
+void tst_Alfabet::textsRise()
 {
     const QStringList teksten{u""_s,
                               u" a"_s,
@@ -45,7 +45,7 @@ void TestAlfabet::textsRise()
             QVERIFY2(AlfabetischVoor(teksten[i], teksten[j]) == (i < j), qPrintable(teksten[i] + u' ' + teksten[j]));
 }
 
-void TestAlfabet::textsThatDifferInCaseAloneAreOne()
+void tst_Alfabet::textsThatDifferInCaseAloneAreOne()
 {
     for (const auto &[een, ander] : {std::pair(u"aap"_s, u"AAP"_s), std::pair(u"\u00E9\u00E9n"_s, u"\u00C9\u00C9N"_s),
                                      std::pair(u"\u0161\u0153\u00FF"_s, u"\u0160\u0152\u0178"_s)}) {
@@ -54,7 +54,7 @@ void TestAlfabet::textsThatDifferInCaseAloneAreOne()
     }
 }
 
-void TestAlfabet::sorting_data()
+void tst_Alfabet::sorting_data()
 {
     QTest::addColumn<QStringList>("voor");
     QTest::addColumn<QStringList>("na");
@@ -71,7 +71,7 @@ void TestAlfabet::sorting_data()
           QStringList{u"aa"_s, u"\u0105b"_s, u"z"_s, u"\u03B1"_s, u"\u4E00"_s});
 }
 
-void TestAlfabet::sorting()
+void tst_Alfabet::sorting()
 {
     QFETCH(QStringList, voor);
     SorteerAlfabetisch(voor);
@@ -86,7 +86,7 @@ static std::pair<QString, QString> Sleutel(const QString &tekst)
     return {kaal.toLower(), tekst.toLower()};
 }
 
-void TestAlfabet::anyTextsAreSortedAsByThePlainSort()
+void tst_Alfabet::anyTextsAreSortedAsByThePlainSort()
 {
     std::mt19937 toeval(1);
     const QString letters = u"aAbB zZe\u00E9\u00E8\u00C9\u00FE\u00FF-1\u03B1"_s;
@@ -106,7 +106,7 @@ void TestAlfabet::anyTextsAreSortedAsByThePlainSort()
     }
 }
 
-void TestAlfabet::aLargeListIsSorted()
+void tst_Alfabet::aLargeListIsSorted()
 {
     QStringList teksten, verwacht;
     for (int i = 0; i < 200000; ++i) {
@@ -117,5 +117,5 @@ void TestAlfabet::aLargeListIsSorted()
     QVERIFY(teksten == verwacht);
 }
 
-RASTER_TEST(TestAlfabet)
+RASTER_TEST(tst_Alfabet)
 #include "tst_Alfabet.moc"

@@ -3,7 +3,7 @@
 
 #include <random>
 
-class TestRegels : public QObject
+class tst_Regels : public QObject
 {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ static QByteArrayList Regels(QByteArrayView tekst)
     return regels;
 }
 
-void TestRegels::linesEndInThreeWays_data()
+void tst_Regels::linesEndInThreeWays_data()
 {
     QTest::addColumn<QByteArray>("tekst");
     QTest::addColumn<QByteArrayList>("regels");
@@ -42,13 +42,13 @@ void TestRegels::linesEndInThreeWays_data()
     rij("blanks, commas and quotes stay", " aap ,\"noot\" \r\n", {" aap ,\"noot\" "});
 }
 
-void TestRegels::linesEndInThreeWays()
+void tst_Regels::linesEndInThreeWays()
 {
     QFETCH(QByteArray, tekst);
     QTEST(Regels(tekst), "regels");
 }
 
-void TestRegels::anyTextFallsIntoItsLines()
+void tst_Regels::anyTextFallsIntoItsLines()
 {
     std::mt19937 toeval(1);
     for (int ronde = 0; ronde < 2000; ++ronde) {
@@ -62,7 +62,7 @@ void TestRegels::anyTextFallsIntoItsLines()
     }
 }
 
-void TestRegels::linesLieInTheirText()
+void tst_Regels::linesLieInTheirText()
 {
     const QByteArray tekst = "aap\r\nnoot";
     QList<qsizetype> plaatsen;
@@ -70,5 +70,5 @@ void TestRegels::linesLieInTheirText()
     QCOMPARE(plaatsen, (QList<qsizetype>{0, 5}));
 }
 
-RASTER_TEST(TestRegels)
+RASTER_TEST(tst_Regels)
 #include "tst_Regels.moc"

@@ -14,7 +14,7 @@
 
 using Naslag::Lijst;
 
-class TestEchteWoorden : public QObject
+class tst_EchteWoorden : public QObject
 {
     Q_OBJECT
 
@@ -48,14 +48,14 @@ private:
 };
 
 /// What a search finds, in its order.
-template <class Zoek> Lijst TestEchteWoorden::Vind(Zoek zoek)
+template <class Zoek> Lijst tst_EchteWoorden::Vind(Zoek zoek)
 {
     Lijst gevonden;
     zoek([&](auto woord) { gevonden.emplace_back(woord.data(), static_cast<size_t>(woord.size())); });
     return gevonden;
 }
 
-std::string TestEchteWoorden::Key(size_t meeste, int wildcards)
+std::string tst_EchteWoorden::Key(size_t meeste, int wildcards)
 {
     std::string key = Woord(meeste);
     for (; wildcards > 0; --wildcards)
@@ -65,7 +65,7 @@ std::string TestEchteWoorden::Key(size_t meeste, int wildcards)
     return key;
 }
 
-void TestEchteWoorden::initTestCase()
+void tst_EchteWoorden::initTestCase()
 {
     inhoud_ = EchteWoorden();
     QVERIFY2(inhoud_.size() > 4000000, "there is no Dutch word list at " WOORDEN);
@@ -77,7 +77,7 @@ void TestEchteWoorden::initTestCase()
     Words_ = Naslag::Words(inhoud_.toStdString());
 }
 
-void TestEchteWoorden::theListIsSortedAndIndexed()
+void tst_EchteWoorden::theListIsSortedAndIndexed()
 {
     QVERIFY(Words_.size() > 300000);
     QVERIFY(std::equal(Woorden_.begin(), Woorden_.end(), Words_.begin(), Words_.end(),
@@ -89,7 +89,7 @@ void TestEchteWoorden::theListIsSortedAndIndexed()
     }
 }
 
-void TestEchteWoorden::everyWordIsInTheTable()
+void tst_EchteWoorden::everyWordIsInTheTable()
 {
     std::vector<qint32> verwacht(4 * Words_.size(), LeegVak);
     for (size_t i = 0; i < Words_.size(); ++i) {
@@ -121,7 +121,7 @@ static Lijst TeMaken(const Lijst &words, const std::string &key)
     return gevonden;
 }
 
-void TestEchteWoorden::wordsOfLetters()
+void tst_EchteWoorden::wordsOfLetters()
 {
     size_t raak = 0, overgeslagen = 0;
     for (int ronde = 0; ronde < 60; ++ronde) {
@@ -143,7 +143,7 @@ void TestEchteWoorden::wordsOfLetters()
     QVERIFY(overgeslagen > 0); // the first word of a letter goes missing, wanted so
 }
 
-void TestEchteWoorden::wordsByTheirBegin()
+void tst_EchteWoorden::wordsByTheirBegin()
 {
     size_t raak = 0;
     for (int ronde = 0; ronde < 100; ++ronde) {
@@ -155,7 +155,7 @@ void TestEchteWoorden::wordsByTheirBegin()
     QVERIFY(raak > 1000);
 }
 
-void TestEchteWoorden::wordsByTheirEnd()
+void tst_EchteWoorden::wordsByTheirEnd()
 {
     size_t raak = 0;
     for (int ronde = 0; ronde < 60; ++ronde) {
@@ -169,7 +169,7 @@ void TestEchteWoorden::wordsByTheirEnd()
     QVERIFY(raak > 1000);
 }
 
-void TestEchteWoorden::wordsThatContainAKey()
+void tst_EchteWoorden::wordsThatContainAKey()
 {
     size_t raak = 0;
     for (int ronde = 0; ronde < 60; ++ronde) {
@@ -185,7 +185,7 @@ void TestEchteWoorden::wordsThatContainAKey()
     QVERIFY(Vind([&](const Vondst &v) { ZoekTrefwoord(inhoud_, "", v); }) == Regels_);
 }
 
-void TestEchteWoorden::wordsWithThreeVowelsInARow()
+void tst_EchteWoorden::wordsWithThreeVowelsInARow()
 {
     const Lijst gevonden = Vind([&](const Vondst &v) { ZoekKlinkers(Gebied(), v); });
     const Lijst verwacht = Naslag::MetKlinkers(Words_);
@@ -197,14 +197,14 @@ void TestEchteWoorden::wordsWithThreeVowelsInARow()
     QVERIFY(verwacht.size() > 10000);
 }
 
-void TestEchteWoorden::wordsByTheirLength()
+void tst_EchteWoorden::wordsByTheirLength()
 {
     for (qint16 lengte = 0; lengte < 40; ++lengte)
         QVERIFY(Vind([&](const Vondst &v) { ZoekLengte(Gebied(), lengte, v); }) ==
                 Naslag::Die(Words_, [&](auto &woord) { return woord.size() == static_cast<size_t>(lengte); }));
 }
 
-void TestEchteWoorden::wordsOfTheSameLetters()
+void tst_EchteWoorden::wordsOfTheSameLetters()
 {
     size_t raak = 0;
     for (int ronde = 0; ronde < 60; ++ronde) {
@@ -222,7 +222,7 @@ void TestEchteWoorden::wordsOfTheSameLetters()
     QVERIFY(raak > 60);
 }
 
-void TestEchteWoorden::wordsWithMissingLetters()
+void tst_EchteWoorden::wordsWithMissingLetters()
 {
     size_t raak = 0;
     for (int ronde = 0; ronde < 40; ++ronde) {
@@ -245,7 +245,7 @@ void TestEchteWoorden::wordsWithMissingLetters()
     QVERIFY(raak > 1000);
 }
 
-void TestEchteWoorden::wordsOfSoManyCells()
+void tst_EchteWoorden::wordsOfSoManyCells()
 {
     for (size_t cellen = 2; cellen <= 19; ++cellen) {
         QStringList verwacht;
@@ -255,5 +255,5 @@ void TestEchteWoorden::wordsOfSoManyCells()
     }
 }
 
-RASTER_TEST(TestEchteWoorden)
+RASTER_TEST(tst_EchteWoorden)
 #include "tst_EchteWoorden.moc"

@@ -4,7 +4,7 @@
 
 #include <random>
 
-class TestOntbrekend : public QObject
+class tst_Ontbrekend : public QObject
 {
     Q_OBJECT
 
@@ -22,7 +22,7 @@ static QByteArray Gevonden(const QByteArray &database, const QByteArray &pattern
     return regels.join('|');
 }
 
-void TestOntbrekend::wordsThatFitAreFound_data()
+void tst_Ontbrekend::wordsThatFitAreFound_data()
 {
     QTest::addColumn<QByteArray>("database");
     QTest::addColumn<QByteArray>("pattern");
@@ -55,7 +55,7 @@ void TestOntbrekend::wordsThatFitAreFound_data()
     rij("an empty file", "", "---", 3, "");
 }
 
-void TestOntbrekend::wordsThatFitAreFound()
+void tst_Ontbrekend::wordsThatFitAreFound()
 {
     QFETCH(QByteArray, database);
     QFETCH(QByteArray, pattern);
@@ -63,14 +63,14 @@ void TestOntbrekend::wordsThatFitAreFound()
     QTEST(Gevonden(database, pattern, cellen), "gevonden");
 }
 
-void TestOntbrekend::aDatabaseStaysAsItIs()
+void tst_Ontbrekend::aDatabaseStaysAsItIs()
 {
     const QByteArray database = "aap\n";
     QCOMPARE(Gevonden(database, "---", 3), "AAP");
     QCOMPARE(database, "aap\n");
 }
 
-void TestOntbrekend::anyLinesAreSearched()
+void tst_Ontbrekend::anyLinesAreSearched()
 {
     std::mt19937 toeval(1);
     const QByteArray tekens("ijIJa?-\xE9\n\n"), captions("IJA-----");
@@ -89,5 +89,5 @@ void TestOntbrekend::anyLinesAreSearched()
     }
 }
 
-RASTER_TEST(TestOntbrekend)
+RASTER_TEST(tst_Ontbrekend)
 #include "tst_Ontbrekend.moc"

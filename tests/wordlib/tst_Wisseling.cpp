@@ -4,7 +4,7 @@
 
 #include <random>
 
-class TestWisseling : public QObject
+class tst_Wisseling : public QObject
 {
     Q_OBJECT
 
@@ -16,7 +16,7 @@ private slots:
     void anyLinesAreSearched();
 };
 
-void TestWisseling::charactersAreCounted()
+void tst_Wisseling::charactersAreCounted()
 {
     QCOMPARE(FindOccur("", 'a'), qint16{0});
     QCOMPARE(FindOccur("aardappel", 'a'), qint16{3});
@@ -27,7 +27,7 @@ void TestWisseling::charactersAreCounted()
     QCOMPARE(FindOccur("a b c", ' '), qint16{2});
 }
 
-void TestWisseling::moreThanASmallNumberHoldsOverflows()
+void tst_Wisseling::moreThanASmallNumberHoldsOverflows()
 {
     QCOMPARE(FindOccur(QByteArray(32767, 'a'), 'a'), qint16{32767});
     QCOMPARE(FoutVan([] { FindOccur(QByteArray(32768, 'a'), 'a'); }), int{Fout::Overloop});
@@ -40,7 +40,7 @@ static QByteArray Gevonden(QByteArrayView database, QByteArrayView key)
     return regels.join('|');
 }
 
-void TestWisseling::linesOfTheSameLettersAreFound_data()
+void tst_Wisseling::linesOfTheSameLettersAreFound_data()
 {
     QTest::addColumn<QByteArray>("database");
     QTest::addColumn<QByteArray>("key");
@@ -65,14 +65,14 @@ void TestWisseling::linesOfTheSameLettersAreFound_data()
     rij("an empty file", "", "aap", "");
 }
 
-void TestWisseling::linesOfTheSameLettersAreFound()
+void tst_Wisseling::linesOfTheSameLettersAreFound()
 {
     QFETCH(QByteArray, database);
     QFETCH(QByteArray, key);
     QTEST(Gevonden(database, key), "gevonden");
 }
 
-void TestWisseling::anyLinesAreSearched()
+void tst_Wisseling::anyLinesAreSearched()
 {
     std::mt19937 toeval(1);
     const QByteArray tekens("abcz{`-\xE9");
@@ -89,5 +89,5 @@ void TestWisseling::anyLinesAreSearched()
     }
 }
 
-RASTER_TEST(TestWisseling)
+RASTER_TEST(tst_Wisseling)
 #include "tst_Wisseling.moc"

@@ -6,7 +6,7 @@
 
 using Lijst = std::vector<std::string>;
 
-class TestMdlArray : public QObject
+class tst_mdlArray : public QObject
 {
     Q_OBJECT
 
@@ -127,7 +127,7 @@ static bool IsGedeeldAlsVerteld(const Lijst &teksten, int split)
                       [](const Woord &a, const std::string *b) { return a.Tekst.data() == b->data(); });
 }
 
-void TestMdlArray::textsAreComparedAsBytes()
+void tst_mdlArray::textsAreComparedAsBytes()
 {
     // Rising, over and within the first eight bytes.
     const Lijst teksten{std::string("a\0b", 3),
@@ -153,7 +153,7 @@ void TestMdlArray::textsAreComparedAsBytes()
     QVERIFY(Woord(std::string("ab\0", 3)) > Woord("ab")); // of one beginning
 }
 
-void TestMdlArray::partingLeavesWhatItsStepsLeave_data()
+void tst_mdlArray::partingLeavesWhatItsStepsLeave_data()
 {
     QTest::addColumn<QByteArray>("voor");
     QTest::addColumn<QByteArray>("na");
@@ -166,7 +166,7 @@ void TestMdlArray::partingLeavesWhatItsStepsLeave_data()
     rij("all equal", "aaaaaaaa", "aaaaaaaa");
 }
 
-void TestMdlArray::partingLeavesWhatItsStepsLeave()
+void tst_mdlArray::partingLeavesWhatItsStepsLeave()
 {
     QFETCH(QByteArray, voor);
     QFETCH(QByteArray, na);
@@ -176,7 +176,7 @@ void TestMdlArray::partingLeavesWhatItsStepsLeave()
     QCOMPARE(Teksten(arr), Letters(na));
 }
 
-void TestMdlArray::partingLeavesWhatItsStepsLeaveOfAnyArray()
+void tst_mdlArray::partingLeavesWhatItsStepsLeaveOfAnyArray()
 {
     std::mt19937 toeval(1);
     for (size_t aantal = 0; aantal < 300; ++aantal)
@@ -187,7 +187,7 @@ void TestMdlArray::partingLeavesWhatItsStepsLeaveOfAnyArray()
     QVERIFY(IsGedeeldAlsVerteld(Willekeurig(20000, 2, toeval), 4));
 }
 
-void TestMdlArray::partingKeepsWithinItsBounds()
+void tst_mdlArray::partingKeepsWithinItsBounds()
 {
     const Lijst teksten = Letters("zzhgfedcbaaa");
     Woorden arr = Zien(teksten);
@@ -196,7 +196,7 @@ void TestMdlArray::partingKeepsWithinItsBounds()
     QCOMPARE(Teksten(arr), Letters("zzabcdefghaa"));
 }
 
-void TestMdlArray::partingLeavesShortRunsAsTheyAre()
+void tst_mdlArray::partingLeavesShortRunsAsTheyAre()
 {
     const Lijst teksten = Letters("fedcba");
     Woorden arr = Zien(teksten);
@@ -206,7 +206,7 @@ void TestMdlArray::partingLeavesShortRunsAsTheyAre()
     QCOMPARE(Teksten(arr), teksten);
 }
 
-void TestMdlArray::aRunOfTwoIsNeverParted()
+void tst_mdlArray::aRunOfTwoIsNeverParted()
 {
     const Lijst teksten = Letters("cbaedgf");
     for (const int split : {0, -1, std::numeric_limits<int>::min()}) {
@@ -221,7 +221,7 @@ void TestMdlArray::aRunOfTwoIsNeverParted()
     }
 }
 
-void TestMdlArray::boundsAreOfTheArray()
+void tst_mdlArray::boundsAreOfTheArray()
 {
     const Lijst teksten = Letters("cba");
     Woorden arr = Zien(teksten);
@@ -232,7 +232,7 @@ void TestMdlArray::boundsAreOfTheArray()
     QCOMPARE(Teksten(arr), teksten);
 }
 
-void TestMdlArray::insertionPutsAPartRight()
+void tst_mdlArray::insertionPutsAPartRight()
 {
     const Lijst teksten = Letters("zdbcaea");
     Woorden arr = Zien(teksten);
@@ -246,7 +246,7 @@ void TestMdlArray::insertionPutsAPartRight()
     QCOMPARE(stabiel[0].Tekst.data(), gelijk[1].data()); // equal ones keep their order
 }
 
-void TestMdlArray::reversing_data()
+void tst_mdlArray::reversing_data()
 {
     QTest::addColumn<QByteArray>("voor");
     QTest::addColumn<QByteArray>("na");
@@ -256,7 +256,7 @@ void TestMdlArray::reversing_data()
     Geval("four", QByteArray("aabc"), QByteArray("cbaa"));
 }
 
-void TestMdlArray::reversing()
+void tst_mdlArray::reversing()
 {
     QFETCH(QByteArray, voor);
     QFETCH(QByteArray, na);
@@ -266,7 +266,7 @@ void TestMdlArray::reversing()
     QCOMPARE(Teksten(arr), Letters(na));
 }
 
-void TestMdlArray::swapping()
+void tst_mdlArray::swapping()
 {
     Woord a("aap"), b("noot en mies");
     SwapStrings(a, b);
@@ -275,7 +275,7 @@ void TestMdlArray::swapping()
     QVERIFY(b < a);
 }
 
-void TestMdlArray::sortingIsThatOfTheLibrary_data()
+void tst_mdlArray::sortingIsThatOfTheLibrary_data()
 {
     QTest::addColumn<Lijst>("teksten");
     std::mt19937 toeval(2);
@@ -293,7 +293,7 @@ void TestMdlArray::sortingIsThatOfTheLibrary_data()
     Geval("200,000 of two kinds", Willekeurig(200000, 1, toeval));
 }
 
-void TestMdlArray::sortingIsThatOfTheLibrary()
+void tst_mdlArray::sortingIsThatOfTheLibrary()
 {
     QFETCH(Lijst, teksten);
     Woorden arr = Zien(teksten);
@@ -303,7 +303,7 @@ void TestMdlArray::sortingIsThatOfTheLibrary()
     QVERIFY(Teksten(arr) == verwacht);
 }
 
-void TestMdlArray::descending()
+void tst_mdlArray::descending()
 {
     const Lijst teksten = Letters("bdacfeg");
     Woorden arr = Zien(teksten);
@@ -311,7 +311,7 @@ void TestMdlArray::descending()
     QCOMPARE(Teksten(arr), Letters("gfedcba"));
 }
 
-void TestMdlArray::longTextsAreSortedByWhatStandsBehind()
+void tst_mdlArray::longTextsAreSortedByWhatStandsBehind()
 {
     Lijst teksten;
     for (int i = 0; i < 100; ++i)
@@ -351,7 +351,7 @@ static Lijst AlsTeksten(const std::vector<int> &getallen)
 }
 
 // Were it parted all the way, the stack would not hold the calls, nor would the test end within its time.
-void TestMdlArray::noArrayIsPartedBadlyOverAndOver()
+void tst_mdlArray::noArrayIsPartedBadlyOverAndOver()
 {
     const Lijst klein = AlsTeksten(MaakSlechtDeelbaar(1000));
     std::vector<const std::string *> delen = Adressen(klein);
@@ -365,7 +365,7 @@ void TestMdlArray::noArrayIsPartedBadlyOverAndOver()
     QVERIFY(Teksten(arr) == verwacht);
 }
 
-void TestMdlArray::anArrayWithoutElementsFails()
+void tst_mdlArray::anArrayWithoutElementsFails()
 {
     Woorden leeg;
     std::vector<qint32> tabel;
@@ -375,7 +375,7 @@ void TestMdlArray::anArrayWithoutElementsFails()
     QCOMPARE(FoutVan([&] { BuildHashTable(leeg, tabel); }), int{Fout::IndexBuitenBereik});
 }
 
-void TestMdlArray::hashes_data()
+void tst_mdlArray::hashes_data()
 {
     QTest::addColumn<QByteArray>("tekst");
     QTest::addColumn<qint32>("lengte");
@@ -403,14 +403,14 @@ void TestMdlArray::hashes_data()
     rij("of the greatest length", "abcde", std::numeric_limits<qint32>::max(), 0x64636207);
 }
 
-void TestMdlArray::hashes()
+void tst_mdlArray::hashes()
 {
     QFETCH(QByteArray, tekst);
     QFETCH(qint32, lengte);
     QTEST(HashString({tekst.data(), static_cast<size_t>(tekst.size())}, lengte), "hash");
 }
 
-void TestMdlArray::aTableHasFourPlacesForEachText()
+void tst_mdlArray::aTableHasFourPlacesForEachText()
 {
     std::vector<qint32> tabel{7, 7};
     BuildHashTable(Zien({"a"}), tabel); // 96 mod 4
@@ -421,7 +421,7 @@ void TestMdlArray::aTableHasFourPlacesForEachText()
     QCOMPARE(L, std::numeric_limits<qint32>::min());
 }
 
-void TestMdlArray::aTableIsFilledAroundItsEnd()
+void tst_mdlArray::aTableIsFilledAroundItsEnd()
 {
     std::vector<qint32> tabel;
     BuildHashTable(Zien({"f", "f"}), tabel); // 103 mod 8
@@ -429,7 +429,7 @@ void TestMdlArray::aTableIsFilledAroundItsEnd()
     QCOMPARE(tabel, (std::vector<qint32>{1, L, L, L, L, L, L, 0}));
 }
 
-void TestMdlArray::aTableIsThatOfLinearProbing_data()
+void tst_mdlArray::aTableIsThatOfLinearProbing_data()
 {
     QTest::addColumn<Lijst>("teksten");
     std::mt19937 toeval(3);
@@ -442,7 +442,7 @@ void TestMdlArray::aTableIsThatOfLinearProbing_data()
         Geval(tekst, Lijst(3000, tekst));
 }
 
-void TestMdlArray::aTableIsThatOfLinearProbing()
+void tst_mdlArray::aTableIsThatOfLinearProbing()
 {
     QFETCH(Lijst, teksten);
     const Woorden arr = Zien(teksten);
@@ -459,7 +459,7 @@ void TestMdlArray::aTableIsThatOfLinearProbing()
 }
 
 // Were each text to walk past those before it, the test would not end within its time.
-void TestMdlArray::aMillionTextsOfOneHashAreOneRun()
+void tst_mdlArray::aMillionTextsOfOneHashAreOneRun()
 {
     constexpr size_t Aantal = 1000000, S = 4 * Aantal;
     const std::string tekst = "\xFE\xFF\x3C"; // close to the end of the table: 3CFFFF mod S, in bytes 3C FF FE ^ 1
@@ -473,11 +473,11 @@ void TestMdlArray::aMillionTextsOfOneHashAreOneRun()
             QFAIL(qPrintable(QString::number(i)));
 }
 
-void TestMdlArray::anEmptyTextHasNoPlace()
+void tst_mdlArray::anEmptyTextHasNoPlace()
 {
     std::vector<qint32> tabel;
     QCOMPARE(FoutVan([&] { BuildHashTable(Zien({"a", ""}), tabel); }), int{Fout::IndexBuitenBereik});
 }
 
-RASTER_TEST(TestMdlArray)
+RASTER_TEST(tst_mdlArray)
 #include "tst_mdlArray.moc"

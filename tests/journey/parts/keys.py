@@ -131,9 +131,9 @@ def delete_row(keys):
 
 
 def leave(keys):
-    stops = [("list", "Gevonden woorden"), ("scroll bar", "Woordlengte"), ("list", "Woorden van de lijst"),
-             ("combo box", "Alles"), ("list", "Woordlijsten"), ("push button", "Uitleg en Hulp"), ("push button", "Over de ontwerper"),
-             ("push button", "Programma Stoppen")]
+    stops = [("list", "Gevonden woorden"), ("scroll bar", "Woordlengte"), ("push button", "Start zoeken op woordlengte"),
+             ("list", "Woorden van de lijst"), ("combo box", "Alles"), ("list", "Woordlijsten"), ("push button", "Load"),
+             ("push button", "Uitleg en Hulp"), ("push button", "Over de ontwerper"), ("push button", "Programma Stoppen")]
     keys.tab_to(*stops)
     keys.desktop.shot("stop-focused")
     keys.desktop.key("Return")
