@@ -1,5 +1,5 @@
-// What a person waits for in the windows of the word library, on the installed words: from the order until the result is
-// on the screen, without the waits that are part of the show. It takes the folder of the program.
+// What a person waits for in the windows of the word library, on the installed words: from the order until the result
+// is on the screen, without the waits that are part of the show. It takes the folder of the program.
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"

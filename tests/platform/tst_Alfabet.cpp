@@ -67,7 +67,8 @@ void tst_Alfabet::sorting_data()
           QStringList{u"een"_s, u"\u00C9en"_s, u"\u00E9\u00E9n"_s, u"eend"_s, u"fee"_s});
     Geval("alike in their first eight letters", QStringList{"aardappels", "aardappel", "AARDAPPE", "aardappela"},
           QStringList{"AARDAPPE", "aardappel", "aardappela", "aardappels"});
-    Geval("from outside the code page", QStringList{u"\u4E00"_s, u"\u03B2a"_s, u"\u0105b"_s, u"z"_s, u"\u03B1z"_s, u"aa"_s},
+    Geval("from outside the code page",
+          QStringList{u"\u4E00"_s, u"\u03B2a"_s, u"\u0105b"_s, u"z"_s, u"\u03B1z"_s, u"aa"_s},
           QStringList{u"aa"_s, u"\u0105b"_s, u"z"_s, u"\u03B1z"_s, u"\u03B2a"_s, u"\u4E00"_s});
 }
 

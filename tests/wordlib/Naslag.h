@@ -43,7 +43,7 @@ inline Lijst Words(Tekst tekst)
     Lijst words;
     size_t i = 0;
     const auto er = [&] { return i < tekst.size(); };
-    const auto blank = [&] { return er() && (tekst[i] == ' ' || tekst[i] == '\t'); };
+    const auto blank = [&] { return er() && tekst[i] == ' '; };
     while (er()) {
         std::string item;
         while (blank())

@@ -532,6 +532,7 @@ void tst_Database::anyDatabaseIsLoadedAndSearched_data()
     Geval("27 first letters", alfabet + "{aaa\r\n");
     Geval("all first characters", groepen);
     Geval("commas and quotes", QByteArray("aap,\"noot, mies\",,\"a\"\"b\",\"\r\n\"\r\nwim\"zus, jet\",\"open\r\naei"));
+    Geval("tabs", QByteArray("\taap\r\n \t noot\t \r\n\t\"mies\"\t,wim"));
     Geval("bytes above 127", hoog);
     Geval("binary", binair);
     Geval("zeros", QByteArray(1000, '\0'));
