@@ -180,7 +180,7 @@ int main(int argc, char *argv[])
     Map = map.path();
     qputenv("LC_ALL", "C");
     if (!SchrijfLijsten()) {
-        qCritical("there is no list of Dutch words at " WOORDEN);
+        qCritical("there is no word database " DATABASE);
         return 1;
     }
     Geladen(); // no search is to wait for it

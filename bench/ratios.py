@@ -53,6 +53,7 @@ try:
     with tempfile.TemporaryDirectory() as folder:
         (ours, memory), (empty, empty_memory), (picture, _) = starts(build, folder)
     times = medians(build / "bench_bord")
+    waits = medians(build / "bench_vensters", build.parent / "bin")
     words = medians(build / "bench_woorden", "--benchmark_enable_random_interleaving=true")
 finally:
     server.terminate()
@@ -70,4 +71,9 @@ for what, ours, peer, most in [
         ("anagrams of nine letters, beside an", "ZoekWisselingen", "AnAnagrams", 0.05),
         ("nine cells of which three known, beside grep -E", "ZoekOntbrekende", "GrepMissing", 1)]:
     report(what, words[ours], words[peer], "ms", most)
+for what, ours, most in [
+        ("the search window, from the order until it is shown", "OpenSearchWindow", 150),
+        ("all words into its list, until shown", "AllWords", 300),
+        ("words with three vowels in a row, until shown", "Vowels", 1000)]:
+    print(f"{what:52} {waits[ours]:9.2f} ms (at most {most})")
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")

@@ -68,7 +68,7 @@ std::string tst_EchteWoorden::Key(size_t meeste, int wildcards)
 void tst_EchteWoorden::initTestCase()
 {
     inhoud_ = EchteWoorden();
-    QVERIFY2(inhoud_.size() > 4000000, "there is no Dutch word list at " WOORDEN);
+    QVERIFY2(inhoud_.size() > 4000000, "there is no word database " DATABASE);
     Woorden_ = LeesWoorden(inhoud_);
     SortStrings(Woorden_, false);
     BuildHashTable(Woorden_, Tabel_);
