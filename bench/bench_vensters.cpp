@@ -59,6 +59,7 @@ BENCHMARK(Vowels)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char *argv[])
 {
+    benchmark::Initialize(&argc, argv); // takes its own options out
     QApplication app(argc, argv);
     StelUiterlijkIn();
     AppPath = QString::fromLocal8Bit(argv[1]);
@@ -67,7 +68,6 @@ int main(int argc, char *argv[])
     MainForm main;
     BeginWaarden();
     Toon(main);
-    benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;
 }
