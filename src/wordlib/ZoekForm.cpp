@@ -116,9 +116,8 @@ void ZoekForm::ToonGevonden()
 
 void ZoekForm::Knop_Click()
 {
-    const int wijze = Gekozen(Option1);
     const auto verberg = qScopeGuard([this] { Picture1->hide(); });
-    if (wijze == Klinkers) {
+    if (Gekozen(Option1) == Klinkers) {
         const Screen::Bezig bezig;
         Picture1->show();
         Wacht(0.2);
@@ -126,7 +125,7 @@ void ZoekForm::Knop_Click()
         ToonGevonden();
         return;
     }
-    if (wijze != Trefwoord) {
+    if (Gekozen(Option1) != Trefwoord) {
         Text1_Change();
         if (Text1->text().size() < 3) {
             MsgBox(u"Minimaal 3 letters intypen a.u.b."_s);
@@ -137,7 +136,7 @@ void ZoekForm::Knop_Click()
     }
     List1->Clear();
     Wacht(0.2);
-    switch (wijze) {
+    switch (Gekozen(Option1)) { // another one may have been chosen meanwhile
     case Letters:
         ZoekLetters();
         break;

@@ -306,6 +306,38 @@ private slots:
         }
     }
 
+    void aSecondClickDuringTheWaitListsNothingTwice()
+    {
+        for (int wijze = 0; wijze <= 4; ++wijze) {
+            Zoekvenster venster("kat\r\naai\r\n");
+            venster.Kies(wijze, wijze == 4 ? u"aai"_s : u"kat"_s);
+            int klikken = 0;
+            Verloop verloop;
+            verloop.Bijwerk = [&] {
+                if (klikken++ == 0)
+                    venster.Form.Knop->click();
+            };
+            venster.Form.Knop->click();
+            QVERIFY(klikken > 1);
+            QCOMPARE(venster.Gezien(), wijze == 4 ? u"aai (1)"_s : u"kat (1)"_s);
+            QVERIFY(!Zandloper());
+        }
+    }
+
+    void theWayIsTheOneThatIsChosenBehindTheWait()
+    {
+        Zoekvenster venster("kat\r\nskate\r\n");
+        venster.Kies(1, u"kat"_s);
+        Verloop verloop;
+        verloop.Bijwerk = [&] { venster.Form.Option1[3]->setChecked(true); };
+        venster.Form.Knop->click();
+        QCOMPARE(venster.Gezien(), u"kat skate (2)"_s);
+        venster.Kies(1, u"kat"_s);
+        verloop.Bijwerk = [&] { venster.Form.Option1[4]->setChecked(true); }; // none of the first four
+        venster.Form.Knop->click();
+        QCOMPARE(venster.Gezien(), u"(0)"_s);
+    }
+
     void enterInTheBoxStarts()
     {
         Zoekvenster venster("kat");
