@@ -9,7 +9,7 @@
 #include "platform/Kleur.h"
 #include "platform/Teksten.h"
 
-#include <QMenuBar>
+#include <QMenu>
 #include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
@@ -38,8 +38,7 @@ AutoForm::AutoForm() : Form(u"AutoForm"_s, u"Automatische woordzoeker"_s, 10200,
     OkKnop = MaakKnop("OkKnop", u"Draw puzzel"_s, u"knop-ok"_s);
     CancelKnop = MaakCancelKnop();
     ExportKnop = MaakKnopMetTip("ExportKnop", u" Puzzel exporteren naar hoofdveld "_s, u"knop-export"_s);
-    QMenu *bewerken = MenuBalk()->addMenu(u"Bewerken"_s);
-    bewerken->setObjectName(u"Edit"_s);
+    QMenu *bewerken = MaakMenu("Edit", u"Bewerken"_s);
     EditNew = MaakItem(*bewerken, "EditNew", u"Nieuwe puzzel"_s);
     bewerken->addSeparator()->setObjectName(u"EditStreep1"_s);
     EditVoorbeeld = MaakItem(*bewerken, "EditVoorbeeld", u"Voorbeeld woorden"_s);

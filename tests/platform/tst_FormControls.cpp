@@ -3,6 +3,7 @@
 #include "support/Testbank.h"
 
 #include <QComboBox>
+#include <QMenuBar>
 #include <QRadioButton>
 #include <QScrollBar>
 
@@ -19,6 +20,20 @@ private slots:
         QVERIFY(venster.windowFlags() & Qt::WindowCloseButtonHint);
         QVERIFY(!(venster.windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
         QCOMPARE(venster.windowType(), Qt::Dialog);
+    }
+
+    void aMenuAndItsItems()
+    {
+        TestVenster venster(4590, 3450, true);
+        QMenu *menu = venster.MaakMenu("Help", u"Uitleg"_s);
+        QCOMPARE(menu->objectName(), u"Help"_s);
+        QCOMPARE(venster.MenuBalk()->actions(), QList<QAction *>{menu->menuAction()});
+        QCOMPARE(menu->menuAction()->text(), u"Uitleg"_s);
+        QAction *eerste = MaakItem(*menu, "HelpEen", u"Een"_s), *tweede = MaakItem(*menu, "HelpTwee", u"Twee"_s);
+        QCOMPARE(menu->actions(), (QList<QAction *>{eerste, tweede}));
+        QCOMPARE(tweede->objectName(), u"HelpTwee"_s);
+        QCOMPARE(tweede->text(), u"Twee"_s);
+        QVERIFY(tweede->isEnabled());
     }
 
     void aTipIsAlsoTheNameForAScreenReader()

@@ -23,6 +23,7 @@ public:
     using Form::MaakKnop;
     using Form::MaakKnopMetTip;
     using Form::MaakLabel;
+    using Form::MaakMenu;
     using Form::MaakNummers;
     using Form::MaakOpties;
     using Form::MaakSchuif;
