@@ -42,22 +42,15 @@ QString SudokuRaster::Kandidaten(int cel) const
     QString cijfers;
     for (int cijfer = 1; cijfer <= 9; ++cijfer)
         if (Vrij(cel) & 1U << cijfer)
-            cijfers += QString::number(cijfer);
+            cijfers += QChar(u'0' + cijfer);
     return cijfers;
 }
 
 qint32 RandomGetal(qint32 Laag, qint32 Hoog)
 {
     Toeval::Randomize();
-    return static_cast<qint32>(Toeval::Rnd() * (double(Hoog) - Laag + 1)) + Laag;
-}
-
-/// The digit at a place among those of a set. @param plaats from 1
-static int Cijfer(unsigned vrij, int plaats)
-{
-    while (--plaats > 0)
-        vrij &= vrij - 1;
-    return std::countr_zero(vrij);
+    const auto aantal = static_cast<double>(qint64{Hoog} - Laag + 1);
+    return static_cast<qint32>(Laag + static_cast<qint64>(Toeval::Rnd() * aantal));
 }
 
 /// The first of the empty cells with the fewest free digits; -1 when one has none.
@@ -85,9 +78,9 @@ static bool Vul(SudokuRaster &raster)
         const int cel = BesteCel(raster);
         if (cel < 0)
             return false;
-        const unsigned vrij = raster.Vrij(cel);
-        const int aantal = std::popcount(vrij);
-        raster.Zet(cel, Cijfer(vrij, aantal == 1 ? 1 : RandomGetal(1, aantal)));
+        const QString keuze = raster.Kandidaten(cel);
+        const auto aantal = static_cast<qint32>(keuze.size());
+        raster.Zet(cel, keuze[aantal == 1 ? 0 : RandomGetal(1, aantal) - 1].digitValue());
     }
     return true;
 }

@@ -44,23 +44,44 @@ void clsWordSearch::SetGridWidth(qint16 breedte)
     breedte_ = breedte;
 }
 
-int clsWordSearch::AantalVakken() const
+void clsWordSearch::TelVakken()
 {
-    return Getallen::AlsInt16(qint64{breedte_} * hoogte_);
+    aantal_ = Getallen::AlsInt16(qint64{breedte_} * hoogte_);
+}
+
+// What is compared is odd, and stays so: the first letter with the cell at position 1, wherever the word would lie; and
+// each letter but the last with the cell behind its own, which must be empty anyhow, so that only a blank in the word
+// is ever hit.
+bool clsWordSearch::KanLiggen(const QString &woord) const
+{
+    return woord.size() >= 2 && !raster_.startsWith(woord.front()) && !QStringView(woord).chopped(1).contains(Leeg);
+}
+
+inline bool clsWordSearch::WoordPast(const QString &woord, int p, int d) const
+{
+    return ruimte_.at(static_cast<size_t>(d))[static_cast<size_t>(p)] >= woord.size();
+}
+
+clsWordSearch::Kansen clsWordSearch::KansenVan(const QString &woord)
+{
+    Kansen kansen(static_cast<size_t>(aantal_) + 1);
+    if (!KanLiggen(woord))
+        return kansen;
+    MeetRuimte();
+    for (int d = 1; d <= AantalRichtingen; ++d)
+        for (int p = 1; p <= aantal_; ++p)
+            kansen[static_cast<size_t>(p)] |= static_cast<quint16>(WoordPast(woord, p, d) << d);
+    return kansen;
 }
 
 QString clsWordSearch::Make()
 {
-    const int aantal = AantalVakken();
-    raster_ = QString(aantal, Leeg);
+    TelVakken();
+    LegPaden();
+    raster_ = QString(aantal_, Leeg);
     for (const clsWord &element : Words) {
         QString woord = element.Word;
-        MeetRuimte();
-        Kansen kansen(static_cast<size_t>(aantal) + 1);
-        for (int p = 1; p <= aantal; ++p)
-            for (int d = 1; d <= AantalRichtingen; ++d)
-                if (WoordPast(woord, p, d))
-                    kansen[static_cast<size_t>(p)] |= static_cast<quint16>(1 << d);
+        const Kansen kansen = KansenVan(woord);
         const int p = KiesPositie(kansen);
         if (p > 0) {
             PlaatsWoord(woord, p, KiesRichting(kansen[static_cast<size_t>(p)]));
@@ -79,35 +100,38 @@ QString clsWordSearch::Make()
     return raster_;
 }
 
+void clsWordSearch::LegPaden()
+{
+    for (int d = 1; d <= AantalRichtingen; ++d) {
+        auto &volgend = volgend_.at(static_cast<size_t>(d));
+        volgend.assign(static_cast<size_t>(aantal_) + 1, 0);
+        for (int p = 1; p <= aantal_; ++p)
+            if (KanStappen(p, d))
+                volgend[static_cast<size_t>(p)] = static_cast<quint16>(VolgendVak(p, d));
+    }
+}
+
 // From the far end of each direction on, so that the next cell is always known. A word takes as many steps as it has
 // letters but one.
 void clsWordSearch::MeetRuimte()
 {
-    const int aantal = AantalVakken();
-    for (int d = 1; d <= AantalRichtingen; ++d) {
-        auto &ruimte = ruimte_.at(static_cast<size_t>(d));
-        ruimte.assign(static_cast<size_t>(aantal) + 1, 0);
-        const bool omlaag = VolgendVak(0, d) < 0; // to lower positions: these come first
-        for (int i = 1; i <= aantal; ++i) {
-            const int p = omlaag ? i : aantal + 1 - i;
-            if (raster_[p - 1] != Leeg)
-                continue;
-            const qint16 verder = KanStappen(p, d) ? ruimte[static_cast<size_t>(VolgendVak(p, d))] : qint16{0};
-            ruimte[static_cast<size_t>(p)] = static_cast<qint16>(verder + 1);
-        }
+    const auto aantal = static_cast<size_t>(aantal_);
+    const QStringView raster = raster_;
+    for (size_t d = 1; d <= AantalRichtingen; ++d) {
+        const auto &volgend = volgend_.at(d);
+        auto &ruimte = ruimte_.at(d);
+        ruimte.assign(aantal + 1, 0);
+        const auto meet = [&](size_t p) {
+            if (raster[static_cast<qsizetype>(p) - 1] == Leeg)
+                ruimte[p] = static_cast<quint16>(ruimte[volgend[p]] + 1);
+        };
+        if (VolgendVak(0, static_cast<int>(d)) < 0)
+            for (size_t p = 1; p <= aantal; ++p)
+                meet(p);
+        else
+            for (size_t p = aantal; p >= 1; --p)
+                meet(p);
     }
-}
-
-// What is compared is odd, and stays so: the first letter with the cell at position 1, whatever p is; and each letter
-// but the last with the cell behind its own, which must be empty anyhow, so that only a blank in the word is ever hit.
-bool clsWordSearch::WoordPast(const QString &woord, int p, int d) const
-{
-    const qsizetype n = woord.size();
-    if (n < 2 || woord.front() == raster_.front())
-        return false;
-    if (ruimte_.at(static_cast<size_t>(d))[static_cast<size_t>(p)] < n)
-        return false;
-    return !QStringView(woord).chopped(1).contains(Leeg);
 }
 
 int clsWordSearch::VolgendVak(int p, int d) const
@@ -155,19 +179,19 @@ int clsWordSearch::KiesRichting(quint16 masker)
     return richtingen[Kies(richtingen.size())];
 }
 
+void clsWordSearch::VulLegeVakken()
+{
+    for (QChar &vak : raster_)
+        if (vak == Leeg)
+            vak = QChar(static_cast<int>(Toeval::Rnd() * 26) + 65);
+}
+
 void clsWordSearch::PlaatsWoord(const QString &woord, int p, int d)
 {
     for (const QChar letter : woord) {
         raster_[p - 1] = letter;
         p = VolgendVak(p, d);
     }
-}
-
-void clsWordSearch::VulLegeVakken()
-{
-    for (QChar &vak : raster_)
-        if (vak == Leeg)
-            vak = QChar(static_cast<int>(Toeval::Rnd() * 26) + 65);
 }
 
 void clsWordSearch::Save(const QString &strFile)
@@ -197,7 +221,7 @@ void clsWordSearch::Load(const QString &strFile)
     for (double nog = Getallen::Val(lees()); nog >= 1; --nog)
         Words.Add(lees());
     raster_ = lees();
-    AantalVakken(); // raises when there are too many
+    TelVakken();
     Draw();
 }
 
@@ -220,7 +244,7 @@ void clsWordSearch::TekenOp(class Canvas &canvas) const
     canvas.Cls();
     canvas.ForeColor = FontColor;
     canvas.Scale(0, 0, breedte_ + 1, hoogte_ + 1);
-    for (int p = 1; p <= AantalVakken(); ++p) {
+    for (int p = 1; p <= aantal_; ++p) {
         const QString letter = raster_.mid(p - 1, 1);
         const int c = (p - 1) % breedte_ + 1;
         const int r = (p - 1) / breedte_ + 1;

@@ -48,7 +48,8 @@ public:
     QVariant GridColor; ///< kept, and not used in drawing
     QRgb FontColor = qRgb(0, 0, 0);
 
-    /// A word fits nowhere. When Continue is set it is left out, else the whole grid is given up.
+    /// A word fits nowhere. When Continue is set it is left out, else the whole grid is given up. Words and the sizes
+    /// are to be left alone meanwhile.
     std::function<void(QString &strWord, bool &Continue)> CannotFitWord;
 
 private:
@@ -62,12 +63,17 @@ private:
     void VulLegeVakken();
     void PlaatsWoord(const QString &woord, int p, int d);
 
-    int AantalVakken() const;
+    void TelVakken(); ///< raises Fout::Overloop when there are more than 32767
     void TekenOp(class Canvas &canvas) const;
+    void LegPaden();
     void MeetRuimte();
+    bool KanLiggen(const QString &woord) const;
+    Kansen KansenVan(const QString &woord);
 
     qint16 breedte_ = 0, hoogte_ = 0;
     QString raster_;
-    /// How many empty cells there are in a row, by direction (from 1) and position (from 1).
-    std::array<std::vector<qint16>, 9> ruimte_;
+    qint16 aantal_ = 0; ///< cells of the grid; it stays when the sizes change
+    // By direction and position, both from 1.
+    std::array<std::vector<quint16>, 9> volgend_; ///< where a step leads; 0 when it leaves the grid
+    std::array<std::vector<quint16>, 9> ruimte_;  ///< how many empty cells there are in a row
 };

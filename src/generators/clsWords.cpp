@@ -20,8 +20,10 @@ std::list<clsWords::Element>::iterator clsWords::Zoek(qint32 index)
 
 std::list<clsWords::Element>::iterator clsWords::Zoek(const QString &sleutel)
 {
+    if (sleutel.isEmpty())
+        return elementen_.end();
     return std::find_if(elementen_.begin(), elementen_.end(), [&](const Element &element) {
-        return !element.Sleutel.isEmpty() && element.Sleutel.compare(sleutel, Qt::CaseInsensitive) == 0;
+        return element.Sleutel.compare(sleutel, Qt::CaseInsensitive) == 0;
     });
 }
 

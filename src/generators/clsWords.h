@@ -2,6 +2,7 @@
 
 #include "generators/clsWord.h"
 
+#include <iterator>
 #include <list>
 
 /// The words of a word search, in the order of their coming. Indices run from 1; keys are compared ignoring case.
@@ -14,6 +15,19 @@ class clsWords
     };
 
 public:
+    /// Goes through the words in order.
+    class Enumerator
+    {
+    public:
+        explicit Enumerator(const std::list<Element> &elementen) : nu_(elementen.begin()), einde_(elementen.end()) {}
+        const clsWord &operator*() const { return nu_->Woord; }
+        void operator++() { ++nu_; }
+        bool operator==(std::default_sentinel_t) const { return nu_ == einde_; }
+
+    private:
+        std::list<Element>::const_iterator nu_, einde_;
+    };
+
     /// @param sKey none when it is empty. Raises Fout::SleutelBestaatAl for one that is there already
     clsWord &Add(const QString &Word, const QString &sKey = {});
     /// Raises Fout::IndexBuitenBereik for an index that is not there, Fout::OngeldigArgument for a key that is not.
@@ -23,30 +37,15 @@ public:
     /// Raises what Item raises.
     void Remove(qint32 index);
     void Remove(const QString &sleutel);
+    Enumerator NewEnum() const { return Enumerator(elementen_); } ///< at the first word
     void Clear();
     /// Adds each line of a text: also the empty one behind a line end at its end.
     void AddFromString(const QString &strWords);
     /// The words with line ends between them. Raises Fout::OngeldigArgument when there are none.
     QString JoinWords() const;
 
-    /// Goes through the words in order.
-    class Enumerator
-    {
-    public:
-        explicit Enumerator(std::list<Element>::const_iterator plaats) : plaats_(plaats) {}
-        const clsWord &operator*() const { return plaats_->Woord; }
-        Enumerator &operator++()
-        {
-            ++plaats_;
-            return *this;
-        }
-        bool operator==(const Enumerator &) const = default;
-
-    private:
-        std::list<Element>::const_iterator plaats_;
-    };
-    Enumerator begin() const { return Enumerator(elementen_.begin()); }
-    Enumerator end() const { return Enumerator(elementen_.end()); }
+    Enumerator begin() const { return NewEnum(); }
+    std::default_sentinel_t end() const { return {}; }
 
 private:
     std::list<Element>::iterator Zoek(qint32 index);
