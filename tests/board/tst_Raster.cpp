@@ -1,51 +1,10 @@
 #include "board/Raster.h"
-#include "support/Bord.h"
-
-#include <QFontMetricsF>
-#include <QPainter>
+#include "support/Verwacht.h"
 
 using namespace Qt::StringLiterals;
 
-static const QRgb Lijn = qRgb(150, 150, 150);
 static const QRgb Wit = qRgb(255, 255, 255);
 static const QRgb Zwart = qRgb(0, 0, 0);
-
-static QImage Doek(int breedte, int hoogte, QRgb kleur)
-{
-    QImage beeld(breedte, hoogte, QImage::Format_RGB32);
-    beeld.fill(kleur);
-    return beeld;
-}
-
-/// What the boards and their rulers should be, drawn by the toolkit itself, in pixels.
-static QImage Raster(int breedte, int hoogte, const QList<int> &banden = {})
-{
-    QImage beeld = Doek(breedte * 30 + 1, hoogte * 30 + 1, Wit);
-    QPainter painter(&beeld);
-    for (int x = 0; x <= breedte; ++x)
-        painter.fillRect(x * 30, 0, 1, beeld.height(), QColor(Lijn));
-    for (int y = 0; y <= hoogte; ++y)
-        painter.fillRect(0, y * 30, beeld.width(), 1, QColor(Lijn));
-    for (const int band : banden) {
-        painter.fillRect(band, 0, 3, beeld.height(), QColor(Lijn));
-        painter.fillRect(0, band, beeld.width(), 3, QColor(Lijn));
-    }
-    return beeld;
-}
-
-static QImage Tegels(const QImage &tegel, int breedte, int hoogte, const QList<int> &banden = {})
-{
-    QImage beeld = Doek(breedte * 120 + 3, hoogte * 120 + 3, Wit);
-    QPainter painter(&beeld);
-    for (int x = 0; x < breedte; ++x)
-        for (int y = 0; y < hoogte; ++y)
-            painter.drawImage(x * 120, y * 120, tegel);
-    for (const int band : banden) {
-        painter.fillRect(band, 0, 10, beeld.height(), QColor(Zwart));
-        painter.fillRect(0, band, beeld.width(), 10, QColor(Zwart));
-    }
-    return beeld;
-}
 
 /// A ruler with so many texts, each a step further on than the one before.
 static QImage Liniaal(int breedte, int hoogte, QPoint plaats, QPoint stap, const QStringList &teksten)
@@ -111,8 +70,8 @@ private slots:
                 main.PicGroot->BoxFull(0, 0, 1e6, 1e6, Zwart);
             }
             TekenBord(breedte, hoogte);
-            QCOMPARE(main.Pic->Image(), Raster(breedte, hoogte, isSudoku ? QList{89, 179} : QList<int>()));
-            QCOMPARE(main.PicGroot->Image(), Tegels(tegel, breedte, hoogte, isSudoku ? QList{357, 717} : QList<int>()));
+            QCOMPARE(main.Pic->Image(), Raster(breedte, hoogte, isSudoku ? Banden : QList<int>()));
+            QCOMPARE(main.PicGroot->Image(), Tegels(tegel, breedte, hoogte, isSudoku ? BandenGroot : QList<int>()));
             QCOMPARE(main.PicR->Image(), Rijnummers(hoogte));
             QCOMPARE(main.PicO->Image(), Kolomletters(breedte));
         }
