@@ -71,7 +71,9 @@ void Form::PasOpScherm()
 void Form::Voer(const QString &naam, const std::function<void()> &handler)
 {
     const auto meld = [&naam](const Fout &fout) {
-        MsgBox(u"Fout %1 bij %2: %3."_s.arg(fout.nummer()).arg(naam, fout.tekst()), Knoppen::Ok, Icoon::Kritiek);
+        const QString tekst = fout.tekst();
+        const QString punt = tekst.endsWith(u'.') ? QString() : u"."_s; // a component's text is a sentence already
+        MsgBox(u"Fout %1 bij %2: %3%4"_s.arg(fout.nummer()).arg(naam, tekst, punt), Knoppen::Ok, Icoon::Kritiek);
     };
     try {
         handler();
