@@ -109,8 +109,8 @@ void AutoForm::AddKnop_Click()
     if (!woord.isEmpty()) {
         const QString tekst = Text1->Text();
         Text1->SetText(tekst.isEmpty() ? woord : tekst + u"\r\n"_s + woord);
-        Text2->clear();
     }
+    Text2->clear(); // also of nothing but blanks
     Text2->setFocus();
 }
 
