@@ -93,6 +93,27 @@ private slots:
         Geval("too wide", begin + "woord|I-01|H|aap|dier\n", 3, u"aap"_s);
         Geval("too high", begin + "woord|A-10|V|aap|dier\n", 3, u"aap"_s);
         Geval("endless word", begin + "woord|A-01|V|" + QByteArray(100000, 'a') + "|x\n", 3, u"aaa"_s);
+        const QByteArray zoek = "naam|Proef\nwoordzoeker|10|12\n";
+        Geval("second line of another kind", QByteArray("naam|Proef\nfilippine|10|11\n"), 2,
+              u"hier hoort maat|KOLOMMEN|RIJEN, woordzoeker|KOLOMMEN|RIJEN of sudoku|NIVEAU"_s);
+        Geval("word search without a size", QByteArray("naam|Proef\nwoordzoeker\n"), 2,
+              u"woordzoeker|KOLOMMEN|RIJEN"_s);
+        Geval("word search with half a size", QByteArray("naam|Proef\nwoordzoeker|10\n"), 2,
+              u"woordzoeker|KOLOMMEN|RIJEN"_s);
+        Geval("word search too narrow", QByteArray("naam|Proef\nwoordzoeker|8|11\n"), 2, u"9 tot en met 16"_s);
+        Geval("word search too high", QByteArray("naam|Proef\nwoordzoeker|9|20\n"), 2, u"9 tot en met 19"_s);
+        Geval("word search without words", zoek, 3, u"hier hoort woord|WOORD"_s);
+        Geval("word search with a cell", zoek + "vak|A-01|1|x\n", 3, u"hier hoort woord|WOORD"_s);
+        Geval("word search with a word of another kind", zoek + "woord|A-01|H|aap|dier\n", 3,
+              u"hier hoort woord|WOORD"_s);
+        for (const char *woord : {"", "a", "ij", "een twee", "wat?", "a1", "abcdefghijklmn"})
+            Geval("word search with \"" + QByteArray(woord) + '"', zoek + "woord|aap\nwoord|" + woord + '\n', 4,
+                  u"\"%1\" is geen woord van 2 tot en met 12 letters"_s.arg(QLatin1String(woord)));
+        Geval("sudoku without a level", QByteArray("naam|Proef\nsudoku\n"), 2, u"sudoku|NIVEAU"_s);
+        Geval("sudoku of a level that is none", QByteArray("naam|Proef\nsudoku|normaal\n"), 2,
+              u"\"normaal\" is geen niveau: Gemakkelijk, Normaal, Moeilijk"_s);
+        Geval("sudoku with a size", QByteArray("naam|Proef\nsudoku|9|9\n"), 2, u"sudoku|NIVEAU"_s);
+        Geval("sudoku with a word", QByteArray("naam|Proef\nsudoku|Normaal\nwoord|aap\n"), 3, u"verder niets"_s);
         Geval("binary", QByteArray("naam|Pro\0ef\nmaat|10|11\n", 22), 1, u"teken"_s);
         Geval("line end within", begin + "woord|A-01|H|\u2028aap|dier\n", 3, u"teken"_s);
         Geval("blank lines count", "\r\n\r\n" + begin + " \n\nvak|A-01|9|x\n", 7, u"1 tot en met 8"_s);
@@ -128,7 +149,7 @@ private slots:
                                                           "C-19 / 165-H\r\nin de hoek\r\nijijs\r\n-\r\n" + streep +
                                                           "B-11 / 92-V\r\ntot onderaan \x85\r\nijsbergend\r\n-\r\n" +
                                                           streep);
-        QCOMPARE(werk.Inhoud(u"controle/lijst.txt"_s),
+        QCOMPARE(werk.Inhoud(u"controle/Proef/lijst.txt"_s),
                  QByteArray("B-01 / 2-H\tlang\tijspegels\t-\nC-19 / 165-H\tin de hoek\tijijs\t-\n"
                             "B-11 / 92-V\ttot onderaan \xE2\x80\xA6\tijsbergend\t-\n"));
 
@@ -166,6 +187,92 @@ private slots:
         QVERIFY(!HeeftInkt(groot, QRect(3, 4 * 120 + 48, 117, 72), kleur));         // and no more
         QCOMPARE(InktVlak(groot, QRect(4 * 120 + 3, 6 * 120 + 3, 117, 117), kleur), // a split cell without a clue
                  QRect(4 * 120 + 3, 6 * 120 + 3 + 58, 117, 3));
+    }
+
+    void aWordSearchIsMade()
+    {
+        const QByteArray bron = "naam|Proef\nwoordzoeker|9|12\nwoord|ijspegelsijs\nwoord|Rijp\nwoord|dooi\n";
+        const Werkplaats werk, nogEens;
+        for (const Werkplaats *plaats : {&werk, &nogEens}) {
+            const Afloop gemaakt = plaats->Voer(u"bewaar"_s, bron);
+            QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        }
+        const QByteArray streep = QByteArray(28, '-') + "\r\n";
+        QCOMPARE(werk.Inhoud(u"Puzzels/Proef.lst"_s),
+                 "Tessel Hoeksma Software \xAE 2018\r\n2\r\n9\r\n12\r\n" + streep + "-\r\n-\r\nIJSPEGELSIJS\r\n-\r\n" +
+                     streep + "-\r\n-\r\nRIJP\r\n-\r\n" + streep + "-\r\n-\r\nDOOI\r\n-\r\n" + streep);
+        const QImage pic(werk.Map() + u"/Puzzels/Proef1.bmp"_s);
+        QCOMPARE(pic.size(), QSize(9 * 30 + 1, 12 * 30 + 1));
+        for (int vak = 0; vak < 9 * 12; ++vak)
+            QVERIFY(HeeftInkt(pic, QRect(vak % 9 * 30 + 1, vak / 9 * 30 + 1, 29, 29)));
+        for (const QString &naam : werk.Puzzels()) // each time the same
+            QVERIFY(werk.Inhoud(u"Puzzels/"_s + naam) == nogEens.Inhoud(u"Puzzels/"_s + naam));
+
+        const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
+        QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
+        QVERIFY2(gelijk.Tekst.contains(u"lijst van 3 woorden"_s), qPrintable(gelijk.Tekst));
+        QCOMPARE(QImage(werk.Map() + u"/controle/Proef/venster.png"_s).width(), 1234); // the whole window
+    }
+
+    void aWordSearchIsDrawnUntilAllItsWordsFit()
+    {
+        // Words nearly as long as a side: few draws place them all.
+        QByteArray bron = "naam|Proef\nwoordzoeker|9|9\n";
+        for (const char *woord : {"abcdefgh", "bcdefgha", "cdefghab", "defghabc", "efghabcd", "fghabcde"})
+            bron += QByteArray("woord|") + woord + '\n';
+        const Werkplaats werk;
+        const Afloop gemaakt = werk.Voer(u"maak"_s, bron);
+        QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        QCOMPARE(werk.Inhoud(u"Puzzels/Proef.lst"_s).count("\r\n"), 5 + 6 * 5);
+    }
+
+    void wordsThatDoNotFitTogetherAreToldSo()
+    {
+        const Werkplaats werk;
+        QByteArray bron = "naam|Proef\nwoordzoeker|9|9\n";
+        for (int i = 0; i < 10; ++i)
+            bron += "woord|abcdefghk\n";
+        const Afloop afloop = werk.Voer(u"maak"_s, bron);
+        QVERIFY(afloop.Gewoon);
+        QCOMPARE(afloop.Code, 1);
+        QVERIFY2(afloop.Tekst.contains(u"Het woord \"ABCDEFGHK\" kan niet worden geplaatst"_s),
+                 qPrintable(afloop.Tekst));
+        QVERIFY(werk.Puzzels().isEmpty());
+    }
+
+    void aSudokuIsMadeOfItsLevel()
+    {
+        QList<int> gegeven;
+        for (const char *niveau : {"Gemakkelijk", "Normaal", "Moeilijk"}) {
+            const QByteArray bron = QByteArray("naam|Proef\nsudoku|") + niveau + '\n';
+            const Werkplaats werk, nogEens;
+            for (const Werkplaats *plaats : {&werk, &nogEens}) {
+                const Afloop gemaakt = plaats->Voer(u"bewaar"_s, bron);
+                QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+            }
+            QCOMPARE(werk.Inhoud(u"Puzzels/Proef.lst"_s),
+                     "Tessel Hoeksma Software \xAE 2018\r\n4\r\n9\r\n9\r\n" + QByteArray(28, '-') + "\r\n");
+            for (const QString &naam : werk.Puzzels())
+                QVERIFY(werk.Inhoud(u"Puzzels/"_s + naam) == nogEens.Inhoud(u"Puzzels/"_s + naam));
+            const QImage pic(werk.Map() + u"/Puzzels/Proef1.bmp"_s), groot(werk.Map() + u"/Puzzels/Proef2.bmp"_s);
+            gegeven += 0;
+            for (int vak = 0; vak < 81; ++vak) {
+                gegeven.last() += pic.pixel(vak % 9 * 30 + 4, vak / 9 * 30 + 4) == qRgb(235, 235, 205);
+                QVERIFY(HeeftInkt(groot, QRect(vak % 9 * 120 + 12, vak / 9 * 120 + 12, 98, 98)));
+            }
+            const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
+            QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
+        }
+        QVERIFY2(gegeven[0] > gegeven[1] && gegeven[1] > gegeven[2], qPrintable(QString::number(gegeven[1])));
+    }
+
+    void whatTheBuildMade()
+    {
+        const QDir bronnen(QStringLiteral(BRONNEN)), puzzels(QStringLiteral(PUZZELS));
+        QCOMPARE(bronnen.entryList(QDir::Files, QDir::Name).join(u' '), u"Cijfers.txt Kennismaking.txt Winter.txt"_s);
+        for (const QString &bron : bronnen.entryList(QDir::Files))
+            for (const char *einde : {".lst", "1.bmp", "2.bmp"})
+                QVERIFY2(puzzels.exists(QFileInfo(bron).baseName() + QLatin1String(einde)), qPrintable(bron));
     }
 
     void aPuzzleThatWasNotSavedIsToldSo()
