@@ -60,7 +60,6 @@ AddForm::AddForm() : Form(u"AddForm"_s, u"Woordlijsten bewerken"_s, 9150, 4800, 
     }
     Kleur(Text1, RGB(0, 0, 40), RGB(230, 230, 230));
     Bar->BackColor = RGB(0, 0, 40);
-    Bar->Cls();
     Bar->hide();
     VulOnderwerpen();
 

@@ -115,7 +115,6 @@ void MissingForm::TekenHelp()
                               {90, 2830, u"6. Klik op de button 'Export' om de gevonden woorden"_s},
                               {330, 3050, u"naar het hoofdscherm te copyeren."_s}};
     HelpPic->BackColor = RGB(0, 50, 0);
-    HelpPic->Cls();
     HelpPic->ZetLetter({.Vet = true, .Kleur = RGB(250, 250, 100)});
     HelpPic->PrintOp(90, 90, u"Uitleg Ontbrekende letters"_s);
     HelpPic->ZetLetter({.Vet = false, .Kleur = RGB(200, 200, 200)});

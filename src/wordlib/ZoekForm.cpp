@@ -66,7 +66,6 @@ ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100,
         optie->setPalette(palet);
     }
     Picture1->BackColor = RGB(30, 0, 0);
-    Picture1->Cls();
     Picture1->ZetLetter({.Punten = 20, .Vet = true, .Kleur = RGB(240, 240, 240)});
     Picture1->PrintOp(0, 0, u"Wacht"_s);
     Picture1->hide();
@@ -126,7 +125,6 @@ void ZoekForm::Knop_Click()
         return;
     }
     if (Gekozen(Option1) != Trefwoord) {
-        Text1_Change();
         if (Text1->text().size() < 3) {
             MsgBox(u"Minimaal 3 letters intypen a.u.b."_s);
             Text1->setFocus();

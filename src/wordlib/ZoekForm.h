@@ -42,6 +42,10 @@ public:
     ImageBox *Image1;
     QAction *FilePrint;
 
+    Woorden Words; ///< sorted
+    LetterIndex LetterStart{};
+    std::vector<qint32> WordHash; ///< no search reads it
+
 private:
     void ToonGevonden();
     /// Runs a search and lists what it finds, also what it found before it failed.
@@ -51,7 +55,4 @@ private:
     Zoekgebied Gebied() const;
 
     QByteArray inhoud_; ///< what Words lie in
-    Woorden Words;
-    LetterIndex LetterStart{};
-    std::vector<qint32> WordHash;
 };

@@ -50,7 +50,7 @@ private slots:
                                    {"AddKnop", 5310, 3855},
                                    {"CancelKnop", 7035, 3855},
                                    {"SaveKnop", 8040, 3855, 840, 360},
-                                   {"Image1", 7500, 2850}}),
+                                   {"Image1", 7500, 2850, 1380, 930}}),
                  QString());
         QCOMPARE(form.size(), QSize((9150 - 90) / 15, (4800 - 450) / 15));
     }

@@ -77,10 +77,10 @@ private slots:
                           {"HScroll1", 2730, 2910, 5130, 300},
                           {"Label4", 2700, 3270},
                           {"Label5", 3945, 3270},
-                          {"OkKnop", 2700, 3660, 0, 330},
+                          {"OkKnop", 2700, 3660, 840, 330},
                           {"Label7", 3750, 3720},
                           {"CancelKnop", 6060, 3840},
-                          {"ExportKnop", 7065, 3840, 0, 360},
+                          {"ExportKnop", 7065, 3840, 810, 360},
                           {"HelpPic", 2700, 180, 5205, 3840}};
         QByteArrayList namen;
         for (int i = 1; i <= 19; ++i) {
@@ -91,6 +91,9 @@ private slots:
             tabel += Plek{namen.last().constData(), links, 225, 255, 270};
         }
         QCOMPARE(Misplaatst(form, tabel), QString());
+        const QSize vlak((8145 - 90) / 15, (5130 - 450 - 300) / 15);
+        QCOMPARE(form.List1->parentWidget()->size(), vlak);
+        QCOMPARE(form.size(), vlak + QSize(0, form.findChild<QMenuBar *>()->sizeHint().height()));
     }
 
     void theTabKeyGoesFromTheListOn()

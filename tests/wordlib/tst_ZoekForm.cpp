@@ -55,9 +55,11 @@ private slots:
                                    {"Knop", 3480, 3510, 1140, 330},
                                    {"ExportKnop", 7800, 3810, 810, 330},
                                    {"Label7", 5430, 3870},
-                                   {"Image1", 7050, 1950}}),
+                                   {"Image1", 7050, 1950, 1680, 1680}}),
                  QString());
-        QCOMPARE(form.Label1->parentWidget()->size(), QSize((9000 - 90) / 15, (5100 - 450 - 300) / 15));
+        const QSize vlak((9000 - 90) / 15, (5100 - 450 - 300) / 15);
+        QCOMPARE(form.Label1->parentWidget()->size(), vlak);
+        QCOMPARE(form.size(), vlak + QSize(0, form.findChild<QMenuBar *>()->sizeHint().height()));
     }
 
     void theTabKeyGoesFromTheKeywordOn()
@@ -277,6 +279,24 @@ private slots:
         bord.Bank.Schrijf(u"Data/NEDERLANDS.Lib"_s, "aal");
         ZoekForm form;
         QCOMPARE(Gelezen(form), u"aal"_s);
+    }
+
+    void theWordsAreKeptSortedWithTheirIndexAndTheirTable()
+    {
+        Woordbord bord("kat\r\nkip\r\naal\r\nbij\r\n");
+        ZoekForm form;
+        QByteArrayList woorden;
+        for (const Woord &woord : form.Words)
+            woorden += QByteArray(woord.Tekst.data(), static_cast<qsizetype>(woord.Tekst.size()));
+        QCOMPARE(woorden, (QByteArrayList{"aal", "bij", "kat", "kip"}));
+        std::vector<qint32> tabel;
+        BuildHashTable(form.Words, tabel);
+        QCOMPARE(tabel.size(), std::size_t{16});
+        QCOMPARE(form.WordHash, tabel);
+        LetterIndex index{};
+        index[2] = 1;
+        index[3] = 2;
+        QCOMPARE(form.LetterStart, index);
     }
 
     void longLinesAreWords()
