@@ -108,6 +108,22 @@ private slots:
         QVERIFY(gesloten.Gegeven == Antwoord::Ok);
     }
 
+    void aRealMessageShowsItsIcon_data()
+    {
+        QTest::addColumn<Icoon>("icoon");
+        QTest::addColumn<QMessageBox::Icon>("plaatje");
+        Geval("critical", Icoon::Kritiek, QMessageBox::Critical);
+        Geval("warning", Icoon::Waarschuwing, QMessageBox::Warning);
+        Geval("information", Icoon::Informatie, QMessageBox::Information);
+    }
+    void aRealMessageShowsItsIcon()
+    {
+        QFETCH(Icoon, icoon);
+        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, icoon, QString(), [](QMessageBox &box) { box.close(); });
+        QTEST(bericht.Plaatje, "plaatje");
+        QVERIFY(bericht.Gegeven == Antwoord::Ok);
+    }
+
     void aRealQuestionHasYesAndNo_data()
     {
         QTest::addColumn<QString>("opschrift");
@@ -138,23 +154,6 @@ private slots:
         const EchtBericht metEnter(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
                                    [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
         QVERIFY(metEnter.Gegeven == Antwoord::Ja);
-    }
-
-    void aRealMessageHasItsIcon_data()
-    {
-        QTest::addColumn<int>("icoon");
-        QTest::addColumn<int>("plaatje");
-        Geval("none", int(Icoon::Geen), int(QMessageBox::NoIcon));
-        Geval("critical", int(Icoon::Kritiek), int(QMessageBox::Critical));
-        Geval("warning", int(Icoon::Waarschuwing), int(QMessageBox::Warning));
-    }
-    void aRealMessageHasItsIcon()
-    {
-        QFETCH(int, icoon);
-        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, static_cast<Icoon>(icoon), QString(),
-                                  [](QMessageBox &box) { box.close(); });
-        QTEST(int(bericht.Plaatje), "plaatje");
-        QVERIFY(bericht.Gegeven == Antwoord::Ok);
     }
 
     void aMessageHasTheFrameOfADialog()

@@ -15,6 +15,8 @@ private slots:
     void failuresAreDropped();
     void aHandlerThatIsGivenUpIsNoFailure();
     void exceptionsOfTheLibraryHaveANumber();
+    void aComponentHasFailuresOfItsOwn();
+    void whatAFailureIsAboutStandsBehindItsText();
 };
 
 void tst_Fout::aStatementThatEndsWellIsToldApart()
@@ -67,6 +69,27 @@ void tst_Fout::exceptionsOfTheLibraryHaveANumber()
     QCOMPARE(van(1).tekst(), u"Onvoldoende geheugen"_s);
     QCOMPARE(van(2).nummer(), Fout::InterneFout);
     QCOMPARE(van(2).tekst(), u"Interne fout (buiten)"_s);
+}
+
+void tst_Fout::aComponentHasFailuresOfItsOwn()
+{
+    const Fout fout(static_cast<qint32>(0x80040001), u"Onderdeel"_s, u"Its own words."_s);
+    const std::exception &gevangen = fout;
+    for (const Fout &een : {fout, Fout::Van(gevangen)}) {
+        QCOMPARE(een.nummer(), -2147221503);
+        QCOMPARE(een.bron(), u"Onderdeel"_s);
+        QCOMPARE(een.tekst(), u"Its own words."_s);
+    }
+    QCOMPARE(Fout(5, u"Onderdeel"_s, u"Its own words."_s).tekst(), u"Its own words."_s);
+    QCOMPARE(Fout(Fout::OngeldigArgument).bron(), QString());
+    QCOMPARE(Fout(Fout::OngeldigArgument).tekst(), u"Ongeldig argument"_s);
+}
+
+void tst_Fout::whatAFailureIsAboutStandsBehindItsText()
+{
+    const Fout fout(Fout::SleutelBestaatAl, u"appel"_s);
+    QCOMPARE(fout.nummer(), 457);
+    QCOMPARE(fout.tekst(), u"Die sleutel bestaat al (appel)"_s);
 }
 
 RASTER_TEST(tst_Fout)

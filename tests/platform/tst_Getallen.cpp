@@ -165,6 +165,33 @@ private slots:
             QCOMPARE(FoutVan([&] { Getallen::AlsInt16(waarde); }), int{Fout::Overloop});
     }
 
+    void theValueOfATextInSixteenBits_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        QTest::addColumn<int>("getal");
+        QTest::addColumn<int>("fout");
+        const auto rij = [](const char *tekst, int getal, int fout = 0) { Geval(tekst, tekst, getal, fout); };
+        rij("", 0);
+        rij("12", 12);
+        rij("12 vakjes", 12);
+        rij("vakjes", 0);
+        rij("2.5", 2);
+        rij("3.5", 4);
+        rij("-0.5", 0);
+        rij("32767.4", 32767);
+        rij("-32768.5", -32768);
+        rij("32767.5", 0, Fout::Overloop);
+        rij("-32769", 0, Fout::Overloop);
+        rij("65548", 0, Fout::Overloop);
+    }
+    void theValueOfATextInSixteenBits()
+    {
+        QFETCH(QString, tekst);
+        int getal = 0;
+        QTEST(FoutVan([&] { getal = Getallen::ValInt16(tekst); }), "fout");
+        QTEST(getal, "getal");
+    }
+
     void halvesGoToTheEvenNeighbour_data()
     {
         QTest::addColumn<double>("waarde");
