@@ -43,6 +43,18 @@ def medians(program, *options):
             if row["aggregate_name"] == "median"}
 
 
+def generators(build):
+    """Of each maker of puzzles: mean microseconds of the processor's time, and the share of words that were placed."""
+    said = subprocess.run([build / "bench_generators", "--benchmark_format=json"], capture_output=True, text=True, check=True)
+    return {row["name"]: (row["cpu_time"], row.get("placed")) for row in json.loads(said.stdout)["benchmarks"]}
+
+
+def report_generators(made):
+    (sudoku, _), (peer, _), (search, placed) = made["MakeASudoku"], made["SudokuOfQQwing"], made["MakeAWordSearch"]
+    print(f"{'making a Sudoku':52} {sudoku:9.2f} us (at most 100), at {peer / sudoku:.1f} times the rate of qqwing (at least 5)")
+    print(f"{'making a word search of 16 by 19 with 40 words':52} {search:9.2f} us (at most 500), {placed:.0%} of them placed")
+
+
 def report(what, ours, peer, unit, most):
     print(f"{what:52} {ours:9.2f} {unit} beside {peer:9.2f} {unit}: {ours / peer:5.2f} times (at most {most})")
 
@@ -77,3 +89,4 @@ for what, ours, most in [
         ("words with three vowels in a row, until shown", "Vowels", 1000)]:
     print(f"{what:52} {waits[ours]:9.2f} ms (at most {most})")
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")
+report_generators(generators(build))
