@@ -151,8 +151,8 @@ void AutoForm::WordSearch_CannotFitWord(QString &strWord, bool &Continue)
     Continue = true;
 }
 
-// The grid that was made last is taken, whatever the sizes say now. The sheet stays blank, and the puzzle doesn't count
-// as changed; wanted so.
+// The grid that was made last is taken, whatever the sizes say now. The sheet stays blank, the puzzle doesn't count as
+// changed, and the kind changes behind the drawing, which has the bands of a Sudoku once more; wanted so.
 void AutoForm::ExportKnop_Click()
 {
     ExportKnop->Druk();

@@ -2,6 +2,8 @@
 #include "app/Opstarten.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
+#include "generators/SudokuMod.h"
+#include "generators/SudokuSpel.h"
 #include "platform/ImageButton.h"
 #include "platform/LineBox.h"
 #include "support/Bestuurder.h"
@@ -15,6 +17,8 @@
 #include <QMenuBar>
 #include <QRegularExpression>
 #include <QSignalSpy>
+
+#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -305,6 +309,59 @@ private slots:
         const Stand ervoor = programma.Scherm.Nu();
         programma.Main().SoortVakTekst[9]->trigger();
         QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Shape1"_s);
+    }
+
+    void aSudokuIsShuffledAndPlayed()
+    {
+        Programma programma;
+        MainForm &main = programma.Main();
+        programma.Scherm.Begin(Sudoku, 9, 9);
+        main.ToonPuzzel(u"Raster Atelier"_s);
+        SudokuOplossing = {};
+        main.StartKnop->click();
+        QVERIFY(std::accumulate(SudokuOplossing.begin(), SudokuOplossing.end(), 0) == 9 * 45);
+        QCOMPARE(programma.Scherm.Bank.TestKlok.Gewacht(), 0.2);
+        QList<QImage> gezien;
+        for (const int index : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11}) {
+            programma.Scherm.Klik(Qt::LeftButton, 4, 7);
+            QVERIFY(main.SudokuMenu->isVisible());
+            main.SudokuMenu->close();
+            QVERIFY(!main.Shape1->isHidden()); // without a choice it stays
+            main.SuMe[static_cast<std::size_t>(index)]->trigger();
+            QVERIFY(main.Shape1->isHidden());
+            const QImage pic = programma.Scherm.Pic();
+            QCOMPARE(gezien.contains(pic), index == 11); // the hint is one of the digits
+            gezien += pic;
+            SuMe_Click(10);
+            SuMe_Click(index);
+            QCOMPARE(programma.Scherm.Pic(), pic);
+        }
+        QVERIFY(main.SuMe[10]->isSeparator());
+        const QImage pic = programma.Scherm.Pic();
+        programma.Scherm.Klik(Qt::RightButton, 4, 7);
+        QCOMPARE(programma.Scherm.Pic(), pic);
+        QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty() && !PuzzelGewijzigd);
+    }
+
+    void aSudokuOfAnotherSizeKeepsTheWindow()
+    {
+        Programma programma;
+        MainForm &main = programma.Main();
+        programma.Scherm.Begin(Sudoku, 16, 19); // as a damaged file may tell
+        programma.Scherm.Klik(Qt::LeftButton, 1, 5);
+        main.SudokuMenu->close();
+        const Stand ervoor = programma.Scherm.Nu();
+        main.SuMe[3]->trigger();
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
+        const Bericht &bericht = programma.Scherm.Bank.Script.Gezien[0];
+        QVERIFY2(bericht.Tekst.startsWith(u"Fout 9 bij "_s), qPrintable(bericht.Tekst));
+        QVERIFY2(bericht.Tekst.endsWith(u": Index valt buiten het bereik."_s), qPrintable(bericht.Tekst));
+        QCOMPARE(bericht.Plaatje, Icoon::Kritiek);
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), QString());
+        programma.Scherm.Wijs(0, 5);
+        main.SuMe[3]->trigger();
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
+        QVERIFY(programma.Scherm.Veranderd(ervoor).contains(u"Pic "_s));
     }
 
     void theFillAsksFirst()

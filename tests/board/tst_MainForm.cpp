@@ -45,6 +45,13 @@ private slots:
         QCOMPARE(Misplaatst(*main.Frame1, {{"Label6", 120, 180}, {"KlokLabel", 7020, 180}}), QString());
         QCOMPARE(Misplaatst(*main.Frame7, {{"DelKnop", 120, 240}, {"Label10", 1170, 315}, {"Label11", 4350, 315}}),
                  QString());
+        QCOMPARE(Misplaatst(*main.Frame9, {{"StartKnop", 180, 285},
+                                           {"Label13", 1230, 345},
+                                           {"Option1", 390, 900, 2700, 360},
+                                           {"Option2", 390, 1200, 2700, 360},
+                                           {"Option3", 390, 1500, 3300, 360},
+                                           {"Label14", 180, 3210, 3840, 1200}}),
+                 QString());
         QCOMPARE(Misplaatst(*main.Frame10, {{"Label18", 60, 180, 1965, 345}, {"CopyLabel", 135, 240}}), QString());
         QCOMPARE(Misplaatst(*main.Frame2, {{"Label3", 120, 210},
                                            {"Label16", 150, 780},
@@ -204,6 +211,27 @@ private slots:
                 verborgen += control->objectName();
         verborgen.sort();
         QCOMPARE(verborgen.join(u' '), u"Frame9 Label2 Line1 PicGroot PicVak Shape1 Vak1 Vak2"_s);
+    }
+
+    void theSudokuPanel()
+    {
+        Bord bord;
+        MainForm &main = bord.Venster;
+        const QColor paneel(230, 230, 190);
+        QCOMPARE(main.Frame9->grab().toImage().pixelColor(3, 3), paneel);
+        QStringList niveaus;
+        for (QRadioButton *optie : main.Option) {
+            niveaus += optie->text();
+            QCOMPARE(optie->isChecked(), optie == main.Option[1]);
+            QCOMPARE(optie->grab().toImage().pixelColor(optie->width() - 1, 0), paneel);
+        }
+        QCOMPARE(niveaus.join(u' '), u"Gemakkelijk Normaal Moeilijk"_s);
+        main.Option[2]->click();
+        QVERIFY(!main.Option[1]->isChecked()); // one at a time
+        QCOMPARE(main.StartKnop->accessibleName(), u"Nieuwe puzzel"_s);
+        bord.Begin(Sudoku, 9, 9);
+        main.ToonPuzzel(u"Raster Atelier"_s);
+        QVERIFY(main.Option[2]->isChecked()); // another puzzle keeps the level
     }
 
     void theWindow()
