@@ -14,7 +14,6 @@ QString WoordzoekerRaster;
 
 constexpr int AantalRichtingen = 8;
 constexpr QChar Leeg = u' ';
-constexpr auto LineEnd = "\r\n"_L1;
 
 /// The failure of this class with a number above the base of its failures.
 static Fout EigenFout(qint32 nummer, const QString &bron, const QString &tekst)
@@ -202,7 +201,7 @@ void clsWordSearch::Save(const QString &strFile)
     for (const clsWord &woord : Words)
         regels += woord.Word;
     regels += raster_;
-    Files::Schrijf(strFile, Files::NaarBytes(regels.join(LineEnd) + LineEnd));
+    Files::Schrijf(strFile, Files::NaarBytes(regels.join(clsWords::LineEnd) + clsWords::LineEnd));
 }
 
 void clsWordSearch::Load(const QString &strFile)

@@ -6,10 +6,6 @@
 
 #include <algorithm>
 
-using namespace Qt::StringLiterals;
-
-constexpr auto LineEnd = "\r\n"_L1;
-
 std::list<clsWords::Element>::iterator clsWords::Zoek(qint32 index)
 {
     if (index < 1 || index > Count())

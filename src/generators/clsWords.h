@@ -15,6 +15,9 @@ class clsWords
     };
 
 public:
+    /// Between words in a text, and behind each line of a file.
+    static constexpr QLatin1String LineEnd = QLatin1String("\r\n");
+
     /// Goes through the words in order.
     class Enumerator
     {
