@@ -76,11 +76,7 @@ void Probeer(const QByteArray &inhoud)
 {
     static const QTemporaryDir tijdelijk;
     static int aantal = 0;
-    static auto *const app = [] {
-        qputenv("QT_QPA_PLATFORM", "offscreen"); // letters need one
-        return new QGuiApplication(aantal, nullptr);
-    }();
-    (void)app;
+    static const QGuiApplication app(aantal, nullptr); // letters need one
     const QString pad = tijdelijk.filePath(u"zoeker.txt"_s);
     QFile bestand(pad);
     EIS(bestand.open(QIODevice::WriteOnly) && bestand.write(inhoud) == inhoud.size());
