@@ -1,9 +1,10 @@
-// Drawing and saving beside the least that such work could cost.
+// Drawing and saving beside the least that such work could cost; and what a person waits for when a Sudoku is shuffled.
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/Raster.h"
 #include "documents/SaveForm.h"
+#include "generators/SudokuSpel.h"
 #include "platform/Berichten.h"
 #include "platform/Klok.h"
 #include "platform/Uiterlijk.h"
@@ -90,6 +91,21 @@ static void WriteTheSameBytes(benchmark::State &state)
     }
 }
 BENCHMARK(WriteTheSameBytes)->Unit(benchmark::kMillisecond)->MinTime(2);
+
+static void ShuffleASudokuUntilItIsPainted(benchmark::State &state)
+{
+    PuzzelType = Sudoku;
+    BoardWidth = BoardHeight = 9;
+    TekenBord(BoardWidth, BoardHeight);
+    Main().ToonPuzzel(u"Raster Atelier"_s);
+    Main().show();
+    QCoreApplication::processEvents();
+    for (auto _ : state) {
+        StartKnop_Click();
+        Main().repaint();
+    }
+}
+BENCHMARK(ShuffleASudokuUntilItIsPainted)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char *argv[])
 {
