@@ -139,10 +139,8 @@ void MissingForm::HScroll1_Change()
         const bool inGebruik = i <= static_cast<size_t>(lengte);
         VScroll[i]->setEnabled(inGebruik);
         Label1[i]->SetBackColor(inGebruik ? KleurInGebruik : KleurVrij);
-        if (!inGebruik) {
-            VScroll[i]->setValue(Onbekend);
-            Label1[i]->SetCaption(u"-"_s);
-        }
+        if (!inGebruik)
+            VScroll[i]->setValue(Onbekend); // and its letter with it
     }
 }
 
@@ -195,7 +193,6 @@ void MissingForm::HelpUitleg_Click()
 {
     const bool toon = HelpPic->isHidden();
     HelpPic->setVisible(toon);
-    HelpUitleg->setChecked(toon);
     CancelKnop->setVisible(!toon);
     ExportKnop->setVisible(!toon);
 }

@@ -286,6 +286,7 @@ private slots:
         Geval("nothing is known: every word of the length, in the order of the file", "---", "VOS KAT ÉÉN IJSA");
         Geval("all is known", "KAT", "KAT");
         Geval("none", "X--", "");
+        Geval("the last letter counts", "VOT", "");
         Geval("one cell", "-", "A IJ");
         Geval("IJ is one cell", "*-----", "IJSBEER");
         Geval("and fits an unknown one", "-S----", "IJSBEER");
