@@ -35,18 +35,20 @@ def starts(build, folder):
     return [tuple(map(statistics.median, zip(*one))) for one in zip(*rounds)]
 
 
+def measured(program, *options):
+    said = subprocess.run([program, "--benchmark_format=json", *options], capture_output=True, text=True, check=True)
+    return json.loads(said.stdout)["benchmarks"]
+
+
 def medians(program, *options):
     """The median time of each benchmark of a program."""
-    said = subprocess.run([program, "--benchmark_format=json", "--benchmark_repetitions=5",
-                           "--benchmark_report_aggregates_only=true", *options], capture_output=True, text=True, check=True)
-    return {row["run_name"].split("/")[0]: row["real_time"] for row in json.loads(said.stdout)["benchmarks"]
-            if row["aggregate_name"] == "median"}
+    rows = measured(program, "--benchmark_repetitions=5", "--benchmark_report_aggregates_only=true", *options)
+    return {row["run_name"].split("/")[0]: row["real_time"] for row in rows if row["aggregate_name"] == "median"}
 
 
 def generators(build):
     """Of each maker of puzzles: mean microseconds of the processor's time, and the share of words that were placed."""
-    said = subprocess.run([build / "bench_generators", "--benchmark_format=json"], capture_output=True, text=True, check=True)
-    return {row["name"]: (row["cpu_time"], row.get("placed")) for row in json.loads(said.stdout)["benchmarks"]}
+    return {row["name"]: (row["cpu_time"], row.get("placed")) for row in measured(build / "bench_generators")}
 
 
 def report_generators(made):
