@@ -223,10 +223,11 @@ private slots:
     void theWidestRangeIsTaken()
     {
         constexpr auto Laag = std::numeric_limits<qint32>::min(), Hoog = std::numeric_limits<qint32>::max();
-        int onder = 0;
+        std::array<int, 4> kwarten{};
         for (int i = 0; i < 1000; ++i)
-            onder += RandomGetal(Laag, Hoog) < 0;
-        QVERIFY2(onder > 400 && onder < 600, qPrintable(QString::number(onder)));
+            ++kwarten.at(static_cast<size_t>((qint64{RandomGetal(Laag, Hoog)} - Laag) >> 30));
+        for (const int aantal : kwarten)
+            QVERIFY2(aantal > 150 && aantal < 350, qPrintable(QString::number(aantal)));
         QCOMPARE(RandomGetal(Laag, Laag), Laag);
         QCOMPARE(RandomGetal(Hoog, Hoog), Hoog);
     }
