@@ -60,7 +60,6 @@ AutoForm::AutoForm() : Form(u"AutoForm"_s, u"Automatische woordzoeker"_s, 10200,
     Zet(ExportKnop, 9030, 5130, 870, 360);
 
     picGrid->BackColor = RGB(220, 220, 240);
-    picGrid->Cls();
     picGrid->ZetLetter({.Naam = u"Arial"_s, .Vet = true});
     Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Kleur(Text1, RGB(200, 200, 200), RGB(0, 0, 0));

@@ -11,9 +11,10 @@ constexpr int Hint = 11;
 
 static int Oplossing(int cel)
 {
-    if (cel < 0 || static_cast<size_t>(cel) >= SudokuOplossing.size())
+    const auto index = static_cast<size_t>(cel); // huge for a negative one
+    if (index >= SudokuOplossing.size())
         throw Fout(Fout::IndexBuitenBereik);
-    return SudokuOplossing[static_cast<size_t>(cel)];
+    return SudokuOplossing[index];
 }
 
 void TekenOplossing()

@@ -137,8 +137,8 @@ private slots:
                                         {"AddKnop", 7500, 4065, 930, 330},
                                         {"Label4", 8520, 4110},
                                         {"Label3", 7890, 240, 2010, 3000},
-                                        {"Combo1", 180, 4890, 900},
-                                        {"Combo2", 1200, 4890, 900},
+                                        {"Combo1", 180, 4890, 900, 315},
+                                        {"Combo2", 1200, 4890, 900, 315},
                                         {"Label1", 180, 5280},
                                         {"OkKnop", 3795, 4890},
                                         {"Label2", 2760, 4950},
@@ -160,6 +160,7 @@ private slots:
         QCOMPARE(form.windowTitle(), u"Automatische woordzoeker"_s);
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 230, 190));
         QCOMPARE(form.picGrid->parentWidget()->size(), QSize((10200 - 90) / 15, (6450 - 450 - 300) / 15));
+        QCOMPARE(form.maximumWidth(), (10200 - 90) / 15); // it grows no further
         QCOMPARE(form.Text1->Text() + form.Text2->text(), QString());
         QCOMPARE(form.Text1->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
         QCOMPARE(Items(*form.Combo1).join(u' '), u"9 10 11 12 13 14 15 16"_s);

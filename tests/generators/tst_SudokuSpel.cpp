@@ -30,10 +30,10 @@ static QPoint Hoek(int cel, int maat)
     return QPoint(cel % 9, cel / 9) * maat;
 }
 
-/// The solution as the large board has to show it.
-static QImage OplossingBeeld(const QImage &tegel)
+/// What the solution makes of a picture.
+static QImage MetOplossing(const QImage &begin)
 {
-    Verwacht beeld(Tegels(tegel, 9, 9, BandenGroot));
+    Verwacht beeld(begin);
     for (int cel = 0; cel < 81; ++cel) {
         const QPoint hoek = Hoek(cel, 120) + QPoint(10, 10);
         beeld.Vul(QRect(hoek, QSize(103, 103)), Wit);
@@ -41,6 +41,12 @@ static QImage OplossingBeeld(const QImage &tegel)
                    Grijs);
     }
     return beeld.Beeld;
+}
+
+/// The solution as the large board has to show it.
+static QImage OplossingBeeld(const QImage &tegel)
+{
+    return MetOplossing(Tegels(tegel, 9, 9, BandenGroot));
 }
 
 /// The numbers of the cells that are tinted.
@@ -113,6 +119,9 @@ private slots:
         QCOMPARE(Verschil(spel.Groot(), OplossingBeeld(spel.Venster.PicVak->Image())), QString());
         QCOMPARE(Lettersoort(*spel.Venster.PicGroot), u"Arial Narrow 48 1 ff505050"_s);
         QCOMPARE(spel.Veranderd(ervoor), u"PicGroot"_s);
+        spel.Venster.PicGroot->BoxFull(0, 0, 1e5, 1e5, Tint); // each digit wipes the inside of its cell
+        TekenOplossing();
+        QCOMPARE(Verschil(spel.Groot(), MetOplossing(Doek(1083, 1083, Tint))), QString());
     }
 
     void theShuffle_data()
