@@ -3,8 +3,8 @@
 #include "platform/Tekening.h"
 
 #include <QFile>
-#include <QImageReader>
 #include <QPainter>
+#include <QResource>
 #include <QSvgRenderer>
 #include <QWidget>
 
@@ -40,16 +40,18 @@ QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKle
     return OpWit(tekening, {});
 }
 
-/// The picture as it was drawn out in its own size.
-static QString Uitgetekend(const QString &naam)
+/// The picture as it was drawn out in its own size; it lies in the program.
+static QByteArray Uitgetekend(const QString &naam)
 {
-    return u":/assets/"_s + naam + u".png"_s;
+    const QResource beeld(u":/assets/"_s + naam + u".beeld"_s);
+    Q_ASSERT(beeld.isValid());
+    return QByteArray::fromRawData(reinterpret_cast<const char *>(beeld.data()), beeld.size());
 }
 
 QPixmap Pixmap(const QString &naam, QSize maat, double ratio)
 {
     if (ratio == 1 && maat == Maat(naam))
-        return QPixmap(Uitgetekend(naam));
+        return QPixmap::fromImage(LeesBeeld(Uitgetekend(naam)));
     QSvgRenderer tekening(Tekening(naam));
     QPixmap pixmap(maat * ratio);
     pixmap.setDevicePixelRatio(ratio);
@@ -60,7 +62,7 @@ QPixmap Pixmap(const QString &naam, QSize maat, double ratio)
 
 QSize Maat(const QString &naam)
 {
-    return QImageReader(Uitgetekend(naam)).size();
+    return BeeldMaat(Uitgetekend(naam));
 }
 
 } // namespace Plaatjes

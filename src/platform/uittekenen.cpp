@@ -1,7 +1,9 @@
-// Makes a picture of a drawing in its own size. Most are shown in that size: a picture is read in a fraction of the
-// time that drawing it takes.
+// Draws a picture out in its own size. Most are shown in that size: the pixels are read in a fraction of the time that
+// drawing takes.
 //
-//   uittekenen DRAWING.svg PICTURE.png
+//   uittekenen DRAWING.svg PICTURE
+//
+// A picture is its width and its height, then its pixels from the top left, as LeesBeeld reads them.
 
 #include "platform/Tekening.h"
 
@@ -23,7 +25,9 @@ int main(int argc, char *argv[])
     beeld.fill(Qt::transparent);
     if (tekening.isValid())
         TekenSvg(beeld, tekening, beeld.size());
-    if (!tekening.isValid() || !beeld.save(QFile::decodeName(argv[2]))) {
+    QFile bestand(QFile::decodeName(argv[2]));
+    const bool open = tekening.isValid() && bestand.open(QIODevice::WriteOnly);
+    if (!open || !SchrijfBeeld(bestand, beeld)) {
         QTextStream(stderr) << "uittekenen: " << argv[1] << " can't be drawn as " << argv[2] << '\n';
         return 1;
     }
