@@ -50,6 +50,7 @@ def word_search(run):
 
 def draw(run, window, box, before):
     """Draws a puzzle, and gives the picture of it."""
+    time.sleep(0.6)  # two presses in one place are a double click, which is one, when they come sooner
     run.push(window, "Draw puzzel")
     def drawn():
         time.sleep(0.1)

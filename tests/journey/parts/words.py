@@ -138,6 +138,7 @@ def make_list(journey, run):
     until("the animals", lambda: len(listed(window.find("list", "Woorden"))) > 3)
     run.desktop.shot("lists-animals")
     run.push(window, "Nieuwe woordlijst aanmaken")
+    run.program.until_focus("text", "Onderwerp")
     for word in ("wagon", "ijsje", "perron", "spoor"):
         run.write(window.find("text", "Puzzelwoord"), word)
         run.push(window, "Woord toevoegen")
