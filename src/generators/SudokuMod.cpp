@@ -20,7 +20,7 @@ static size_t KolomVan(int cel)
 
 static size_t BlokVan(int cel)
 {
-    return static_cast<size_t>(cel / 27 * 3 + cel % 9 / 3);
+    return RijVan(cel) / 3 * 3 + KolomVan(cel) / 3;
 }
 
 void SudokuRaster::Zet(int cel, int cijfer)

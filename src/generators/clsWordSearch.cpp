@@ -217,7 +217,8 @@ void clsWordSearch::Load(const QString &strFile)
     SrchName = lees();
     SetGridWidth(Getallen::NaarInt16(lees()));
     SetGridHeight(Getallen::NaarInt16(lees()));
-    for (double nog = Getallen::Val(lees()); nog >= 1; --nog)
+    const double aantal = Getallen::Val(lees());
+    for (qint32 i = 1; i <= aantal; ++i) // the lines end before this does, however large the number is
         Words.Add(lees());
     raster_ = lees();
     TelVakken();

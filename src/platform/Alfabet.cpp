@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <compare>
 #include <vector>
 
 /// The letters of the code page end before this.
@@ -33,7 +34,7 @@ bool AlfabetischVoor(QStringView a, QStringView b)
                                                       [&](QChar x, QChar y) { return letter(x) <=> letter(y); });
     };
     const auto volgorde = voor(Grondletter);
-    return (volgorde != 0 ? volgorde : voor([](QChar teken) { return teken.toLower().unicode(); })) < 0;
+    return std::is_lt(std::is_neq(volgorde) ? volgorde : voor([](QChar teken) { return teken.toLower().unicode(); }));
 }
 
 /// The first eight letters as one number. Where it differs, it orders as AlfabetischVoor does.

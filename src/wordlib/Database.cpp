@@ -109,7 +109,7 @@ void unscramble(const Zoekgebied &gebied, const LetterIndex &LetterStart, std::s
         if (goed == lengte && lengte >= MinLen)
             vondst(W);
         if (goed == 0 && W.front() >= 'a' && W.front() < 'z') {
-            const qint32 volgende = LetterStart[static_cast<size_t>(W.front() - 'a' + 2)];
+            const qint32 volgende = LetterStart[static_cast<size_t>(W.front() - 'a') + 2];
             I = std::max(I, volgende); // an index of words with other first letters may lead back
         }
     }
@@ -231,7 +231,7 @@ void ZoekKlinkers(const Zoekgebied &gebied, const Vondst &vondst)
         if (woord.size() >= KortsteMetKlinkers && woord.size() <= LangsteMetKlinkers)
             gevonden.insert(gevonden.end(), AantalKlinkerplaatsen(woord), woord);
     }
-    Ruilsortering{gevonden};
+    const Ruilsortering sortering(gevonden);
     std::for_each(gevonden.begin(), gevonden.end(), vondst);
 }
 

@@ -17,6 +17,27 @@ struct Woordbord : Bord
     void Database(const QByteArray &inhoud) const { Bank.Schrijf(QStringLiteral("Data/nederlands.lib"), inhoud); }
     void GeenDatabase() const { QFile::remove(Bank.Map() + QStringLiteral("/Data/nederlands.lib")); }
 
+    /// The ways in which the database can't be read, as rows of a test.
+    static void Onleesbaar_data()
+    {
+        QTest::addColumn<QString>("hoe");
+        for (const char *hoe : {"missing", "no folder", "a folder in its place", "forbidden"})
+            Geval(hoe, QString::fromLatin1(hoe));
+    }
+    /// Makes it so; "forbidden" counts for a user whom rights bind (Onbevoegd).
+    void MaakOnleesbaar(const QString &hoe) const
+    {
+        const QString pad = Bank.Map() + QStringLiteral("/Data/nederlands.lib");
+        if (hoe == QStringLiteral("forbidden"))
+            QFile::setPermissions(pad, {});
+        else
+            GeenDatabase();
+        if (hoe == QStringLiteral("no folder"))
+            QDir(Bank.Map()).rmdir(QStringLiteral("Data"));
+        if (hoe == QStringLiteral("a folder in its place"))
+            QDir().mkdir(pad);
+    }
+
     static QString Lijstnaam(const QString &onderwerp)
     {
         return QStringLiteral("Woordlijsten/") + onderwerp + QStringLiteral(".txt");
