@@ -5,11 +5,17 @@
 #include "board/MainForm.h"
 #include "platform/Klok.h"
 #include "platform/Uiterlijk.h"
+#include "wordlib/KladblokForm.h"
 #include "wordlib/ZoekForm.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QKeyEvent>
+#include <QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+
+using namespace Qt::StringLiterals;
 
 static void Toon(QWidget &venster)
 {
@@ -56,6 +62,42 @@ static void Vowels(benchmark::State &state)
     Search(state, 4);
 }
 BENCHMARK(Vowels)->Unit(benchmark::kMillisecond);
+
+/// The folder of the program as it is here, with lists in a folder that may be written.
+static void SaveNotepad(benchmark::State &state)
+{
+    const QTemporaryDir map;
+    QDir(map.path()).mkdir(u"Woordlijsten"_s);
+    const QString programma = std::exchange(AppPath, map.path());
+    KladblokForm form;
+    Toon(form);
+    form.Text1->SetText(u"een notitie\n"_s.repeated(10'000));
+    for (auto _ : state) {
+        form.SaveKladblok(u"Lijst"_s);
+        state.PauseTiming();
+        if (!QFile::remove(map.path() + u"/Woordlijsten/Lijst.txt"_s))
+            state.SkipWithError("no list was saved");
+        state.ResumeTiming();
+    }
+    AppPath = programma;
+}
+BENCHMARK(SaveNotepad)->Unit(benchmark::kMillisecond);
+
+static void KeyInNotepad(benchmark::State &state)
+{
+    KladblokForm form;
+    Toon(form);
+    form.Text1->SetText(
+        (u"een regel van tachtig tekens in een kladblok dat heel veel van zulke regels bevat\n"_s).repeated(13'000));
+    form.Text1->moveCursor(QTextCursor::End);
+    form.repaint();
+    for (auto _ : state) {
+        QKeyEvent toets(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, u"a"_s);
+        QCoreApplication::sendEvent(form.Text1, &toets);
+        form.repaint();
+    }
+}
+BENCHMARK(KeyInNotepad)->Unit(benchmark::kMillisecond)->Iterations(40); // the line stays one of some eighty signs
 
 int main(int argc, char *argv[])
 {

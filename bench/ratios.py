@@ -88,7 +88,9 @@ for what, ours, peer, most in [
 for what, ours, most in [
         ("the search window, from the order until it is shown", "OpenSearchWindow", 150),
         ("all words into its list, until shown", "AllWords", 300),
-        ("words with three vowels in a row, until shown", "Vowels", 1000)]:
+        ("words with three vowels in a row, until shown", "Vowels", 1000),
+        ("a notepad of 10,000 lines saved", "SaveNotepad", 50),
+        ("a key in a notepad of 1 MiB, until shown", "KeyInNotepad", 50)]:
     print(f"{what:52} {waits[ours]:9.2f} ms (at most {most})")
 print(f"{'a Sudoku shuffled until it is painted':52} {times['ShuffleASudokuUntilItIsPainted']:9.2f} ms (at most 10)")
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")

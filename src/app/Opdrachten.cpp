@@ -21,6 +21,7 @@
 #include "platform/Screen.h"
 #include "wordlib/AddForm.h"
 #include "wordlib/FormMain.h"
+#include "wordlib/KladblokForm.h"
 #include "wordlib/MissingForm.h"
 #include "wordlib/ZoekForm.h"
 
@@ -59,6 +60,7 @@ void VerbindOpdrachten()
     Koppel(main.ToolsAdd, Toon<AddForm>);
     Koppel(main.ToolsAutoWoordzoeker, Toon<AutoForm>);
     Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
+    Koppel(main.ToolsKladblok, Toon<KladblokForm>);
     Koppel(main.HelpHelp, OpenHelp);
     Koppel(main.HelpSpecialeTekens, ToonSpecialeTekens);
     Koppel(main.HelpMeerSoftware, [] { OpenDocument(Adressen::Software); });

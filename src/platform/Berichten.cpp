@@ -5,6 +5,8 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -57,11 +59,36 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
     return box.clickedButton() == ja ? Antwoord::Ja : Antwoord::Nee;
 }
 
+QString Berichten::VraagTekst(const QString &vraag, const QString &titel)
+{
+    QInputDialog box(QApplication::activeWindow());
+    box.setObjectName(u"InputBox"_s);
+    box.setWindowTitle(titel);
+    AlsDialoog(box);
+    box.setLabelText(vraag);
+    box.setOkButtonText(u"OK"_s);
+    box.setCancelButtonText(u"Annuleren"_s);
+    for (QPushButton *knop : box.findChildren<QPushButton *>())
+        knop->setIcon(QIcon()); // as in the other boxes
+    box.findChild<QLineEdit *>()->setMinimumWidth(330);
+    box.layout()->setSizeConstraint(QLayout::SetFixedSize);
+    return box.exec() == QDialog::Accepted ? box.textValue() : QString();
+}
+
+static QString Titel(const QString &titel)
+{
+    return titel.isEmpty() ? u"Rasteratelier"_s : titel;
+}
+
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
     constexpr int MostCharacters = 1024;
-    return Berichten::Huidig().Vraag(BeginVan(tekst, MostCharacters), knoppen, icoon,
-                                     titel.isEmpty() ? u"Rasteratelier"_s : titel);
+    return Berichten::Huidig().Vraag(BeginVan(tekst, MostCharacters), knoppen, icoon, Titel(titel));
+}
+
+QString InputBox(const QString &vraag, const QString &titel)
+{
+    return Berichten::Huidig().VraagTekst(vraag, Titel(titel));
 }
 
 bool JaNee(const QString &vraag, const QString &titel)

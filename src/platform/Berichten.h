@@ -12,6 +12,7 @@ class Berichten
 public:
     virtual ~Berichten();
     virtual Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel);
+    virtual QString VraagTekst(const QString &vraag, const QString &titel);
 
     static Berichten &Huidig();
     /// Puts other messages in use, nullptr the real ones. The caller keeps them alive.
@@ -23,6 +24,10 @@ public:
 /// @param titel the program's own name when it is empty
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen = Knoppen::Ok, Icoon icoon = Icoon::Geen,
                 const QString &titel = {});
+
+/// Asks for a line of text. @return what was typed; empty when the box was closed without an answer
+/// @param titel the program's own name when it is empty
+QString InputBox(const QString &vraag, const QString &titel = {});
 
 /// Asks a question. @return whether the answer was Yes
 bool JaNee(const QString &vraag, const QString &titel);

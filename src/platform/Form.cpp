@@ -68,6 +68,27 @@ void Form::PasOpScherm()
     resize(maat.boundedTo(screen()->availableSize() - frame));
 }
 
+void Form::MaakRekbaar()
+{
+    PasOpScherm();
+    setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    setWindowFlags(windowFlags() | Qt::WindowMinMaxButtonsHint);
+    inhoud_->setMinimumSize(1, 1);
+    inhoud_->setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
+    static_cast<QScrollArea *>(layout()->itemAt(0)->widget())->setWidgetResizable(true);
+}
+
+int Form::Width() const
+{
+    return static_cast<int>(Twips::VanPixels(width())) + FrameWidth;
+}
+
+int Form::Height() const
+{
+    const int inhoud = height() - menuBalk_->sizeHint().height();
+    return static_cast<int>(Twips::VanPixels(inhoud)) + FrameHeight + MenuHeight;
+}
+
 void Form::Voer(const QString &naam, const std::function<void()> &handler)
 {
     const auto meld = [&naam](const Fout &fout) {

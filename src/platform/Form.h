@@ -105,6 +105,11 @@ protected:
     /// Gives a window with a menu bar its size: the whole, or what the screen has room for; it scrolls then. To be
     /// called when the menu bar is filled.
     void PasOpScherm();
+    /// Makes a window with a menu bar one that can be resized, minimised and maximised. In the place of PasOpScherm.
+    /// Nothing scrolls: its resizeEvent is to place the controls.
+    void MaakRekbaar();
+    int Width() const;  ///< outer size in twips, as the constructor takes it; of a window with a menu bar
+    int Height() const; ///< the same
 
     QMenuBar *MenuBalk() const { return menuBalk_; }
     /// A menu at the end of the menu bar.

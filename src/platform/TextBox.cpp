@@ -6,12 +6,13 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextLayout>
 
 using namespace Qt::StringLiterals;
 
-TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder)
+TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder), barWidth_(verticalScrollBar()->sizeHint().width())
 {
     setAcceptRichText(false);
     setTabChangesFocus(true);
@@ -114,7 +115,8 @@ void TextBox::changeEvent(QEvent *event)
 const std::vector<int> &TextBox::Lines() const
 {
     // Wrapping is fixed to the box's width here, so that a box that was never shown wraps like the one on the screen.
-    const int width = this->width() - 2 * frameWidth();
+    const bool hasBar = verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
+    const int width = this->width() - 2 * frameWidth() - (hasBar ? barWidth_ : 0);
     if (wrapWidth_ != width) {
         const_cast<TextBox *>(this)->setLineWrapColumnOrWidth(width);
         wrapWidth_ = width;

@@ -2,6 +2,8 @@
 #include "support/Testbank.h"
 
 #include <QApplication>
+#include <QLabel>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
@@ -154,6 +156,52 @@ private slots:
         const EchtBericht metEnter(u"Zeker?"_s, Knoppen::JaNee, Icoon::Geen, QString(),
                                    [](QMessageBox &box) { QTest::keyClick(&box, Qt::Key_Return); });
         QVERIFY(metEnter.Gegeven == Antwoord::Ja);
+    }
+
+    void aTextIsAskedFor_data()
+    {
+        QTest::addColumn<Qt::Key>("toets");
+        QTest::addColumn<QString>("gegeven");
+        Geval("Enter", Qt::Key_Return, u"reizen"_s);
+        Geval("Escape", Qt::Key_Escape, QString());
+    }
+    void aTextIsAskedFor()
+    {
+        QFETCH(Qt::Key, toets);
+        Berichten::Gebruik(nullptr);
+        QString vraag, titel, eerst;
+        QStringList opschriften;
+        QSize kleinst, grootst;
+        QTimer::singleShot(0, qApp, [&] {
+            QWidget &box = *QApplication::activeModalWidget();
+            vraag = box.findChild<QLabel *>()->text();
+            titel = box.windowTitle();
+            eerst = box.findChild<QLineEdit *>()->text();
+            for (const QPushButton *knop : box.findChildren<QPushButton *>()) {
+                opschriften += knop->text();
+                QVERIFY(knop->icon().isNull());
+            }
+            kleinst = box.minimumSize();
+            grootst = box.maximumSize();
+            QTest::keyClicks(box.focusWidget(), u"reizen"_s);
+            QTest::keyClick(&box, toets);
+        });
+        QTEST(InputBox(u"Geef de naam"_s), "gegeven");
+        QCOMPARE(vraag, u"Geef de naam"_s);
+        QCOMPARE(titel, u"Rasteratelier"_s);
+        QCOMPARE(eerst, QString());
+        QCOMPARE(opschriften, (QStringList{u"OK"_s, u"Annuleren"_s}));
+        QCOMPARE(kleinst, grootst);
+    }
+
+    void theTitleOfAQuestionForATextCanBeSet()
+    {
+        bank_->Script.Teksten = {u"a"_s, u"b"_s};
+        QCOMPARE(InputBox(u"Eerst"_s), u"a"_s);
+        QCOMPARE(InputBox(u"Dan"_s, u"Titel"_s), u"b"_s);
+        QCOMPARE(bank_->Script.Gezien[0].Titel, u"Rasteratelier"_s);
+        QCOMPARE(bank_->Script.Gezien[1].Titel, u"Titel"_s);
+        QCOMPARE(bank_->Script.Gezien[1].Tekst, u"Dan"_s);
     }
 
     void aMessageHasTheFrameOfADialog()

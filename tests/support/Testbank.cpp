@@ -21,6 +21,15 @@ Antwoord BerichtenScript::Vraag(const QString &tekst, Knoppen knoppen, Icoon ico
     return Antwoord::Nee;
 }
 
+QString BerichtenScript::VraagTekst(const QString &vraag, const QString &titel)
+{
+    Gezien += Bericht{vraag, titel, Knoppen::Ok, Icoon::Geen};
+    if (!Teksten.isEmpty())
+        return Teksten.takeFirst();
+    QTest::qFail(qPrintable(u"onverwachte vraag: "_s + vraag), __FILE__, __LINE__);
+    return {};
+}
+
 Testbank::Testbank()
 {
     QDir().mkpath(Map() + u"/Puzzels"_s);

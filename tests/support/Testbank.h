@@ -26,7 +26,10 @@ class BerichtenScript : public Berichten
 public:
     Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel) override;
 
+    QString VraagTekst(const QString &vraag, const QString &titel) override;
+
     QList<Antwoord> Antwoorden; ///< for the questions to come, first one first
+    QStringList Teksten;        ///< for the texts that are asked for, first one first
     QList<Bericht> Gezien;
 };
 
