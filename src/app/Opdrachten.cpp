@@ -9,6 +9,7 @@
 #include "board/NieuwForm.h"
 #include "board/Opvullen.h"
 #include "board/Soorten.h"
+#include "documents/HtmlExport.h"
 #include "documents/OpenFile.h"
 #include "documents/SaveForm.h"
 #include "editors/Filippine.h"
@@ -61,6 +62,7 @@ void VerbindOpdrachten()
     Koppel(main.ToolsAutoWoordzoeker, Toon<AutoForm>);
     Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
     Koppel(main.ToolsKladblok, Toon<KladblokForm>);
+    Koppel(main.Export1, [] { ExporteerHtml(PuzzelNaam); });
     Koppel(main.HelpHelp, OpenHelp);
     Koppel(main.HelpSpecialeTekens, ToonSpecialeTekens);
     Koppel(main.HelpMeerSoftware, [] { OpenDocument(Adressen::Software); });

@@ -1,6 +1,7 @@
 #include "documents/PuzzelMap.h"
 
 #include "board/Algemeen.h"
+#include "documents/HtmlExport.h"
 #include "documents/PuzzelJpeg.h"
 #include "platform/Bewaren.h"
 #include "platform/Files.h"
@@ -19,7 +20,7 @@ QString PuzzelPad(const QString &bestand)
 
 void HerstelBestanden()
 {
-    for (const QString &map : {AppPath, PuzzelMap(), FotoMap()})
+    for (const QString &map : {AppPath, PuzzelMap(), FotoMap(), HtmlMap(), HtmlBeeldMap()})
         MaakAf(map);
     RuimTussenBeeldOp();
 }

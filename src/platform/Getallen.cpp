@@ -63,6 +63,11 @@ qint32 NaarInt32(QStringView tekst)
     return Strikt<qint32>(tekst);
 }
 
+quint8 ValByte(QStringView tekst)
+{
+    return Afgerond<quint8>(Val(tekst), tekst);
+}
+
 qint16 ValInt16(QStringView tekst)
 {
     return Afgerond<qint16>(Val(tekst), tekst);

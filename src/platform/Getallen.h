@@ -9,7 +9,8 @@ namespace Getallen {
 /// over. Never fails.
 double Val(QStringView tekst);
 
-/// The same as a 16-bit number, rounded with ties to even. Raises Fout::Overloop outside -32768..32767.
+/// The same rounded with ties to even. Raises Fout::Overloop outside 0..255, and outside -32768..32767.
+quint8 ValByte(QStringView tekst);
 qint16 ValInt16(QStringView tekst);
 
 /// The whole text as a number (blanks around it allowed, a point for the fraction), rounded to the nearest whole

@@ -8,6 +8,7 @@
 #include "platform/LineBox.h"
 #include "support/Bestuurder.h"
 #include "support/Bord.h"
+#include "support/Schil.h"
 #include "support/Verloop.h"
 
 #include <QClipboard>
@@ -21,30 +22,6 @@
 #include <numeric>
 
 using namespace Qt::StringLiterals;
-
-/// Takes what would go to the system's shell.
-class Schil : public QObject
-{
-    Q_OBJECT
-public:
-    Schil()
-    {
-        for (const QString &schema : Schemas)
-            QDesktopServices::setUrlHandler(schema, this, "Open");
-    }
-    ~Schil() override
-    {
-        for (const QString &schema : Schemas)
-            QDesktopServices::unsetUrlHandler(schema);
-    }
-    QList<QUrl> Geopend;
-
-public slots:
-    void Open(const QUrl &url) { Geopend += url; }
-
-private:
-    const QStringList Schemas{u"https"_s, u"file"_s, u"mailto"_s};
-};
 
 /// The program as it runs.
 struct Programma
@@ -86,8 +63,7 @@ private slots:
                     if (!item->isSeparator() && !item->isEnabled())
                         uit += item->objectName();
         QCOMPARE(uit.join(u' '), u"FilePrint ShowOrgineel EditDeleteRaster EditDeleteLetters "
-                                 "BiebSpreekwoorden BiebChemisch ToolsConfig ToolsKladblok "
-                                 "Export(1)"_s);
+                                 "BiebSpreekwoorden BiebChemisch ToolsConfig ToolsKladblok"_s);
     }
 
     void menuItemsOpenTheirWindow_data()
@@ -172,6 +148,18 @@ private slots:
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Tekst, u"Cannot send Mail from this System."_s);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Titel, u"Mail disabled/not installed"_s);
         QCOMPARE(programma.Scherm.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+    }
+
+    void theWebPageIsThatOfThePuzzle()
+    {
+        Programma programma;
+        PuzzelNaam = u"Reis"_s;
+        programma.Main().Export1->trigger();
+        QCOMPARE(programma.Shell.Geopend, QList<QUrl>{QUrl::fromLocalFile(AppPath + u"/Html/Reis.html"_s)});
+        QVERIFY(programma.Scherm.Bank.Inhoud(u"Html/Reis.html"_s).contains("Puzzelnaam : Reis<"));
+        QCOMPARE(programma.Scherm.Bank.Bestanden(u"Html/Images"_s), QStringList{u"Reis.bmp"_s});
+        QCOMPARE(programma.Scherm.Bank.TestKlok.Gewacht(), 0.2);
+        QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty());
     }
 
     void theHelpButtonOpensTheManual()

@@ -192,6 +192,33 @@ private slots:
         QTEST(getal, "getal");
     }
 
+    void theValueOfATextInAByte_data()
+    {
+        QTest::addColumn<QString>("tekst");
+        QTest::addColumn<int>("getal");
+        QTest::addColumn<int>("fout");
+        const auto rij = [](const char *tekst, int getal, int fout = 0) { Geval(tekst, tekst, getal, fout); };
+        rij("", 0);
+        rij("12 vakjes", 12);
+        rij("vakjes", 0);
+        rij("2.5", 2);
+        rij("3.5", 4);
+        rij("-0.5", 0);
+        rij("255.4", 255);
+        rij("255.5", 99, Fout::Overloop);
+        rij("-0.6", 99, Fout::Overloop);
+        rij("-1", 99, Fout::Overloop);
+        rij("256", 99, Fout::Overloop);
+        rij("99999999999999999999", 99, Fout::Overloop);
+    }
+    void theValueOfATextInAByte()
+    {
+        QFETCH(QString, tekst);
+        int getal = 99;
+        QTEST(FoutVan([&] { getal = Getallen::ValByte(tekst); }), "fout");
+        QTEST(getal, "getal");
+    }
+
     void halvesGoToTheEvenNeighbour_data()
     {
         QTest::addColumn<double>("waarde");
