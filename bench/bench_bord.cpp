@@ -3,6 +3,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/Raster.h"
+#include "documents/HtmlExport.h"
 #include "documents/SaveForm.h"
 #include "generators/SudokuSpel.h"
 #include "platform/Berichten.h"
@@ -65,17 +66,24 @@ static void WholeSaveWithoutItsWaits(benchmark::State &state)
 }
 BENCHMARK(WholeSaveWithoutItsWaits)->Unit(benchmark::kMillisecond)->MinTime(2);
 
-/// The bytes that a save writes, the bitmap in between among them, to new files, each brought to the disk.
-static void WriteTheSameBytes(benchmark::State &state)
+/// The contents of files; empty when one isn't there.
+static QList<QByteArray> Inhouden(const QStringList &paden)
 {
     QList<QByteArray> inhouden;
-    for (const QString &pad : Bestanden(AppPath)) {
+    for (const QString &pad : paden) {
         QFile bestand(pad);
         if (!bestand.open(QIODevice::ReadOnly))
-            return state.SkipWithError("nothing was saved");
+            return {};
         inhouden += bestand.readAll();
     }
-    inhouden += inhouden[2];
+    return inhouden;
+}
+
+/// Writes these to new files, each brought to the disk.
+static void SchrijfNieuw(benchmark::State &state, const QList<QByteArray> &inhouden)
+{
+    if (inhouden.isEmpty())
+        return state.SkipWithError("nothing was written before");
     const QString map = AppPath + u"/nieuw"_s;
     for (auto _ : state) {
         state.PauseTiming();
@@ -90,7 +98,40 @@ static void WriteTheSameBytes(benchmark::State &state)
         }
     }
 }
+
+/// The bytes that a save writes, the bitmap in between among them.
+static void WriteTheSameBytes(benchmark::State &state)
+{
+    QList<QByteArray> inhouden = Inhouden(Bestanden(AppPath));
+    if (!inhouden.isEmpty())
+        inhouden += inhouden[2];
+    SchrijfNieuw(state, inhouden);
+}
 BENCHMARK(WriteTheSameBytes)->Unit(benchmark::kMillisecond)->MinTime(2);
+
+static const QString Pagina = u"Proef"_s;
+
+/// Of a crossword with a row for each of a hundred words.
+static void WebPageWithoutItsWait(benchmark::State &state)
+{
+    PuzzelType = Kruiswoord;
+    Main().WisRijen();
+    Main().VoegRijenToe(
+        QList<Rij>(100, {u"C-05 / 43-H"_s, u"een omschrijving van gewone lengte"_s, u"oplossing"_s, u"12"_s}));
+    for (auto _ : state) {
+        state.PauseTiming();
+        QDir(HtmlMap()).removeRecursively();
+        state.ResumeTiming();
+        SchrijfHtml(Pagina);
+    }
+}
+BENCHMARK(WebPageWithoutItsWait)->Unit(benchmark::kMillisecond)->MinTime(2);
+
+static void WriteTheBytesOfThePage(benchmark::State &state)
+{
+    SchrijfNieuw(state, Inhouden({HtmlMap() + u'/' + Pagina + u".html"_s, HtmlBeeldMap() + u'/' + Pagina + u".bmp"_s}));
+}
+BENCHMARK(WriteTheBytesOfThePage)->Unit(benchmark::kMillisecond)->MinTime(2);
 
 static void ShuffleASudokuUntilItIsPainted(benchmark::State &state)
 {

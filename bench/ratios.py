@@ -75,6 +75,7 @@ report("start to first painted window, beside an empty one", ours * 1000, empty 
 report("the same, beside a window with text and a picture", ours * 1000, picture * 1000, "ms", 1.2)
 report("drawing both boards, beside a plain fill", times["DrawBothBoards"], times["FillBothPictures"], "us", 4)
 report("a whole save, beside the same bytes and fsync", times["WholeSaveWithoutItsWaits"], times["WriteTheSameBytes"], "ms", 2)
+report("the web page, beside the same bytes and fsync", times["WebPageWithoutItsWait"], times["WriteTheBytesOfThePage"], "ms", 3)
 for what, ours, peer, most in [
         ("a shuffled word list loaded, beside sort", "LoadShuffled", "SortShuffled", 0.85),
         ("the same in its order, beside sort of the shuffled", "LoadInFileOrder", "SortShuffled", 0.4),
