@@ -3,6 +3,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/NieuwForm.h"
+#include "documents/HtmlExport.h"
 #include "documents/SaveForm.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
@@ -98,13 +99,18 @@ void MaakSudoku(const Puzzel &puzzel)
     StartKnop_Click();
 }
 
+/// For what passes over a file that could not be written.
+void MoetBestaan(const QString &bestand)
+{
+    if (!BestandBestaat(bestand))
+        throw Fout(Fout::SchijfFout, bestand);
+}
+
 void Bewaar(const Puzzel &puzzel)
 {
     SaveForm bewaar;
     bewaar.SaveKnop_Click();
-    const QString bestand = Files::Pad(AppPath, {u"Puzzels"_s, puzzel.Naam + u".lst"_s});
-    if (!BestandBestaat(bestand)) // the window passes over what could not be written
-        throw Fout(Fout::SchijfFout, bestand);
+    MoetBestaan(Files::Pad(AppPath, {u"Puzzels"_s, puzzel.Naam + u".lst"_s}));
 }
 
 } // namespace
@@ -119,6 +125,13 @@ void MaakPuzzel(const Puzzel &puzzel)
     else
         MaakZweeds(puzzel);
     Bewaar(puzzel);
+}
+
+void MaakPagina()
+{
+    SchrijfHtml(PuzzelNaam);
+    MoetBestaan(Files::Pad(HtmlMap(), {PuzzelNaam + u".html"_s}));
+    MoetBestaan(Files::Pad(HtmlBeeldMap(), {PuzzelNaam + u".bmp"_s}));
 }
 
 } // namespace Voorbeeld

@@ -9,4 +9,7 @@ namespace Voorbeeld {
 /// Fout::SchijfFout when the puzzle was not saved.
 void MaakPuzzel(const Puzzel &puzzel);
 
+/// Writes the web page of the puzzle that was made. Raises Fout::SchijfFout when page or picture isn't there then.
+void MaakPagina();
+
 } // namespace Voorbeeld

@@ -1,7 +1,7 @@
 // Makes a sample puzzle through the windows of the program, and checks that a saved puzzle comes back whole.
 //
 //   voorbeeld maak BRON MAP        makes the puzzle that BRON tells and saves it in the folder Puzzels of MAP
-//   voorbeeld bewaar BRON MAP      the same, and keeps what stood on the screen
+//   voorbeeld bewaar BRON MAP      the same, writes its web page in the folder Html, and keeps what stood on the screen
 //   voorbeeld controleer BRON MAP  opens the saved puzzle and compares it with what was kept
 //
 // BRON is a description, see VoorbeeldBron.h. What is kept stands in MAP/controle, in a folder of the puzzle's name.
@@ -108,6 +108,7 @@ int Voer(const QStringList &argumenten)
         return Controleer(puzzel.Naam, controle) ? 0 : 1;
     Voorbeeld::MaakPuzzel(puzzel);
     if (wat == "bewaar"_L1) {
+        Voorbeeld::MaakPagina();
         QDir().mkpath(controle);
         Bewaar(controle);
     }

@@ -156,6 +156,32 @@ private slots:
         const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
         QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
         QVERIFY2(gelijk.Tekst.contains(u"lijst van 3 woorden"_s), qPrintable(gelijk.Tekst));
+        QVERIFY(werk.Inhoud(u"Html/Proef.html"_s).contains("Puzzelnaam : Proef<"));
+        QCOMPARE(werk.Inhoud(u"Html/Images/Proef.bmp"_s), werk.Inhoud(u"Puzzels/Proef2.bmp"_s));
+    }
+
+    void aPageThatWasNotWrittenIsToldSo_data()
+    {
+        QTest::addColumn<QString>("inDeWeg");
+        Geval("folder", u"Html"_s);
+        Geval("page", u"Html/Proef.html"_s);
+        Geval("picture", u"Html/Images/Proef.bmp"_s);
+    }
+    void aPageThatWasNotWrittenIsToldSo()
+    {
+        QFETCH(QString, inDeWeg);
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\nmaat|10|11\n";
+        if (inDeWeg == "Html"_L1)
+            QVERIFY(QFile(werk.Map() + u"/Html"_s).open(QIODevice::WriteOnly));
+        else
+            QVERIFY(QDir().mkpath(werk.Map() + u'/' + inDeWeg + u"/bezet"_s));
+        QCOMPARE(werk.Voer(u"maak"_s, bron).Code, 0); // which writes none
+        const Afloop afloop = werk.Voer(u"bewaar"_s, bron);
+        QVERIFY(afloop.Gewoon);
+        QCOMPARE(afloop.Code, 1);
+        const QString bestand = inDeWeg == "Html"_L1 ? u"Html/Proef.html"_s : inDeWeg;
+        QVERIFY2(afloop.Tekst.contains(bestand), qPrintable(afloop.Tekst));
     }
 
     void cellsAndWordsAreDrawnWhereTheyBelong()
