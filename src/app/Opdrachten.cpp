@@ -13,6 +13,9 @@
 #include "documents/OpenFile.h"
 #include "documents/SaveForm.h"
 #include "editors/Filippine.h"
+#include "editors/FilippineForm.h"
+#include "editors/LetterForm.h"
+#include "editors/NummerForm.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
 #include "generators/AutoForm.h"
@@ -72,6 +75,7 @@ void VerbindOpdrachten()
     main.bij(main.EditDeleteRaster, &QAction::triggered, [] { VerwijderRaster(*Main().Pic); });
     main.bij(main.EditDeleteLetters, &QAction::triggered, [] { VerwijderLetters(*Main().Pic); });
     main.bij(&main, &MainForm::VakMenuGekozen, SoortVakTekst_Click);
+    main.bij(&main, &MainForm::EditorGekozen, Toon<FilippineForm>);
     main.bij(&main, &MainForm::SudokuMenuGekozen, SuMe_Click);
     main.bij(main.StartKnop, &ImageButton::clicked, [] { StartKnop_Click(); });
     main.bij(main.HelpKnop, &ImageButton::clicked, [] { HelpKnop_Click(); });
@@ -88,6 +92,12 @@ void SoortVakTekst_Click(int index)
         break;
     case VakMenu::Oplossing:
         Toon<TekstForm>();
+        break;
+    case VakMenu::Letter:
+        Toon<LetterForm>();
+        break;
+    case VakMenu::Vaknummer:
+        Toon<NummerForm>();
         break;
     case VakMenu::Opvullen:
         if (JaNee(u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s, u"Fill"_s))

@@ -14,6 +14,11 @@ QString ZonderCode(QString woord)
     return woord.replace(u'?', "ij"_L1);
 }
 
+QString LetterVan(QChar teken)
+{
+    return teken == u'?' ? u"IJ"_s : QString(teken);
+}
+
 qsizetype AantalVakjes(const QString &oplossing)
 {
     return Hoofdletters(oplossing).replace("IJ"_L1, "?"_L1).size();

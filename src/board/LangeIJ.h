@@ -9,6 +9,8 @@
 QString MetCode(QString woord);
 /// Each "?" as "ij" again.
 QString ZonderCode(QString woord);
+/// A sign of a word in capitals as it is printed: "?" as "IJ".
+QString LetterVan(QChar teken);
 /// How many cells a word of the entry list takes: in capitals, with each "IJ" as one.
 qsizetype AantalVakjes(const QString &oplossing);
 /// How many letters a word of the word panel has: each "IJ" is one, in capitals only.

@@ -94,6 +94,7 @@ public:
 
 signals:
     void VakMenuGekozen(int index);    ///< the item of SoortPlaatsing that was chosen (VakMenu)
+    void EditorGekozen();              ///< a cell of a kind whose editor opens at once
     void SudokuMenuGekozen(int index); ///< the item of SudokuMenu that was chosen, as in SuMe
 
 protected:

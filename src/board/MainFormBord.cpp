@@ -11,8 +11,6 @@
 
 using namespace Qt::StringLiterals;
 
-static constexpr bool NummerEditorBestaat = false; // item 7 stays disabled until it has an editor
-
 PictureBox *MainForm::MaakVerborgen(const char *naam, const QString &plaatje)
 {
     auto *box = Maak<PictureBox>(naam, QString());
@@ -133,7 +131,7 @@ void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)
     if (soort->Klik == LinkerKlik::VakMenu) {
         SoortVakTekst[VakMenu::Infovakje]->setEnabled(soort->MetInfovakje);
         SoortVakTekst[VakMenu::Opvullen]->setEnabled(soort->MetOpvullen);
-        SoortVakTekst[VakMenu::Vaknummer]->setEnabled(soort->MetVaknummer && NummerEditorBestaat);
+        SoortVakTekst[VakMenu::Vaknummer]->setEnabled(soort->MetVaknummer);
     }
     if (knop == Qt::LeftButton) {
         Shape1->BorderColor = RGB(0, 200, 0);
@@ -142,6 +140,8 @@ void MainForm::Pic_MouseDown(Qt::MouseButton knop, QPoint opScherm)
             SoortPlaatsing->popup(opScherm);
         else if (soort->Klik == LinkerKlik::SudokuMenu)
             SudokuMenu->popup(opScherm);
+        else
+            emit EditorGekozen();
     } else if (knop == Qt::RightButton && soort->MetZwart) {
         ZwartOmzetten();
     }

@@ -95,7 +95,6 @@ void MainForm::MaakPopups()
         SoortVakTekst[static_cast<std::size_t>(i)] = item;
         bij(item, &QAction::triggered, [this, i] { emit VakMenuGekozen(i); });
     }
-    SoortVakTekst[VakMenu::Letter]->setEnabled(false); // there is no letter editor yet
 
     SudokuMenu = new QMenu(this);
     SudokuMenu->setObjectName(u"SudokuMenu"_s);

@@ -40,14 +40,14 @@ static const PictureBox *LeegVak(const PictureBox &doel, int x, int y)
 
 void VerwijderLetters(PictureBox &doel)
 {
-    constexpr int Cell = 30, TileSize = 465;
+    constexpr int Cell = 30;
     Screen::MousePointer(Screen::Hourglass);
     const int bord = BordNummer();
     for (int kolom = 0; kolom < 16 && BordNummer() == bord; ++kolom) {
         for (int rij = 0; rij < 19; ++rij)
             if (const PictureBox *vak = LeegVak(doel, kolom * Cell, rij * Cell))
-                doel.PaintPicture(vak->Image(), QRectF(kolom * VakMaat, rij * VakMaat, TileSize, TileSize),
-                                  QRectF(0, 0, TileSize, TileSize));
+                doel.PaintPicture(vak->Image(), QRectF(kolom * VakMaat, rij * VakMaat, TegelMaat, TegelMaat),
+                                  QRectF(0, 0, TegelMaat, TegelMaat));
         Wachten(0.2);
     }
     Screen::MousePointer(Screen::Own);

@@ -143,7 +143,7 @@ void TekstForm::DrukLetters(const QString &woord) const
     int kolom = CurCol, rij = CurRow;
     for (const QChar teken : Hoofdletters(woord)) {
         const int verschuiving = LetterVerschuiving(teken); // that of the code, which has none
-        const QString letter = teken == u'?' ? u"IJ"_s : QString(teken);
+        const QString letter = LetterVan(teken);
         pic.PrintOp(kolom * VakMaat + LetterX + verschuiving, rij * VakMaat + LetterY, letter);
         if (PuzzelType == Woordzoeker)
             groot.PrintOp(kolom * VakMaatGroot + LetterGrootX, rij * VakMaatGroot + LetterGrootY, letter);
