@@ -1,10 +1,12 @@
-// Drawing and saving beside the least that such work could cost; and what a person waits for when a Sudoku is shuffled.
+// Drawing and saving beside the least that such work could cost; and what a person waits for when a Sudoku is shuffled or
+// the raster of a Filippine is wiped.
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/Raster.h"
 #include "documents/HtmlExport.h"
 #include "documents/SaveForm.h"
+#include "editors/Filippine.h"
 #include "generators/SudokuSpel.h"
 #include "platform/Berichten.h"
 #include "platform/Klok.h"
@@ -147,6 +149,39 @@ static void ShuffleASudokuUntilItIsPainted(benchmark::State &state)
     }
 }
 BENCHMARK(ShuffleASudokuUntilItIsPainted)->Unit(benchmark::kMillisecond);
+
+/// Wipes the largest board of a Filippine, drawn anew each time.
+static void WipeTheRaster(benchmark::State &state, bool getoond)
+{
+    PuzzelType = Filippine;
+    BoardWidth = 16;
+    BoardHeight = 19;
+    TekenBord(BoardWidth, BoardHeight);
+    Main().setVisible(getoond);
+    PictureBox &pic = *Main().Pic;
+    const QImage raster = pic.Image();
+    for (auto _ : state) {
+        state.PauseTiming();
+        pic.SetPicture(raster);
+        QCoreApplication::processEvents();
+        state.ResumeTiming();
+        VerwijderRaster(pic);
+    }
+    if (pic.GetPixel(480, 570) != qRgb(255, 255, 255))
+        state.SkipWithError("the raster is still there");
+}
+
+static void WipeTheRasterUnseen(benchmark::State &state)
+{
+    WipeTheRaster(state, false);
+}
+BENCHMARK(WipeTheRasterUnseen)->Unit(benchmark::kMillisecond);
+
+static void WipeTheRasterColumnByColumn(benchmark::State &state)
+{
+    WipeTheRaster(state, true);
+}
+BENCHMARK(WipeTheRasterColumnByColumn)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char *argv[])
 {

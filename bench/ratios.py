@@ -94,5 +94,8 @@ for what, ours, most in [
         ("a key in a notepad of 1 MiB, until shown", "KeyInNotepad", 50)]:
     print(f"{what:52} {waits[ours]:9.2f} ms (at most {most})")
 print(f"{'a Sudoku shuffled until it is painted':52} {times['ShuffleASudokuUntilItIsPainted']:9.2f} ms (at most 10)")
+unseen, seen = times["WipeTheRasterUnseen"], times["WipeTheRasterColumnByColumn"]
+print(f"{'the raster of the largest board wiped, unseen':52} {unseen:9.2f} ms (at most 10)")
+print(f"{'the same, each of its 481 columns shown by itself':52} {seen:9.2f} ms: {seen / 481:.3f} ms a column")
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")
 report_generators(generators(build))

@@ -72,6 +72,23 @@ static void ZetBeeld(PictureBox &box, const QImage &beeld)
     box.SetPicture(beeld);
 }
 
+/// Keeps what a picture box shows each time it is painted.
+class Kijker : public QObject
+{
+public:
+    explicit Kijker(PictureBox &box) : box_(box) { box.installEventFilter(this); }
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        if (event->type() == QEvent::Paint && (Getoond.isEmpty() || Getoond.last() != box_.Image()))
+            Getoond += box_.Image().copy();
+        return false;
+    }
+    QList<QImage> Getoond;
+
+private:
+    PictureBox &box_;
+};
+
 class tst_Filippine : public QObject
 {
     Q_OBJECT
@@ -116,6 +133,25 @@ private slots:
         VerwijderRaster(doel);
         QVERIFY(keren >= 40);
         QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void eachColumnIsShownBeforeTheNextOne()
+    {
+        Bord bord;
+        bord.Venster.show();
+        PictureBox &doel = *bord.Venster.Pic;
+        QImage lijnen(40, 25, QImage::Format_RGB32);
+        lijnen.fill(Wit);
+        for (int kolom = 0; kolom < 40; ++kolom)
+            lijnen.setPixel(kolom, kolom % 25, qRgb(150, 150, 150));
+        ZetBeeld(doel, lijnen);
+        QCoreApplication::processEvents();
+        Kijker kijker(doel);
+        VerwijderRaster(doel);
+        QList<QImage> verwacht;
+        for (int kolom = 0; kolom < 40; ++kolom)
+            verwacht += ZonderRaster(lijnen, kolom);
+        QVERIFY(kijker.Getoond == verwacht);
     }
 
     void answerCellsLoseTheirLetters()
