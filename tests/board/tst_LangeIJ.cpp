@@ -17,6 +17,13 @@ private slots:
         QCOMPARE(ZonderCode(u"?sbeer?"_s), u"ijsbeerij"_s);
     }
 
+    void itsCodeIsPrintedAsTwoLetters()
+    {
+        QCOMPARE(LetterVan(u'?'), u"IJ"_s);
+        QCOMPARE(LetterVan(u'I'), u"I"_s);
+        QCOMPARE(LetterVan(u' '), u" "_s);
+    }
+
     void itIsOneCellOfAnEntry()
     {
         QCOMPARE(AantalVakjes(u"ijsbeer"_s), 6);

@@ -173,14 +173,15 @@ class Program:
         found.click()
 
     def popup(self, item, shot=None):
-        """Chooses an item of the pop-up that is open, with the pointer. Its items tell themselves when pointed at."""
-        left, top, width, _ = until("the pop-up", self.desktop.popup_box)
+        """Chooses an item of the pop-up that is open, with the pointer. Its items tell themselves when pointed at, unless
+        they are disabled, which the last one never is."""
+        left, top, width, height = until("the pop-up", self.desktop.popup_box)
         if shot:
             self.desktop.shot(shot)
         self.focused.clear()
-        self.desktop.point(left + width // 2, top + 8)
-        first = until("the first item of the pop-up", self.focused_item)
-        wanted = [one for one in Control(self, first.parent).children() if one.name == item]
+        self.desktop.point(left + width // 2, top + height - 8)
+        last = until("the last item of the pop-up", self.focused_item)
+        wanted = [one for one in Control(self, last.parent).children() if one.name == item]
         assert len(wanted) == 1, f"{len(wanted)} items '{item}' in the pop-up"
         place = wanted[0].middle()
         self.desktop.point(*place)

@@ -9,9 +9,9 @@ TRAIN = ["C-05 / 43-H", "rijdt op rails", "trein", "-"]
 PALE = bytes(131 + value % 120 for value in range(256))  # what is drawn is not taken for ink, lines or frames
 
 
-def list_file(columns, rows, words):
-    """The .lst of a Zweedse puzzle of so many cells with these rows."""
-    lines = ["Tessel Hoeksma Software ® 2018", "1", str(columns), str(rows), DASHES]
+def list_file(columns, rows, words, kind=1):
+    """The .lst of a puzzle of a kind, of so many cells, with these rows."""
+    lines = ["Tessel Hoeksma Software ® 2018", str(kind), str(columns), str(rows), DASHES]
     for word in words:
         lines += [*word, DASHES]
     return "\r\n".join([*lines, ""]).encode("cp1252")

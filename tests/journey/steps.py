@@ -63,6 +63,11 @@ class Run:
             window.find("label", f"{label} ({size})")
         return window
 
+    def save(self, window):
+        """In the dialog that is open; there is nothing to ask."""
+        self.push(window, "Opslaan")
+        self.program.until_closed("Puzzel opslaan")
+
     def open_dialog(self, shot=None):
         """The dialog of puzzles, and the list in it."""
         self.program.menu("Bestand", "Puzzel openen")
