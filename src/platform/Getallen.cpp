@@ -73,11 +73,21 @@ qint16 ValInt16(QStringView tekst)
     return Afgerond<qint16>(Val(tekst), tekst);
 }
 
-qint16 AlsInt16(qint64 waarde)
+template <class Type> static Type Begrensd(qint64 waarde, const QString &waarbij)
 {
-    if (waarde < std::numeric_limits<qint16>::min() || waarde > std::numeric_limits<qint16>::max())
-        throw Fout(Fout::Overloop);
-    return static_cast<qint16>(waarde);
+    if (waarde < std::numeric_limits<Type>::min() || waarde > std::numeric_limits<Type>::max())
+        throw Fout(Fout::Overloop, waarbij);
+    return static_cast<Type>(waarde);
+}
+
+qint16 AlsInt16(qint64 waarde, const QString &waarbij)
+{
+    return Begrensd<qint16>(waarde, waarbij);
+}
+
+qint32 AlsInt32(qint64 waarde)
+{
+    return Begrensd<qint32>(waarde, {});
 }
 
 qint64 RondEven(double waarde)

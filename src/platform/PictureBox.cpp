@@ -85,8 +85,12 @@ void PictureBox::Cls()
 
 void PictureBox::SetPicture(const QImage &beeld)
 {
-    if (AutoSize && !beeld.isNull())
+    if (AutoSize && !beeld.isNull()) {
+        beeld_ = beeld.convertToFormat(QImage::Format_RGB32);
         resize(beeld.size());
+        update();
+        return;
+    }
     Cls();
     if (!beeld.isNull())
         Plak(beeld.convertToFormat(QImage::Format_RGB32), beeld.rect(), QPoint(0, 0), PlakWijze::Kopie);
@@ -151,19 +155,28 @@ void PictureBox::paintEvent(QPaintEvent *event)
     painter.drawImage(0, 0, beeld_); // the whole, so that a part that is shown anew fits to the rest at any scale
 }
 
-void PictureBox::mouseMoveEvent(QMouseEvent *event)
+void PictureBox::MeldPlaats(QPoint plaats)
 {
-    const QPoint plaats = event->position().toPoint();
     if (!rect().contains(plaats))
         return;
     bewogen_ = true;
     emit MouseMove(Twips::VanPixels(plaats.x()), Twips::VanPixels(plaats.y()));
 }
 
+void PictureBox::mouseMoveEvent(QMouseEvent *event)
+{
+    const QPoint plaats = event->position().toPoint();
+    MeldPlaats(plaats);
+    if (event->buttons() != Qt::NoButton)
+        emit Drag(event->buttons(), Twips::VanPixels(plaats.x()), Twips::VanPixels(plaats.y()));
+}
+
 void PictureBox::mousePressEvent(QMouseEvent *event)
 {
+    const QPoint plaats = event->position().toPoint();
     if (bewogen_) // a menu that was open may have swallowed the moves to here
-        mouseMoveEvent(event);
+        MeldPlaats(plaats);
+    emit DragStart(Twips::VanPixels(plaats.x()), Twips::VanPixels(plaats.y()));
     emit MouseDown(event->button(), event->globalPosition().toPoint());
 }
 

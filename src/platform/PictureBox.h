@@ -26,7 +26,8 @@ public:
 
     void Cls() override; ///< wipes the hidden part too
 
-    /// Clears all and shows the picture from the top left, one pixel to the pixel.
+    /// Clears all and shows the picture from the top left, one pixel to the pixel. A box with AutoSize shares the
+    /// pixels with the picture as long as it is not drawn on.
     void SetPicture(const QImage &beeld);
     /// What is visible now. Shares its pixels with the box as long as the box is not drawn on.
     QImage Image() const;
@@ -38,6 +39,9 @@ public:
 signals:
     void MouseMove(double x, double y);                    ///< in twips, only over the box itself
     void MouseDown(Qt::MouseButton knop, QPoint opScherm); ///< where the pointer is on the screen, in pixels
+    void DragStart(double x, double y);                    ///< a button goes down on the box, at this place in twips
+    /// The pointer moves while it holds buttons that went down on the box, at this place in twips: beside it too.
+    void Drag(Qt::MouseButtons knoppen, double x, double y);
 
 protected:
     QSize MaatInPixels() const override;
@@ -52,6 +56,7 @@ protected:
 private:
     /// The picture, at least as large as the widget. It is made when it is first asked for.
     QImage &Beeld() const;
+    void MeldPlaats(QPoint plaats);
 
     mutable QImage beeld_;
     bool bewogen_ = false; ///< whether the pointer has ever moved over the box

@@ -163,6 +163,21 @@ private slots:
         for (const qint64 waarde : {qint64{32768}, qint64{-32769}, qint64{65536}, std::numeric_limits<qint64>::max(),
                                     std::numeric_limits<qint64>::min()})
             QCOMPARE(FoutVan([&] { Getallen::AlsInt16(waarde); }), int{Fout::Overloop});
+        try {
+            Getallen::AlsInt16(40000, u"een bord"_s);
+        } catch (const Fout &fout) {
+            QVERIFY(fout.tekst().endsWith("(een bord)"_L1));
+        }
+    }
+
+    void aValueOutsideThirtyTwoBitsOverflows()
+    {
+        QCOMPARE(Getallen::AlsInt32(0), 0);
+        QCOMPARE(Getallen::AlsInt32(2147483647), 2147483647);
+        QCOMPARE(Getallen::AlsInt32(-qint64{2147483648}), std::numeric_limits<qint32>::min());
+        for (const qint64 waarde : {qint64{2147483648}, -qint64{2147483649}, std::numeric_limits<qint64>::max(),
+                                    std::numeric_limits<qint64>::min()})
+            QCOMPARE(FoutVan([&] { Getallen::AlsInt32(waarde); }), int{Fout::Overloop});
     }
 
     void theValueOfATextInSixteenBits_data()

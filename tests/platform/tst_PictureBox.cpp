@@ -130,6 +130,31 @@ private slots:
         QCOMPARE(box.Inkt(), QRect());
     }
 
+    // It takes the pixels over without copying them: neither is drawn on by what is drawn on the other.
+    void withAutoSizeThePictureIsNotCopied()
+    {
+        PixelBox box;
+        box.AutoSize = true;
+        QImage beeld = Bont(40, 30);
+        const QImage toen = beeld.copy();
+        box.SetPicture(beeld);
+        QCOMPARE(box.Image().constBits(), std::as_const(beeld).constBits());
+        box.SetPixel(3, 4, Rood);
+        QCOMPARE(beeld, toen);
+        QCOMPARE(box.GetPixel(3, 4), Rood);
+        box.SetPicture(beeld);
+        beeld.setPixel(5, 6, Rood);
+        QCOMPARE(box.Image(), toen);
+        box.Maat(60, 50);
+        QCOMPARE(box.GetPixel(59, 49), Wit); // nothing is left of an earlier picture
+        QCOMPARE(box.GetPixel(39, 29), toen.pixel(39, 29));
+        QImage doorschijnend(4, 4, QImage::Format_ARGB32);
+        doorschijnend.fill(qRgba(255, 0, 0, 255));
+        box.SetPicture(doorschijnend);
+        QCOMPARE(box.Image().format(), QImage::Format_RGB32);
+        QCOMPARE(box.Aantal(Rood), 16);
+    }
+
     void theImageIsNotDrawnOnLater()
     {
         PixelBox box(10, 10);
@@ -380,6 +405,29 @@ private slots:
         Muis(box, QEvent::MouseButtonDblClick, QPointF(30, 20), Qt::LeftButton);
         Muis(box, QEvent::MouseButtonRelease, QPointF(30, 20), Qt::LeftButton);
         QCOMPARE(gemeld, 2);
+    }
+
+    void aDragIsToldBesideTheBoxToo()
+    {
+        PixelBox box;
+        QStringList gemeld;
+        connect(&box, &PictureBox::DragStart, this,
+                [&](double x, double y) { gemeld += u"begin %1,%2"_s.arg(x).arg(y); });
+        connect(&box, &PictureBox::Drag, this, [&](Qt::MouseButtons knoppen, double x, double y) {
+            gemeld += u"%1 %2,%3"_s.arg(knoppen.toInt()).arg(x).arg(y);
+        });
+        Muis(box, QEvent::MouseMove, QPointF(20, 20));
+        QCOMPARE(gemeld, QStringList());
+        Muis(box, QEvent::MouseButtonPress, QPointF(30, 20), Qt::LeftButton);
+        QCOMPARE(gemeld, QStringList{u"begin 450,300"_s}); // a press is no move, though it tells the place
+        gemeld.clear();
+        Muis(box, QEvent::MouseMove, QPointF(31, 20), Qt::LeftButton);
+        Muis(box, QEvent::MouseMove, QPointF(-500, 3000), Qt::RightButton);
+        Muis(box, QEvent::MouseButtonRelease, QPointF(31, 20), Qt::LeftButton);
+        Muis(box, QEvent::MouseMove, QPointF(32, 20));
+        QCOMPARE(gemeld, (QStringList{u"1 465,300"_s, u"2 -7500,45000"_s}));
+        Muis(box, QEvent::MouseButtonDblClick, QPointF(5, 6), Qt::LeftButton);
+        QCOMPARE(gemeld.last(), u"begin 75,90"_s);
     }
 };
 
