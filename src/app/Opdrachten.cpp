@@ -4,6 +4,7 @@
 
 #include "app/AboutForm.h"
 #include "app/Afsluiten.h"
+#include "app/ConfigForm.h"
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/NieuwForm.h"
@@ -12,6 +13,7 @@
 #include "documents/HtmlExport.h"
 #include "documents/OpenFile.h"
 #include "documents/SaveForm.h"
+#include "documents/ShowPuzzel.h"
 #include "editors/Filippine.h"
 #include "editors/FilippineForm.h"
 #include "editors/LetterForm.h"
@@ -57,11 +59,13 @@ void VerbindOpdrachten()
     Koppel(main.FileOpen, Toon<OpenFile>);
     Koppel(main.FileSave, Toon<SaveForm>);
     Koppel(main.FileExit, [] { Main().close(); });
+    Koppel(main.ShowOrgineel, Toon<ShowPuzzel>);
     Koppel(main.BiebOnlineWoordenboek, [] { OpenDocument(Adressen::Woordenboek); });
     Koppel(main.BiebInternZoeken, BiebInternZoeken_Click);
     Koppel(main.BiebWoordzoeker, Toon<FormMain>);
     Koppel(main.BiebOntbrekendeLetters, Toon<MissingForm>);
     Koppel(main.ToolsAdd, Toon<AddForm>);
+    Koppel(main.ToolsConfig, Toon<ConfigForm>);
     Koppel(main.ToolsAutoWoordzoeker, Toon<AutoForm>);
     Koppel(main.ToolsKlemboard, ToolsKlemboard_Click);
     Koppel(main.ToolsKladblok, Toon<KladblokForm>);

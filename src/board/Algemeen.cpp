@@ -32,17 +32,27 @@ void BeginWaarden()
     PijlSoort = 1;
     BoardWidth = 16;
     BoardHeight = 19;
-    OrgineelRood = 230;
-    OrgineelGroen = 250;
-    OrgineelBlauw = 190;
-    KleurVakjes = 1;
+    BeginKleuren();
     PuzzelType = Zweeds;
-    PaginaTekst = Adressen::Uitgever;
+    PaginaTekst = BeginPaginaTekst();
     CurCol = CurRow = CurCell = 0;
     PosX = PosY = 0;
     PuzzelNaam.clear();
     PuzzelGewijzigd = false;
     VakZwart.fill(false);
+}
+
+void BeginKleuren()
+{
+    OrgineelRood = 230;
+    OrgineelGroen = 250;
+    OrgineelBlauw = 190;
+    KleurVakjes = 1;
+}
+
+QString BeginPaginaTekst()
+{
+    return Adressen::Uitgever;
 }
 
 int VoerUit(const QString &doel)

@@ -40,6 +40,10 @@ extern std::array<bool, 305> VakZwart;
 
 /// Gives the globals the values that they start with.
 void BeginWaarden();
+/// Gives those of them that are the colours of clue cells the values that they start with.
+void BeginKleuren();
+/// The value that PaginaTekst starts with.
+QString BeginPaginaTekst();
 
 /// Asks the system to open a document or an address. @return negative when the system has nothing that opens it
 int VoerUit(const QString &doel);

@@ -62,8 +62,8 @@ private slots:
                 for (const QAction *item : menu->menu()->actions())
                     if (!item->isSeparator() && !item->isEnabled())
                         uit += item->objectName();
-        QCOMPARE(uit.join(u' '), u"FilePrint ShowOrgineel EditDeleteRaster EditDeleteLetters "
-                                 "BiebSpreekwoorden BiebChemisch ToolsConfig ToolsKladblok"_s);
+        QCOMPARE(uit.join(u' '), u"FilePrint EditDeleteRaster EditDeleteLetters "
+                                 "BiebSpreekwoorden BiebChemisch ToolsKladblok"_s);
     }
 
     void menuItemsOpenTheirWindow_data()
@@ -78,6 +78,8 @@ private slots:
         Geval("BiebOntbrekendeLetters", "BiebOntbrekendeLetters", "MissingForm");
         Geval("ToolsAdd", "ToolsAdd", "AddForm");
         Geval("ToolsAutoWoordzoeker", "ToolsAutoWoordzoeker", "AutoForm");
+        Geval("ShowOrgineel", "ShowOrgineel", "ShowPuzzel");
+        Geval("ToolsConfig", "ToolsConfig", "ConfigForm");
     }
     void menuItemsOpenTheirWindow()
     {
@@ -87,6 +89,44 @@ private slots:
         Bestuurder bestuurder(venster, [](Form &form) { QVERIFY(form.isModal()); });
         Vind<QAction>(programma.Main(), item)->trigger();
         QVERIFY(bestuurder.Gezien());
+    }
+
+    void aBoardTooWideForTheViewerIsToldOnce()
+    {
+        Programma programma;
+        programma.Scherm.Begin(Zweeds, 40, 40);
+        const Stand ervoor = programma.Scherm.Nu();
+        Bestuurder bestuurder(u"ShowPuzzel"_s, [](Form &) {});
+        programma.Main().ShowOrgineel->trigger();
+        QVERIFY(!bestuurder.Gezien());
+        const QList<Bericht> &gezien = programma.Scherm.Bank.Script.Gezien;
+        QCOMPARE(gezien.size(), 1);
+        QCOMPARE(gezien[0].Plaatje, Icoon::Kritiek);
+        QCOMPARE(gezien[0].Tekst, u"Fout 6 bij 'Orgineel puzzelveld': Overloop: het getal is te groot of te klein (het "
+                                  "puzzelveld is te breed om te tonen)."_s);
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), QString());
+    }
+
+    // A settings file is not range-checked when it is read: the program starts, and the dialog tells what is wrong.
+    void coloursOutsideTheirBarsAreToldOnce()
+    {
+        Bord bord;
+        const QByteArray bewaard = "x\r\ny\r\n230,-5,300\r\n9\r\n\"mijn pagina\"\r\n";
+        bord.Bank.Schrijf(u"Rasteratelier.ini"_s, bewaard);
+        LaadMain();
+        VerbindOpdrachten();
+        const Stand ervoor = bord.Nu();
+        Bestuurder bestuurder(u"ConfigForm"_s, [](Form &) {});
+        bord.Venster.ToolsConfig->trigger();
+        QVERIFY(!bestuurder.Gezien());
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+        QCOMPARE(
+            bord.Bank.Script.Gezien[0].Tekst,
+            u"Fout 380 bij 'Instellingen': Ongeldige waarde (Groen is -5 in het instellingenbestand, niet 0 tot en "
+            "met 255)."_s);
+        QCOMPARE(bord.Veranderd(ervoor), QString());
+        QCOMPARE(bord.Bank.Inhoud(u"Rasteratelier.ini"_s), bewaard);
     }
 
     // The notice lies over the board and the pointer is the hourglass as long as the database is read.
