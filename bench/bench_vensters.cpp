@@ -1,8 +1,11 @@
-// What a person waits for in the windows of the word library, on the installed words: from the order until the result
-// is on the screen, without the waits that are part of the show. It takes the folder of the program.
+// What a person waits for in the viewer of the large board, and in the windows of the word library on the installed
+// words: from the order until the result is on the screen, without the waits that are part of the show. It takes the
+// folder of the program.
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "board/Raster.h"
+#include "documents/ShowPuzzel.h"
 #include "platform/Klok.h"
 #include "platform/Uiterlijk.h"
 #include "wordlib/KladblokForm.h"
@@ -98,6 +101,36 @@ static void KeyInNotepad(benchmark::State &state)
     }
 }
 BENCHMARK(KeyInNotepad)->Unit(benchmark::kMillisecond)->Iterations(40); // the line stays one of some eighty signs
+static void OpenViewerOfTheLargestBoard(benchmark::State &state)
+{
+    for (auto _ : state) {
+        ShowPuzzel form;
+        Toon(form);
+    }
+}
+BENCHMARK(OpenViewerOfTheLargestBoard)->Unit(benchmark::kMillisecond);
+
+static void CopyItsPicture(benchmark::State &state)
+{
+    const QImage beeld = Main().PicGroot->Image();
+    for (auto _ : state)
+        benchmark::DoNotOptimize(beeld.copy());
+}
+BENCHMARK(CopyItsPicture)->Unit(benchmark::kMillisecond);
+
+static void DragStepInTheViewer(benchmark::State &state)
+{
+    ShowPuzzel form;
+    Toon(form);
+    form.SlidePic_MouseDown(0, 0);
+    for (double weg = -30; auto _ : state) {
+        form.SlidePic_MouseMove(Qt::LeftButton, weg, weg);
+        form.repaint();
+        if (form.NewTop == 0 || form.NewTop == -form.MaxY)
+            weg = -weg;
+    }
+}
+BENCHMARK(DragStepInTheViewer)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char *argv[])
 {
@@ -109,6 +142,7 @@ int main(int argc, char *argv[])
     Klok::Gebruik(&klok);
     MainForm main;
     BeginWaarden();
+    TekenBord(BoardWidth, BoardHeight);
     Toon(main);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

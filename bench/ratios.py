@@ -76,6 +76,7 @@ report("the same, beside a window with text and a picture", ours * 1000, picture
 report("drawing both boards, beside a plain fill", times["DrawBothBoards"], times["FillBothPictures"], "us", 4)
 report("a whole save, beside the same bytes and fsync", times["WholeSaveWithoutItsWaits"], times["WriteTheSameBytes"], "ms", 2)
 report("the web page, beside the same bytes and fsync", times["WebPageWithoutItsWait"], times["WriteTheBytesOfThePage"], "ms", 3)
+report("the viewer of the largest board opened, beside a copy", waits["OpenViewerOfTheLargestBoard"], waits["CopyItsPicture"], "ms", 4)
 for what, ours, peer, most in [
         ("a shuffled word list loaded, beside sort", "LoadShuffled", "SortShuffled", 0.85),
         ("the same in its order, beside sort of the shuffled", "LoadInFileOrder", "SortShuffled", 0.4),
@@ -92,6 +93,7 @@ for what, ours, most in [
         ("words with three vowels in a row, until shown", "Vowels", 1000),
         ("a notepad of 10,000 lines saved", "SaveNotepad", 50),
         ("a key in a notepad of 1 MiB, until shown", "KeyInNotepad", 50)]:
+        ("a step of a drag in the viewer, painted", "DragStepInTheViewer", 4)]:
     print(f"{what:52} {waits[ours]:9.2f} ms (at most {most})")
 print(f"{'a Sudoku shuffled until it is painted':52} {times['ShuffleASudokuUntilItIsPainted']:9.2f} ms (at most 10)")
 unseen, seen = times["WipeTheRasterUnseen"], times["WipeTheRasterColumnByColumn"]
