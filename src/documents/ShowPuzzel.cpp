@@ -69,11 +69,24 @@ ShowPuzzel::ShowPuzzel() : Form(u"ShowPuzzel"_s, Titel(), 9300, 6440, RGB(230, 2
     bij(ExitKnop, &ImageButton::clicked, &ShowPuzzel::ExitKnop_Click);
 }
 
+// A place as the variables across hold it, and as those down do.
+static const QString TeVer = u"de muiscursor is te ver weg"_s;
+
+static qint16 InX(double twips)
+{
+    return Getallen::AlsInt16(Getallen::RondEven(twips), TeVer);
+}
+
+static qint32 InY(double twips)
+{
+    return Getallen::AlsInt32(Getallen::RondEven(twips), TeVer);
+}
+
 void ShowPuzzel::SlidePic_MouseDown(double x, double y)
 {
-    const qint32 dragY = Getallen::AlsInt32(Getallen::RondEven(y));
-    DragX = Getallen::AlsInt16(Getallen::RondEven(x));
-    DragY = dragY;
+    const qint32 boven = InY(y);
+    DragX = InX(x);
+    DragY = boven;
 }
 
 /// The picture's new edge: as the pointer wants it, between 0 and the end.
@@ -86,8 +99,8 @@ void ShowPuzzel::SlidePic_MouseMove(Qt::MouseButtons knoppen, double x, double y
 {
     if (knoppen != Qt::LeftButton)
         return;
-    const qint16 links = Getallen::AlsInt16(Getallen::RondEven(x - DragX + Twips::VanPixels(SlidePic->x())));
-    const qint32 boven = Getallen::AlsInt32(Getallen::RondEven(y - DragY + Twips::VanPixels(SlidePic->y())));
+    const qint16 links = InX(x - DragX + Twips::VanPixels(SlidePic->x()));
+    const qint32 boven = InY(y - DragY + Twips::VanPixels(SlidePic->y()));
     NewLeft = Begrensd(links, MaxX);
     NewTop = Begrensd(boven, MaxY);
     SlidePic->move(Twips::NaarPixels(NewLeft), Twips::NaarPixels(NewTop));

@@ -85,9 +85,9 @@ qint16 AlsInt16(qint64 waarde, const QString &waarbij)
     return Begrensd<qint16>(waarde, waarbij);
 }
 
-qint32 AlsInt32(qint64 waarde)
+qint32 AlsInt32(qint64 waarde, const QString &waarbij)
 {
-    return Begrensd<qint32>(waarde, {});
+    return Begrensd<qint32>(waarde, waarbij);
 }
 
 qint64 RondEven(double waarde)

@@ -23,7 +23,7 @@ qint32 NaarInt32(QStringView tekst);
 /// A value as a number of so many bits. Raises Fout::Overloop outside the type's range.
 /// @param waarbij what the failure is about
 qint16 AlsInt16(qint64 waarde, const QString &waarbij = {});
-qint32 AlsInt32(qint64 waarde);
+qint32 AlsInt32(qint64 waarde, const QString &waarbij = {});
 
 /// Rounds to the nearest whole number, ties to the even one. The value must fit in 64 bits.
 qint64 RondEven(double waarde);

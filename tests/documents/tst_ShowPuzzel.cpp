@@ -62,7 +62,8 @@ static void Rol(QWidget &widget, QPoint plaats, QPoint hoek)
     qApp->notify(&widget, &rol);
 }
 
-static const QString TeVer = u"Fout 6 bij 'Orgineel puzzelveld': Overloop: het getal is te groot of te klein."_s;
+static const QString TeVer =
+    u"Fout 6 bij 'Orgineel puzzelveld': Overloop: het getal is te groot of te klein (de muiscursor is te ver weg)."_s;
 
 class tst_ShowPuzzel : public QObject
 {
