@@ -62,6 +62,20 @@ static void Rol(QWidget &widget, QPoint plaats, QPoint hoek)
     qApp->notify(&widget, &rol);
 }
 
+/// Counts how often a widget is moved.
+class Bewegingen : public QObject
+{
+public:
+    int Aantal = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        Aantal += event->type() == QEvent::Move;
+        return false;
+    }
+};
+
 static const QString TeVer =
     u"Fout 6 bij 'Orgineel puzzelveld': Overloop: het getal is te groot of te klein (de muiscursor is te ver weg)."_s;
 
@@ -265,6 +279,20 @@ private slots:
         QTest::mouseRelease(venster, Qt::LeftButton, {}, QPoint(300, 200));
         QTest::mouseMove(venster, QPoint(100, 100));
         QCOMPARE(Toestand(form), Op(0, 0));
+    }
+
+    void aStepOfADragMovesThePictureOnce()
+    {
+        const Veld veld;
+        ShowPuzzel form;
+        form.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&form));
+        Druk(*form.SlidePic, QPoint(300, 200));
+        Bewegingen bewegingen;
+        form.SlidePic->installEventFilter(&bewegingen);
+        Beweeg(*form.SlidePic, QPoint(290, 180));
+        QCOMPARE(Toestand(form), Op(-150, -300));
+        QCOMPARE(bewegingen.Aantal, 1);
     }
 
     void aPressElsewhereStartsNoDrag_data()
