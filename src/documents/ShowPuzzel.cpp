@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 static constexpr int ZichtBreedte = 8400;
 static constexpr int ZichtHoogte = 4500;
 
-static QString Titel()
+static QString VeldTitel()
 {
     const PictureBox &groot = *Main().PicGroot;
     return u"Orgineel Puzzelveld (%1,%2 / %3,%4)"_s.arg(groot.width())
@@ -26,7 +26,7 @@ static QString Titel()
         .arg(BoardHeight);
 }
 
-ShowPuzzel::ShowPuzzel() : Form(u"ShowPuzzel"_s, Titel(), 9300, 6440, RGB(230, 230, 190))
+ShowPuzzel::ShowPuzzel() : Form(u"ShowPuzzel"_s, VeldTitel(), 9300, 6440, RGB(230, 230, 190))
 {
     PicCont = Maak<PictureBox>("PicCont", QString());
     SlidePic = Maak<PictureBox>("SlidePic", u"Orgineel puzzelveld"_s, PicCont);

@@ -19,6 +19,20 @@ static void Muis(QWidget &widget, QEvent::Type soort, QPointF plaats, Qt::MouseB
     QCoreApplication::sendEvent(&widget, &event);
 }
 
+/// Counts how often a widget is painted.
+class Schilderingen : public QObject
+{
+public:
+    int Aantal = 0;
+
+protected:
+    bool eventFilter(QObject *, QEvent *event) override
+    {
+        Aantal += event->type() == QEvent::Paint;
+        return false;
+    }
+};
+
 class tst_PictureBox : public QObject
 {
     Q_OBJECT
@@ -153,6 +167,37 @@ private slots:
         box.SetPicture(doorschijnend);
         QCOMPARE(box.Image().format(), QImage::Format_RGB32);
         QCOMPARE(box.Aantal(Rood), 16);
+    }
+
+    void anotherPictureIsPainted()
+    {
+        PixelBox box;
+        box.AutoSize = true;
+        box.SetPicture(Bont(40, 30));
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QCoreApplication::processEvents();
+        Schilderingen schilderingen;
+        box.installEventFilter(&schilderingen);
+        QTest::qWait(20);
+        QCOMPARE(schilderingen.Aantal, 0);
+        box.SetPicture(Bont(40, 30).mirrored());
+        QTRY_COMPARE(schilderingen.Aantal, 1);
+    }
+
+    // What is told first is what a menu that was open kept to itself, of a pointer that has been there.
+    void aPressTellsThePlaceOnceThePointerHasMoved()
+    {
+        PixelBox box;
+        QStringList gemeld;
+        connect(&box, &PictureBox::MouseMove, this, [&](double x, double y) { gemeld += u"%1,%2"_s.arg(x).arg(y); });
+        Muis(box, QEvent::MouseButtonPress, QPointF(30, 20), Qt::LeftButton);
+        Muis(box, QEvent::MouseMove, QPointF(300, 20)); // beside it
+        Muis(box, QEvent::MouseButtonPress, QPointF(30, 20), Qt::LeftButton);
+        QCOMPARE(gemeld, QStringList());
+        Muis(box, QEvent::MouseMove, QPointF(10, 20));
+        Muis(box, QEvent::MouseButtonPress, QPointF(30, 20), Qt::LeftButton);
+        QCOMPARE(gemeld, (QStringList{u"150,300"_s, u"450,300"_s}));
     }
 
     void theImageIsNotDrawnOnLater()
