@@ -1,5 +1,5 @@
-// Drawing and saving beside the least that such work could cost; and what a person waits for when a Sudoku is shuffled or
-// the raster of a Filippine is wiped.
+// Drawing and saving beside the least that such work could cost; and what a person waits for when a Sudoku is shuffled
+// or the raster of a Filippine is wiped.
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
