@@ -78,6 +78,11 @@ class tst_SchuifForm : public QObject
 {
     Q_OBJECT
 private slots:
+    void initTestCase()
+    {
+        QCOMPARE(GekozenNummer, 0); // before anything is picked
+        QCOMPARE(GekozenLetter, QString());
+    }
     void init()
     {
         GekozenLetter.clear();
