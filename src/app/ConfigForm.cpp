@@ -69,16 +69,13 @@ void ConfigForm::MaakKleurBalken()
     }
 }
 
-/// Shows the colours as the globals have them. A choice that there isn't leaves its bar and its sample as they stand.
+/// Shows the colours as the globals have them; a part that no bar reaches shows as the nearest one. A choice that there
+/// isn't leaves its bar and its sample as they stand.
 void ConfigForm::ToonKleuren()
 {
     const std::array kleuren{OrgineelRood, OrgineelGroen, OrgineelBlauw};
-    for (size_t i = 0; i < kleuren.size(); ++i) {
-        if (kleuren[i] < 0 || kleuren[i] > 255)
-            throw Fout(Fout::OngeldigeWaarde, u"%1 is %2 in het instellingenbestand, niet 0 tot en met 255"_s.arg(
-                                                  HScroll1[i]->accessibleName(), QString::number(kleuren[i])));
+    for (size_t i = 0; i < kleuren.size(); ++i)
         HScroll1[i]->setValue(kleuren[i]);
-    }
     HScroll1_Change();
     if (KleurVakjes < HScroll2->minimum() || KleurVakjes > HScroll2->maximum())
         return;

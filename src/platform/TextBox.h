@@ -35,7 +35,7 @@ private:
     qsizetype Room() const; ///< for characters in place of the selection
     const std::vector<int> &Lines() const;
 
-    int barWidth_; ///< of the scroll bar beside the text, where there is one
+    int barWidth_;                        ///< of the scroll bar beside the text, where there is one
     mutable std::vector<int> lineOfChar_; ///< of each character, and of the end of the text; empty when not known
     mutable int wrapWidth_ = -1;          ///< the width that the text is wrapped at
 };

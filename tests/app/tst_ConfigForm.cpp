@@ -206,37 +206,36 @@ private slots:
         QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
-    void aColourOutsideItsBarFails_data()
+    void aColourOutsideItsBarShowsAsTheNearest_data()
     {
         QTest::addColumn<int>("deel");
         QTest::addColumn<int>("waarde");
-        QTest::addColumn<QString>("tekst");
-        const QString staart = u" in het instellingenbestand, niet 0 tot en met 255)"_s;
-        Geval("red -5", 0, -5, u"Ongeldige waarde (Rood is -5"_s + staart);
-        Geval("green 300", 1, 300, u"Ongeldige waarde (Groen is 300"_s + staart);
-        Geval("blue -1", 2, -1, u"Ongeldige waarde (Blauw is -1"_s + staart);
-        Geval("red 256", 0, 256, u"Ongeldige waarde (Rood is 256"_s + staart);
-        Geval("blue 32767", 2, 32767, u"Ongeldige waarde (Blauw is 32767"_s + staart);
-        Geval("green -32768", 1, -32768, u"Ongeldige waarde (Groen is -32768"_s + staart);
+        QTest::addColumn<int>("getoond");
+        Geval("red -5", 0, -5, 0);
+        Geval("green 300", 1, 300, 255);
+        Geval("blue -1", 2, -1, 0);
+        Geval("red 256", 0, 256, 255);
+        Geval("blue 32767", 2, 32767, 255);
+        Geval("green -32768", 1, -32768, 0);
     }
-    void aColourOutsideItsBarFails()
+    void aColourOutsideItsBarShowsAsTheNearest()
     {
         QFETCH(int, deel);
         QFETCH(int, waarde);
-        QFETCH(QString, tekst);
+        QFETCH(int, getoond);
         Bord bord;
         std::array<qint16 *, 3> kleuren{&OrgineelRood, &OrgineelGroen, &OrgineelBlauw};
         *kleuren.at(static_cast<size_t>(deel)) = static_cast<qint16>(waarde);
         const Stand ervoor = bord.Nu();
-        QString gezegd;
-        try {
-            const ConfigForm form;
-        } catch (const Fout &fout) {
-            QCOMPARE(fout.nummer(), int(Fout::OngeldigeWaarde));
-            gezegd = fout.tekst();
-        }
-        QCOMPARE(gezegd, tekst);
+        ConfigForm form;
+        const auto i = static_cast<size_t>(deel);
+        QCOMPARE(form.HScroll1.at(i)->value(), getoond);
+        QCOMPARE(form.ColorLabel.at(i)->Caption(), QString::number(getoond));
+        QCOMPARE(Achter(*form.Label3),
+                 QColor(form.HScroll1[0]->value(), form.HScroll1[1]->value(), form.HScroll1[2]->value()));
         QCOMPARE(bord.Veranderd(ervoor), QString());
+        form.OkKnop_Click(); // what was shown counts from now on
+        QCOMPARE(int{*kleuren.at(i)}, getoond);
     }
 
     void aColourBarIsFollowedWhileItIsDragged()
