@@ -5,6 +5,9 @@
 #include "board/NieuwForm.h"
 #include "documents/HtmlExport.h"
 #include "documents/SaveForm.h"
+#include "editors/Filippine.h"
+#include "editors/FilippineForm.h"
+#include "editors/NummerForm.h"
 #include "editors/TekstForm.h"
 #include "editors/VakForm.h"
 #include "generators/AutoForm.h"
@@ -40,6 +43,31 @@ void MaakWoord(const Woord &woord)
     form.Option[woord.Horizontaal ? 0 : 1]->setChecked(true);
     form.Text2->setText(woord.Oplossing);
     form.Text1->setText(woord.Omschrijving);
+    form.Combo1->setCurrentText(QString::number(woord.Nummer)); // which only a Kruiswoord reads
+    form.OkKnop_Click();
+}
+
+void MaakZwart(Cel cel)
+{
+    WijsAan(cel);
+    Main().Pic_MouseDown(Qt::RightButton, {});
+}
+
+void MaakNummer(const Woord &woord)
+{
+    WijsAan(woord.Waar);
+    NummerForm form;
+    form.HScroll1->setValue(form.HScroll1->maximum()); // only what is scrolled to counts: also 1, where the bar begins
+    form.HScroll1->setValue(woord.Nummer);
+    form.OkKnop_Click();
+}
+
+void MaakAntwoord(const Woord &woord)
+{
+    WijsAan(woord.Waar);
+    FilippineForm form;
+    form.Text1->setText(woord.Omschrijving);
+    form.Text2->setText(woord.Oplossing);
     form.OkKnop_Click();
 }
 
@@ -54,7 +82,7 @@ void Begin(const Puzzel &puzzel)
     NieuwForm nieuw;
     nieuw.Text1->setText(puzzel.Naam);
     nieuw.Option[puzzel.Soort - 1]->click();
-    if (puzzel.Soort != Sudoku) // whose size is not to be chosen
+    if (puzzel.Soort != Sudoku && puzzel.Soort != Filippine) // whose size is not to be chosen
         KiesMaat(*nieuw.Combo1, *nieuw.Combo2, puzzel);
     nieuw.OkKnop_Click();
 }
@@ -65,6 +93,30 @@ void MaakZweeds(const Puzzel &puzzel)
         MaakVakje(vakje);
     for (const Woord &woord : puzzel.Woorden)
         MaakWoord(woord);
+}
+
+// The number of a cell where two words begin is printed twice: the number window prints it anew on white.
+void MaakKruiswoord(const Puzzel &puzzel)
+{
+    for (int rij = 0; rij < puzzel.Hoogte; ++rij)
+        for (int kolom = 0; kolom < puzzel.Breedte; ++kolom)
+            if (const Cel cel{kolom, rij}; !puzzel.Letters.contains(puzzel.Vak(cel)))
+                MaakZwart(cel);
+    for (const Woord &woord : puzzel.Woorden)
+        MaakWoord(woord);
+    for (const Woord &woord : puzzel.Woorden)
+        MaakNummer(woord);
+}
+
+void MaakFilippine(const Puzzel &puzzel)
+{
+    for (const Woord &woord : puzzel.Woorden)
+        MaakAntwoord(woord);
+    WijsAan(puzzel.WaarZoekwoord);
+    FilippineForm form;
+    form.Option[1]->click();
+    form.Text2->setText(puzzel.Zoekwoord);
+    form.OkKnop_Click();
 }
 
 /// Draws until every word has a place: the message that one has none is a failure here.
@@ -106,25 +158,44 @@ void MoetBestaan(const QString &bestand)
         throw Fout(Fout::SchijfFout, bestand);
 }
 
-void Bewaar(const Puzzel &puzzel)
+void Bewaar(const QString &naam)
 {
     SaveForm bewaar;
+    bewaar.Text1->setText(naam);
     bewaar.SaveKnop_Click();
-    MoetBestaan(Files::Pad(AppPath, {u"Puzzels"_s, puzzel.Naam + u".lst"_s}));
+    MoetBestaan(Files::Pad(AppPath, {u"Puzzels"_s, naam + u".lst"_s}));
+}
+
+void Maak(const Puzzel &puzzel)
+{
+    switch (puzzel.Soort) {
+    case Woordzoeker:
+        return MaakWoordzoeker(puzzel);
+    case Kruiswoord:
+        return MaakKruiswoord(puzzel);
+    case Sudoku:
+        return MaakSudoku(puzzel);
+    case Filippine:
+        return MaakFilippine(puzzel);
+    default:
+        return MaakZweeds(puzzel);
+    }
 }
 
 } // namespace
 
-void MaakPuzzel(const Puzzel &puzzel)
+void MaakPuzzel(const Puzzel &puzzel, const std::function<void(const QString &naam)> &bewaard)
 {
     Begin(puzzel);
-    if (puzzel.Soort == Woordzoeker)
-        MaakWoordzoeker(puzzel);
-    else if (puzzel.Soort == Sudoku)
-        MaakSudoku(puzzel);
-    else
-        MaakZweeds(puzzel);
-    Bewaar(puzzel);
+    Maak(puzzel);
+    Bewaar(puzzel.Naam);
+    bewaard(puzzel.Naam);
+    if (puzzel.Soort == Filippine) {
+        VerwijderRaster(*Main().Pic);
+        VerwijderLetters(*Main().Pic);
+        Bewaar(puzzel.LegeNaam);
+        bewaard(puzzel.LegeNaam);
+    }
 }
 
 void MaakPagina()

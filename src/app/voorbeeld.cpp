@@ -21,6 +21,8 @@
 #include <QFile>
 #include <QTextStream>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -47,8 +49,15 @@ QString LijstTekst()
     return tekst;
 }
 
+/// Where is kept what stood on the screen when a puzzle was saved.
+QString ControleMap(const QString &naam)
+{
+    return AppPath + u"/controle/"_s + naam;
+}
+
 void Bewaar(const QString &map)
 {
+    QDir().mkpath(map);
     QFile lijst(map + u"/lijst.txt"_s);
     const bool gelukt = Main().Pic->Image().save(map + u"/Pic.png"_s) &&
                         Main().PicGroot->Image().save(map + u"/PicGroot.png"_s) && lijst.open(QIODevice::WriteOnly) &&
@@ -76,8 +85,9 @@ bool Vergelijk(const QString &map)
     return alles;
 }
 
-bool Controleer(const QString &naam, const QString &map)
+bool Controleer(const QString &naam)
 {
+    const QString map = ControleMap(naam);
     OpenFile open;
     for (int i = 0; i < open.List1->ListCount(); ++i)
         if (open.List1->List(i) == naam)
@@ -91,6 +101,11 @@ bool Controleer(const QString &naam, const QString &map)
     return Vergelijk(map);
 }
 
+bool ControleerAlles(const QStringList &namen)
+{
+    return std::count_if(namen.begin(), namen.end(), Controleer) == namen.size(); // each of them, whatever came before
+}
+
 int Voer(const QStringList &argumenten)
 {
     const QStringList opdrachten{u"maak"_s, u"bewaar"_s, u"controleer"_s};
@@ -101,17 +116,17 @@ int Voer(const QStringList &argumenten)
     AppPath = QDir(argumenten[3]).absolutePath();
     qputenv("HOME", AppPath.toLocal8Bit()); // the JPEG goes to the folder Pictures in it, not to the user's own
     qunsetenv("XDG_CONFIG_HOME");
-    const QString controle = AppPath + u"/controle/"_s + puzzel.Naam;
     MainForm main;
     BeginWaarden();
     if (wat == "controleer"_L1)
-        return Controleer(puzzel.Naam, controle) ? 0 : 1;
-    Voorbeeld::MaakPuzzel(puzzel);
-    if (wat == "bewaar"_L1) {
+        return ControleerAlles(puzzel.Namen()) ? 0 : 1;
+    const bool houdt = wat == "bewaar"_L1;
+    Voorbeeld::MaakPuzzel(puzzel, [houdt](const QString &naam) {
+        if (houdt)
+            Bewaar(ControleMap(naam));
+    });
+    if (houdt)
         Voorbeeld::MaakPagina();
-        QDir().mkpath(controle);
-        Bewaar(controle);
-    }
     return 0;
 }
 

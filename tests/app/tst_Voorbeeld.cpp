@@ -47,6 +47,65 @@ private:
 class tst_Voorbeeld : public QObject
 {
     Q_OBJECT
+    static void WrongKruiswoord()
+    {
+        Geval("letters that differ where they cross, in a Zweeds",
+              QByteArray("naam|Proef\nmaat|10|11\nwoord|C-02|H|wijn|drank\nwoord|D-01|V|raap|knol\n"), 4,
+              u"\"raap\" heeft op D-02"_s);
+        const QByteArray kruis = "naam|Proef\nkruiswoord|10|11\n";
+        Geval("kruiswoord without a size", QByteArray("naam|Proef\nkruiswoord\n"), 2, u"kruiswoord|KOLOMMEN|RIJEN"_s);
+        Geval("kruiswoord too narrow", QByteArray("naam|Proef\nkruiswoord|8|11\n"), 2, u"9 tot en met 16"_s);
+        Geval("kruiswoord too high", QByteArray("naam|Proef\nkruiswoord|9|20\n"), 2, u"9 tot en met 19"_s);
+        Geval("kruiswoord without words", kruis, 3, u"hier hoort woord|PLAATS|"_s);
+        Geval("kruiswoord with a cell", kruis + "vak|A-01|1|x\n", 3, u"hier hoort woord|PLAATS|"_s);
+        Geval("kruiswoord with letters that differ where they cross",
+              kruis + "woord|C-02|H|wijn|drank\n\nwoord|E-01|V|bos|bomen\n", 5,
+              u"\"bos\" heeft op E-02 een andere letter dan het woord dat er kruist"_s);
+        Geval("kruiswoord with a long ij that crosses an i", kruis + "woord|C-02|H|wijn|drank\nwoord|D-02|V|iep|boom\n",
+              4, u"\"iep\" heeft op D-02 een andere letter"_s);
+        QByteArray veel = "naam|Proef\nkruiswoord|10|11\n";
+        for (int vak = 0; vak < 100; ++vak)
+            veel += "woord|" + QByteArray(1, static_cast<char>('A' + vak % 10)) + '-' +
+                    QByteArray::number(vak / 10 + 1).rightJustified(2, '0') + "|H|a|x\n";
+        Geval("kruiswoord with more numbers than there are", veel, 102, u"meer dan 99 vakjes"_s);
+    }
+    static void WrongFilippine()
+    {
+        const QByteArray vorm = "naam|Proef\nfilippine|Leeg|D-02|bij\n";
+        Geval("filippine without a search word", QByteArray("naam|Proef\nfilippine|Leeg|D-02\n"), 2,
+              u"filippine|LEGE NAAM|PLAATS|ZOEKWOORD"_s);
+        Geval("filippine with a blank name that is none", QByteArray("naam|Proef\nfilippine|leeg|D-02|bij\n"), 2,
+              u"\"leeg\" is geen naam"_s);
+        Geval("filippine with one name twice", QByteArray("naam|Proef\nfilippine|Proef|D-02|bij\n"), 2,
+              u"\"Proef\" is al de naam"_s);
+        Geval("filippine with a search word beside the board", QByteArray("naam|Proef\nfilippine|Leeg|Q-02|bij\n"), 2,
+              u"\"Q-02\""_s);
+        Geval("filippine with a search word that leaves the board",
+              QByteArray("naam|Proef\nfilippine|Leeg|P-18|rijst\n"), 2, u"\"rijst\" past niet"_s);
+        for (const char *woord : {"", "Bij", "b j", "b1"})
+            Geval("filippine with search word \"" + QByteArray(woord) + '"',
+                  "naam|Proef\nfilippine|Leeg|D-02|" + QByteArray(woord) + '\n', 2,
+                  u"\"%1\" is geen woord van kleine letters"_s.arg(QLatin1String(woord)));
+        Geval("filippine without answers", vorm, 3, u"hier hoort antwoord|PLAATS|OPLOSSING|OMSCHRIJVING"_s);
+        Geval("filippine with a word", vorm + "woord|A-02|H|bol|rond\n", 3, u"hier hoort antwoord|"_s);
+        Geval("filippine that lacks an answer", vorm + "antwoord|C-02|bol|rond\n", 4, u"hier hoort antwoord|"_s);
+        Geval("filippine with an answer too many",
+              vorm + "antwoord|C-02|bol|rond\nantwoord|B-03|wijn|drank\nantwoord|C-04|bol|rond\n", 5,
+              u"elke letter van het zoekwoord heeft al een antwoord"_s);
+        Geval("filippine with an answer beside the board", vorm + "antwoord|C-20|bol|rond\n", 3, u"\"C-20\""_s);
+        Geval("filippine with an answer in another row", vorm + "antwoord|C-03|bol|rond\n", 3,
+              u"\"C-03\" is niet op rij 02"_s);
+        Geval("filippine without a clue", vorm + "antwoord|C-02|bol|\n", 3, u"omschrijving ontbreekt"_s);
+        Geval("filippine with a capital answer", vorm + "antwoord|C-02|Bol|rond\n", 3, u"\"Bol\" is geen woord"_s);
+        Geval("filippine with an answer before the search word", vorm + "antwoord|A-02|bo|rond\n", 3,
+              u"\"bo\" gaat niet door het zoekwoord"_s);
+        Geval("filippine with an answer behind the search word", vorm + "antwoord|D-02|bol|rond\n", 3,
+              u"\"bol\" gaat niet door het zoekwoord"_s);
+        Geval("filippine with another letter than the search word", vorm + "antwoord|B-02|bol|rond\n", 3,
+              u"\"bol\" heeft op D-02 een andere letter"_s);
+        Geval("filippine with an answer that leaves the board",
+              QByteArray("naam|Proef\nfilippine|Leeg|O-02|bij\nantwoord|N-02|bol|rond\n"), 3, u"\"bol\" past niet"_s);
+    }
 private slots:
     void aWrongDescriptionIsRefusedWithItsLine_data()
     {
@@ -95,7 +154,8 @@ private slots:
         Geval("endless word", begin + "woord|A-01|V|" + QByteArray(100000, 'a') + "|x\n", 3, u"aaa"_s);
         const QByteArray zoek = "naam|Proef\nwoordzoeker|10|12\n";
         Geval("second line of another kind", QByteArray("naam|Proef\nfilippine|10|11\n"), 2,
-              u"hier hoort maat|KOLOMMEN|RIJEN, woordzoeker|KOLOMMEN|RIJEN of sudoku|NIVEAU"_s);
+              u"hier hoort maat|KOLOMMEN|RIJEN, kruiswoord|KOLOMMEN|RIJEN, woordzoeker|KOLOMMEN|RIJEN, sudoku|NIVEAU "
+              "of filippine|LEGE NAAM|PLAATS|ZOEKWOORD"_s);
         Geval("word search without a size", QByteArray("naam|Proef\nwoordzoeker\n"), 2,
               u"woordzoeker|KOLOMMEN|RIJEN"_s);
         Geval("word search with half a size", QByteArray("naam|Proef\nwoordzoeker|10\n"), 2,
@@ -114,6 +174,8 @@ private slots:
               u"\"normaal\" is geen niveau: Gemakkelijk, Normaal, Moeilijk"_s);
         Geval("sudoku with a size", QByteArray("naam|Proef\nsudoku|9|9\n"), 2, u"sudoku|NIVEAU"_s);
         Geval("sudoku with a word", QByteArray("naam|Proef\nsudoku|Normaal\nwoord|aap\n"), 3, u"verder niets"_s);
+        WrongKruiswoord();
+        WrongFilippine();
         Geval("binary", QByteArray("naam|Pro\0ef\nmaat|10|11\n", 22), 1, u"teken"_s);
         Geval("line end within", begin + "woord|A-01|H|\u2028aap|dier\n", 3, u"teken"_s);
         Geval("blank lines count", "\r\n\r\n" + begin + " \n\nvak|A-01|9|x\n", 7, u"1 tot en met 8"_s);
@@ -215,6 +277,87 @@ private slots:
                  QRect(4 * 120 + 3, 6 * 120 + 3 + 58, 117, 3));
     }
 
+    void aKruiswoordIsMade()
+    {
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\nkruiswoord|9|10\nwoord|A-02|H|wijn|drank\nwoord|I-08|V|aap|dier\n"
+                                "woord|B-02|V|ijs|koud\nwoord|B-02|H|ijn|rest\n";
+        const Afloop gemaakt = werk.Voer(u"bewaar"_s, bron);
+        QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        const QByteArray streep = QByteArray(28, '-') + "\r\n";
+        QCOMPARE(werk.Inhoud(u"Puzzels/Proef.lst"_s), // numbered by the place, in the order of the description
+                 "Tessel Hoeksma Software \xAE 2018\r\n3\r\n9\r\n10\r\n" + streep +
+                     "A-02 / 10-H\r\ndrank\r\nwijn\r\n1\r\n" + streep + "I-08 / 72-V\r\ndier\r\naap\r\n3\r\n" + streep +
+                     "B-02 / 11-V\r\nkoud\r\nijs\r\n2\r\n" + streep + "B-02 / 11-H\r\nrest\r\nijn\r\n2\r\n" + streep);
+        const QImage pic(werk.Map() + u"/Puzzels/Proef1.bmp"_s), groot(werk.Map() + u"/Puzzels/Proef2.bmp"_s);
+        const QList<int> letters{9, 10, 11, 19, 71, 80, 89}, nummers{9, 10, 71};
+        for (int vak = 0; vak < 90; ++vak) {
+            const int kolom = vak % 9, rij = vak / 9;
+            const QRect midden(kolom * 30 + 12, rij * 30 + 9, 17, 20), hoek(kolom * 30 + 1, rij * 30 + 1, 10, 7);
+            const QRect grootHoek(kolom * 120 + 4, rij * 120 + 4, 34, 28);
+            const bool isWit = letters.contains(vak);
+            QCOMPARE(pic.pixel(kolom * 30 + 3, rij * 30 + 27), isWit ? qRgb(255, 255, 255) : qRgb(60, 60, 60));
+            QCOMPARE(groot.pixel(kolom * 120 + 60, rij * 120 + 100), isWit ? qRgb(255, 255, 255) : qRgb(60, 60, 60));
+            if (isWit) {
+                QVERIFY(HeeftInkt(pic, midden));
+                QCOMPARE(HeeftInkt(pic, hoek), nummers.contains(vak));
+                QCOMPARE(HeeftInkt(groot, grootHoek), nummers.contains(vak));
+                QVERIFY(!HeeftInkt(groot, QRect(kolom * 120 + 45, rij * 120 + 35, 60, 60))); // no letter
+            }
+        }
+        // The numbers are those of a puzzle where one word begins at each of them, in another order.
+        const Werkplaats enkel;
+        const QByteArray ander = "naam|Proef\nkruiswoord|9|10\nwoord|B-02|V|ijs|koud\nwoord|A-02|H|wijn|drank\n";
+        QCOMPARE(enkel.Voer(u"maak"_s, ander).Code, 0);
+        const QImage anderGroot(enkel.Map() + u"/Puzzels/Proef2.bmp"_s);
+        for (const QRect hoek : {QRect(3, 123, 60, 32), QRect(123, 123, 60, 32)})
+            QCOMPARE(groot.copy(hoek), anderGroot.copy(hoek));
+
+        const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
+        QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
+        QVERIFY2(gelijk.Tekst.contains(u"lijst van 4 woorden"_s), qPrintable(gelijk.Tekst));
+    }
+
+    void aFilippineIsMade()
+    {
+        const Werkplaats werk;
+        const QByteArray bron =
+            "naam|Proef\nfilippine|Leeg|D-02|bij\nantwoord|C-02|bol|rond\nantwoord|B-03|wijn|drank\n";
+        const Afloop gemaakt = werk.Voer(u"bewaar"_s, bron);
+        QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        QCOMPARE(werk.Puzzels(), (QStringList{u"Leeg.lst"_s, u"Leeg1.bmp"_s, u"Leeg2.bmp"_s, u"Proef.lst"_s,
+                                              u"Proef1.bmp"_s, u"Proef2.bmp"_s}));
+        const QByteArray streep = QByteArray(28, '-') + "\r\n";
+        const QByteArray lijst = "Tessel Hoeksma Software \xAE 2018\r\n5\r\n16\r\n19\r\n" + streep +
+                                 "02\r\nrond\r\nbol\r\n-\r\n" + streep + "03\r\ndrank\r\nwijn\r\n-\r\n" + streep;
+        QCOMPARE(werk.Inhoud(u"Puzzels/Proef.lst"_s), lijst);
+        QCOMPARE(werk.Inhoud(u"Puzzels/Leeg.lst"_s), lijst);
+        QVERIFY(werk.Inhoud(u"Puzzels/Leeg2.bmp"_s) == werk.Inhoud(u"Puzzels/Proef2.bmp"_s));
+
+        const QList<int> antwoord{20, 21, 34, 36}, zoek{19, 35}, zwart{18, 33}; // the cells by their number from 0
+        const QImage vol(werk.Map() + u"/Puzzels/Proef1.bmp"_s), leeg(werk.Map() + u"/Puzzels/Leeg1.bmp"_s);
+        for (int vak = 0; vak < 16 * 19; ++vak) {
+            const QRect binnen(vak % 16 * 30 + 5, vak / 16 * 30 + 5, 21, 21);
+            const QRgb grond = leeg.pixel(binnen.topLeft());
+            QCOMPARE(qRed(grond), antwoord.contains(vak) ? 240
+                                  : zoek.contains(vak)   ? 174
+                                  : zwart.contains(vak)  ? 0
+                                                         : 255);
+            QCOMPARE(vol.pixel(binnen.topLeft()), grond);
+            QCOMPARE(HeeftInkt(leeg, binnen, grond), zwart.contains(vak)); // the number
+            QCOMPARE(HeeftInkt(vol, binnen, grond),
+                     antwoord.contains(vak) || zoek.contains(vak) || zwart.contains(vak));
+        }
+        QCOMPARE(qRed(vol.pixel(300, 300)), 150);  // the raster,
+        QCOMPARE(qRed(leeg.pixel(300, 300)), 255); // which is wiped
+
+        const Afloop gelijk = werk.Voer(u"controleer"_s, bron);
+        QVERIFY2(gelijk.Gewoon && gelijk.Code == 0, qPrintable(gelijk.Tekst));
+        QCOMPARE(gelijk.Tekst.count(u"lijst van 2 woorden, rij voor rij: gelijk"_s), 2);
+        QVERIFY(QFile::remove(werk.Map() + u"/Puzzels/Proef1.bmp"_s)); // each of the two is compared
+        QCOMPARE(werk.Voer(u"controleer"_s, bron).Code, 1);
+    }
+
     void aWordSearchIsMade()
     {
         const QByteArray bron = "naam|Proef\nwoordzoeker|9|12\nwoord|ijspegelsijs\nwoord|Rijp\nwoord|dooi\n";
@@ -295,10 +438,60 @@ private slots:
     void whatTheBuildMade()
     {
         const QDir bronnen(QStringLiteral(BRONNEN)), puzzels(QStringLiteral(PUZZELS));
-        QCOMPARE(bronnen.entryList(QDir::Files, QDir::Name).join(u' '), u"Cijfers.txt Kennismaking.txt Winter.txt"_s);
+        QCOMPARE(bronnen.entryList(QDir::Files, QDir::Name).join(u' '),
+                 u"Cijfers.txt Concert.txt Kennismaking.txt Winter.txt Zondag.txt"_s);
         for (const QString &bron : bronnen.entryList(QDir::Files))
             for (const char *einde : {".lst", "1.bmp", "2.bmp"})
                 QVERIFY2(puzzels.exists(QFileInfo(bron).baseName() + QLatin1String(einde)), qPrintable(bron));
+        for (const char *bestand : {"Concertopgave.lst", "Concertopgave1.bmp", "Concertopgave2.bmp"})
+            QVERIFY2(puzzels.exists(QLatin1String(bestand)), bestand);
+    }
+
+    void theKruiswoordOfTheBuildIsWhole()
+    {
+        // Read from its file alone: each run of cells is one of its words, and the numbers run on from cell to cell.
+        QFile bestand(QStringLiteral(PUZZELS "/Zondag.lst"));
+        QVERIFY(bestand.open(QIODevice::ReadOnly));
+        QStringList regels = QString::fromLatin1(bestand.readAll()).split(u"\r\n"_s);
+        const int breedte = regels[2].toInt(), hoogte = regels[3].toInt();
+        QMap<int, QChar> letters;
+        QMap<QString, QString> woorden; // by the place with its direction
+        QMap<int, QString> nummers;     // by the cell
+        for (qsizetype i = 5; i + 4 < regels.size(); i += 5) {
+            const QString plaats = regels[i], woord = regels[i + 2];
+            int vak = (plaats.mid(2, 2).toInt() - 1) * breedte + plaats[0].unicode() - u'A';
+            QVERIFY2(!woorden.values().contains(woord), qPrintable(woord));
+            woorden[QString::number(vak) + plaats.back()] = woord;
+            QVERIFY2(nummers.value(vak, regels[i + 3]) == regels[i + 3], qPrintable(plaats));
+            nummers[vak] = regels[i + 3];
+            for (const QChar letter : woord) {
+                QVERIFY2(letters.value(vak, letter) == letter, qPrintable(woord));
+                letters[vak] = letter;
+                vak += plaats.back() == u'H' ? 1 : breedte;
+            }
+        }
+        QStringList oplopend;
+        for (qsizetype i = 1; i <= nummers.size(); ++i)
+            oplopend += QString::number(i);
+        QCOMPARE(QStringList(nummers.values()), oplopend);
+        QMap<QString, QString> gelezen;
+        const auto loop = [&](int begin, int stap, int aantal, QChar richting) {
+            QString woord;
+            for (int i = 0; i <= aantal; ++i)
+                if (const int vak = begin + i * stap; i < aantal && letters.contains(vak)) {
+                    woord += letters[vak];
+                } else {
+                    if (woord.size() > 1)
+                        gelezen[QString::number(vak - static_cast<int>(woord.size()) * stap) + richting] = woord;
+                    woord.clear();
+                }
+        };
+        for (int rij = 0; rij < hoogte; ++rij)
+            loop(rij * breedte, 1, breedte, u'H');
+        for (int kolom = 0; kolom < breedte; ++kolom)
+            loop(kolom, breedte, hoogte, u'V');
+        QCOMPARE(gelezen, woorden);
+        QVERIFY(woorden.size() > 20);
     }
 
     void aPuzzleThatWasNotSavedIsToldSo()
