@@ -4,6 +4,7 @@
 #include "platform/Uiterlijk.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -78,6 +79,11 @@ QString Berichten::VraagTekst(const QString &vraag, const QString &titel)
 static QString Titel(const QString &titel)
 {
     return titel.isEmpty() ? u"Rasteratelier"_s : titel;
+}
+
+QString Berichten::VraagBestand(const QString &titel, const QString &voorstel, const QString &soort)
+{
+    return QFileDialog::getSaveFileName(QApplication::activeWindow(), titel, voorstel, soort);
 }
 
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)

@@ -13,6 +13,12 @@ public:
     virtual ~Berichten();
     virtual Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel);
     virtual QString VraagTekst(const QString &vraag, const QString &titel);
+    /// Asks where a file is to be saved, with the system's own dialog; of one that is there it asks whether it may be
+    /// replaced.
+    /// @param voorstel the path that is proposed
+    /// @param soort which files are shown, such as "PDF-bestanden (*.pdf)"
+    /// @return the path as it was typed; empty when the dialog was closed without one
+    virtual QString VraagBestand(const QString &titel, const QString &voorstel, const QString &soort);
 
     static Berichten &Huidig();
     /// Puts other messages in use, nullptr the real ones. The caller keeps them alive.

@@ -2,7 +2,6 @@
 
 #include "platform/Fout.h"
 #include "platform/Getallen.h"
-#include "platform/Twips.h"
 
 #include <QFontMetricsF>
 #include <QImage>
@@ -10,7 +9,7 @@
 
 using namespace Qt::StringLiterals;
 
-QFont Lettertype(const QString &naam, double punten, bool vet)
+QFont Lettertype(const QString &naam, double punten, bool vet, int perPixel)
 {
     static const struct
     {
@@ -25,12 +24,14 @@ QFont Lettertype(const QString &naam, double punten, bool vet)
     for (const auto &rij : Families)
         if (naam == rij.naam)
             font.setFamilies({rij.familie, naam});
-    font.setPixelSize(std::max(1, static_cast<int>(std::lround(punten * 96 / 72))));
+    font.setPixelSize(std::max(1, static_cast<int>(std::lround(punten * Twips::PerPunt / perPixel))));
     font.setBold(vet);
     font.setHintingPreference(QFont::PreferNoHinting);
     font.setStyleStrategy(static_cast<QFont::StyleStrategy>(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
     return font;
 }
+
+Canvas::Canvas(int twipsPerPixel) : twipsPerPixel_(twipsPerPixel), eenheidX_(twipsPerPixel), eenheidY_(twipsPerPixel) {}
 
 Canvas::~Canvas() = default;
 
@@ -47,7 +48,7 @@ void Canvas::ZetLetter(const Letter &letter)
 const QFont &Canvas::Font() const
 {
     if (fontNaam_ != FontName || fontPunten_ != FontSize || fontVet_ != FontBold) {
-        font_ = Lettertype(FontName, FontSize, FontBold);
+        font_ = Lettertype(FontName, FontSize, FontBold, twipsPerPixel_);
         fontNaam_ = FontName;
         fontPunten_ = FontSize;
         fontVet_ = FontBold;
@@ -141,12 +142,7 @@ void Canvas::PaintPicture(const QImage &bron, const QRectF &doel, const QRectF &
     const QPoint plaats = Pixel(doel.x(), doel.y());
     const QSize maat(static_cast<int>(std::lround(doel.width() / eenheidX_)),
                      static_cast<int>(std::lround(doel.height() / eenheidY_)));
-    if (maat == van.size()) {
-        Plak(bron.convertToFormat(QImage::Format_RGB32), van, plaats, wijze);
-        return;
-    }
-    const QImage gerekt = bron.copy(van).scaled(maat, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    Plak(gerekt.convertToFormat(QImage::Format_RGB32), gerekt.rect(), plaats, wijze);
+    Plak(bron, van, QRect(plaats, maat), wijze);
 }
 
 // --- units ---
@@ -161,7 +157,7 @@ void Canvas::SetScaleMode(ScaleModes soort)
 {
     soort_ = soort;
     links_ = boven_ = 0;
-    eenheidX_ = eenheidY_ = soort == ScaleModes::Twips ? Twips::PerPixel : 1;
+    eenheidX_ = eenheidY_ = soort == ScaleModes::Twips ? twipsPerPixel_ : 1;
 }
 
 void Canvas::Scale(double x1, double y1, double x2, double y2)

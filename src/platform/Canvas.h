@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/Twips.h"
+
 #include <QFont>
 #include <QRgb>
 #include <QString>
@@ -14,9 +16,10 @@ class QRect;
 class QRectF;
 class QSize;
 
-/// The font of a name and a size in points: asked for in pixels (points x 96 / 72, rounded), smoothed in grey, not
-/// hinted. "Arial" is Liberation Sans, "Arial Narrow" Liberation Sans Narrow, "Courier New" Liberation Mono.
-QFont Lettertype(const QString &naam, double punten, bool vet);
+/// The font of a name and a size in points: asked for in pixels (on the screen points x 96 / 72, rounded), smoothed in
+/// grey, not hinted. "Arial" is Liberation Sans, "Arial Narrow" Liberation Sans Narrow, "Courier New" Liberation Mono.
+/// @param perPixel how many twips a pixel is
+QFont Lettertype(const QString &naam, double punten, bool vet, int perPixel = Twips::PerPixel);
 
 /// How a picture is painted over what is there.
 enum class PlakWijze {
@@ -37,10 +40,12 @@ struct Letter
 enum class ScaleModes { User, Twips, Pixels };
 
 /// The drawing that screen and paper share. Positions are in the units of the surface: twips unless it says otherwise.
-/// A pixel of the surface is 15 twips.
+/// They are rounded to whole pixels of the surface: 15 twips on the screen, a single one on paper.
 class Canvas
 {
 public:
+    /// @param twipsPerPixel how fine the surface is
+    explicit Canvas(int twipsPerPixel = Twips::PerPixel);
     virtual ~Canvas();
 
     QString FontName = QStringLiteral("Arial");
@@ -85,8 +90,8 @@ protected:
     /// The surface in pixels, as an open painter.
     virtual void MetPainter(const std::function<void(QPainter &)> &teken) = 0;
     virtual void Vul(QRect vlak, QRgb kleur) = 0;
-    /// Paints a part of a picture of 32 bits a pixel without changing its size; all in pixels.
-    virtual void Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze) = 0;
+    /// Paints a part of a picture, stretched to a place; both in pixels.
+    virtual void Plak(const QImage &bron, QRect deel, QRect doel, PlakWijze wijze) = 0;
 
     /// The font of the settings above.
     const QFont &Font() const;
@@ -95,9 +100,10 @@ private:
     /// A place on the surface in whole pixels, rounded to the nearest.
     QPoint Pixel(double x, double y) const;
 
+    int twipsPerPixel_;
     ScaleModes soort_ = ScaleModes::Twips;
-    double links_ = 0, boven_ = 0;         ///< the units at the left and the top edge
-    double eenheidX_ = 15, eenheidY_ = 15; ///< units to the pixel
+    double links_ = 0, boven_ = 0; ///< the units at the left and the top edge
+    double eenheidX_, eenheidY_;   ///< units to the pixel
 
     // The last font that was asked for, and what it was asked for: it is dearer to make than to print with.
     mutable QFont font_;

@@ -93,7 +93,7 @@ void PictureBox::SetPicture(const QImage &beeld)
     }
     Cls();
     if (!beeld.isNull())
-        Plak(beeld.convertToFormat(QImage::Format_RGB32), beeld.rect(), QPoint(0, 0), PlakWijze::Kopie);
+        Plak(beeld, beeld.rect(), beeld.rect(), PlakWijze::Kopie);
 }
 
 QImage PictureBox::Image() const
@@ -124,9 +124,15 @@ void PictureBox::MetPainter(const std::function<void(QPainter &)> &teken)
     update();
 }
 
-void PictureBox::Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze)
+void PictureBox::Plak(const QImage &origineel, QRect deel, QRect doel, PlakWijze wijze)
 {
-    const QPoint verschuiving = doel - deel.topLeft();
+    QImage bron = origineel;
+    if (deel.size() != doel.size()) {
+        bron = bron.copy(deel).scaled(doel.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        deel = bron.rect();
+    }
+    bron.convertTo(QImage::Format_RGB32);
+    const QPoint verschuiving = doel.topLeft() - deel.topLeft();
     const QRect raak = (deel & bron.rect()).translated(verschuiving) & rect();
     if (raak.isEmpty())
         return;

@@ -47,7 +47,7 @@ protected:
     QSize MaatInPixels() const override;
     void MetPainter(const std::function<void(QPainter &)> &teken) override;
     void Vul(QRect vlak, QRgb kleur) override;
-    void Plak(const QImage &bron, QRect deel, QPoint doel, PlakWijze wijze) override;
+    void Plak(const QImage &bron, QRect deel, QRect doel, PlakWijze wijze) override;
     void paintEvent(QPaintEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;

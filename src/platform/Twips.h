@@ -6,6 +6,8 @@
 namespace Twips {
 
 inline constexpr int PerPixel = 15;
+inline constexpr int PerInch = 1440;
+inline constexpr int PerPunt = PerInch / 72; ///< twips in a point of a letter's size
 
 /// Twips to pixels, rounded to the nearest pixel (halves away from zero).
 inline int NaarPixels(double twips)

@@ -32,7 +32,7 @@ protected:
         teken(painter);
     }
     void Vul(QRect vlak, QRgb kleur) override { QPainter(&beeld_).fillRect(vlak, QColor(kleur)); }
-    void Plak(const QImage &, QRect, QPoint, PlakWijze) override {}
+    void Plak(const QImage &, QRect, QRect, PlakWijze) override {}
 
 private:
     QImage beeld_{200, 200, QImage::Format_RGB32};

@@ -174,7 +174,7 @@ protected:
                       .arg(vlak.bottom())
                       .arg(kleur, 0, 16);
     }
-    void Plak(const QImage &, QRect, QPoint, PlakWijze) override { Regels += u"plaatje"_s; }
+    void Plak(const QImage &, QRect, QRect, PlakWijze) override { Regels += u"plaatje"_s; }
 };
 
 /// A surface that cannot be drawn on.

@@ -30,6 +30,15 @@ QString BerichtenScript::VraagTekst(const QString &vraag, const QString &titel)
     return {};
 }
 
+QString BerichtenScript::VraagBestand(const QString &titel, const QString &voorstel, const QString & /*soort*/)
+{
+    Voorstellen += voorstel;
+    if (!Bestanden.isEmpty())
+        return Bestanden.takeFirst();
+    QTest::qFail(qPrintable(u"onverwachte vraag naar een bestand: "_s + titel), __FILE__, __LINE__);
+    return {};
+}
+
 Testbank::Testbank()
 {
     QDir().mkpath(Map() + u"/Puzzels"_s);

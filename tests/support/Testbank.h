@@ -25,11 +25,14 @@ class BerichtenScript : public Berichten
 {
 public:
     Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel) override;
+    QString VraagBestand(const QString &titel, const QString &voorstel, const QString &soort) override;
 
     QString VraagTekst(const QString &vraag, const QString &titel) override;
 
     QList<Antwoord> Antwoorden; ///< for the questions to come, first one first
     QStringList Teksten;        ///< for the texts that are asked for, first one first
+    QStringList Bestanden;      ///< for the files that are asked for, an empty one for none
+    QStringList Voorstellen;    ///< the paths that were proposed
     QList<Bericht> Gezien;
 };
 
