@@ -67,6 +67,8 @@ public:
     /// Raises Fout when the PDF file cannot be written.
     void Voltooi()
     {
+        if (!Apparaat)
+            return;
         Schilder.end();
         Apparaat.reset();
         if (!pad_.isEmpty())
