@@ -25,6 +25,7 @@
 #include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Screen.h"
+#include "print/Afdrukken.h"
 #include "wordlib/AddForm.h"
 #include "wordlib/FormMain.h"
 #include "wordlib/KladblokForm.h"
@@ -58,6 +59,7 @@ void VerbindOpdrachten()
     Koppel(main.FileNew, Toon<NieuwForm>);
     Koppel(main.FileOpen, Toon<OpenFile>);
     Koppel(main.FileSave, Toon<SaveForm>);
+    Koppel(main.FilePrint, Toon<Afdrukken>);
     Koppel(main.FileExit, [] { Main().close(); });
     Koppel(main.ShowOrgineel, Toon<ShowPuzzel>);
     Koppel(main.BiebOnlineWoordenboek, [] { OpenDocument(Adressen::Woordenboek); });

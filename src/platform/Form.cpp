@@ -197,8 +197,10 @@ void Form::bijOpties(const QList<QRadioButton *> &opties, const std::function<vo
 /// Puts the list of a box at the text that stands in it, so that Up and Down give the neighbours.
 static void VolgTekst(QComboBox &combo)
 {
+    if (combo.itemText(combo.currentIndex()) == combo.currentText())
+        return; // it may be the second one of a name
     const int index = combo.findText(combo.currentText());
-    if (index < 0 || index == combo.currentIndex())
+    if (index < 0)
         return;
     const QSignalBlocker stil(combo);
     const int cursor = combo.lineEdit()->cursorPosition();
@@ -206,18 +208,25 @@ static void VolgTekst(QComboBox &combo)
     combo.lineEdit()->setCursorPosition(cursor);
 }
 
-QComboBox *Form::MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu)
+QComboBox *Form::MaakKeuze(const char *naam, const QString &leesnaam, const QStringList &items, const QString &nu)
 {
     auto *combo = Maak<QComboBox>(naam, leesnaam);
-    for (int nummer = van; nummer <= tot; ++nummer)
-        combo->addItem(QString::number(nummer));
+    combo->addItems(items);
     combo->setEditable(true);
     combo->setInsertPolicy(QComboBox::NoInsert);
     combo->setCompleter(nullptr);
-    combo->setEditText(QString::number(nu));
+    combo->setEditText(nu);
     VolgTekst(*combo);
     connect(combo, &QComboBox::editTextChanged, combo, [combo] { VolgTekst(*combo); });
     return combo;
+}
+
+QComboBox *Form::MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu)
+{
+    QStringList nummers;
+    for (int nummer = van; nummer <= tot; ++nummer)
+        nummers += QString::number(nummer);
+    return MaakKeuze(naam, leesnaam, nummers, QString::number(nu));
 }
 
 QScrollBar *Form::MaakSchuif(const char *naam, const QString &leesnaam, int van, int tot, QWidget *ouder)

@@ -85,7 +85,9 @@ protected:
     QList<QRadioButton *> MaakOpties(const QStringList &opschriften, QWidget *ouder = nullptr);
     /// The index of the option that is chosen.
     static int Gekozen(const QList<QRadioButton *> &opties);
-    /// A box with the numbers from one to another, in which anything may be typed as well.
+    /// A box with a list, in which anything may be typed as well. @param nu what stands in it
+    QComboBox *MaakKeuze(const char *naam, const QString &leesnaam, const QStringList &items, const QString &nu);
+    /// The same with the numbers from one to another.
     QComboBox *MaakNummers(const char *naam, const QString &leesnaam, int van, int tot, int nu);
     /// A horizontal scroll bar, at its least value, that moves one at a time.
     QScrollBar *MaakSchuif(const char *naam, const QString &leesnaam, int van, int tot, QWidget *ouder = nullptr);

@@ -7,9 +7,12 @@
 #include "platform/CodePage.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
+#include "platform/Getallen.h"
 #include "platform/Kleur.h"
+#include "platform/Printers.h"
 #include "platform/Screen.h"
 #include "platform/Teksten.h"
+#include "wordlib/DrukLijst.h"
 
 #include <QMenu>
 #include <QScopeGuard>
@@ -71,12 +74,12 @@ ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100,
     Picture1->hide();
     Label1->SetBackColor(RGB(150, 180, 180));
     Knop->setDefault(true);
-    FilePrint->setEnabled(false); // a list cannot be printed yet
     Text1->setFocus();
 
     bij(Text1, &LineBox::textChanged, &ZoekForm::Text1_Change);
     bij(Knop, &QPushButton::clicked, &ZoekForm::Knop_Click);
     bij(ExportKnop, &ImageButton::clicked, &ZoekForm::ExportKnop_Click);
+    bij(FilePrint, &QAction::triggered, &ZoekForm::FilePrint_Click);
 
     LaadDatabase();
     Main().Label2->hide();
@@ -248,4 +251,19 @@ void ZoekForm::ExportKnop_Click()
     woorden.removeIf([](const QString &woord) { return woord.size() >= 20; }); // one less than the tip says, wanted so
     Main().GeefWoorden(woorden);
     Unload();
+}
+
+// The number of pages is a rough one: four columns of 53 rows are 212 words.
+void ZoekForm::FilePrint_Click()
+{
+    constexpr double WoordenPerPagina = 240;
+    const qint64 paginas = Getallen::RondEven(List1->ListCount() / WoordenPerPagina) + 1;
+    if (JaNee(u"Het aantal pagina's is.. %1, wil je verder gaan met afdrukken?"_s.arg(paginas), u"Afdrukken"_s))
+        DrukLijst();
+}
+
+// Whatever the printer makes of it, nothing is said.
+void ZoekForm::DrukLijst()
+{
+    negeer([this] { ::DrukLijst(Printers::Huidig(), windowTitle(), List1->Items()); });
 }

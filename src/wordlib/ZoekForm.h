@@ -20,6 +20,7 @@ public:
 
     void Knop_Click();
     void ExportKnop_Click();
+    void FilePrint_Click();
     void Text1_Change();
 
     /// Reads the database, sorts it, makes its hash table and its letter index. A failure is told, and what was read
@@ -31,6 +32,8 @@ public:
     void ZoekTrefwoord();
     void ZoekKlinkers();
     void ZoekLengte(qint16 Lengte); ///< lists the words of this length
+    /// Prints List1. Searches go no further then than to the word that PosX comes out at.
+    void DrukLijst();
 
     ListBox *List1;
     Label *Label1, *Label3, *Label4, *Label5, *Label7;
