@@ -57,6 +57,24 @@ def report_generators(made):
     print(f"{'making a word search of 16 by 19 with 40 words':52} {search:9.2f} us (at most 500), {placed:.0%} of them placed")
 
 
+def prints(build):
+    """Of each print job: its name, with the median milliseconds and the bytes of its file."""
+    rows = measured(build / "bench_print", build.parent / "bin", "--benchmark_repetitions=5",
+                    "--benchmark_report_aggregates_only=true", "--benchmark_enable_random_interleaving=true")
+    return {row["run_name"]: (row["real_time"], row.get("size")) for row in rows if row["aggregate_name"] == "median"}
+
+
+def report_prints(jobs):
+    for job in sorted(jobs):
+        if job.startswith("PrintSample/"):
+            name = job.partition("/")[2]
+            (ours, size), (plain, plain_size) = jobs[job], jobs[f"PlainPages/{name}"]
+            report(f"printing {name}, beside plain pages", ours, plain, "ms", 1.5)
+            report("its PDF file, beside theirs", size / 1024, plain_size / 1024, "KiB", 1.2)
+    row = jobs["ZweedsOf5000Rows"][0] / 5000
+    print(f"{'a row of a Zweeds of 5000 rows, printed':52} {row:9.4f} ms (at most 0.5)")
+
+
 def report(what, ours, peer, unit, most):
     print(f"{what:52} {ours:9.2f} {unit} beside {peer:9.2f} {unit}: {ours / peer:5.2f} times (at most {most})")
 
@@ -101,3 +119,4 @@ print(f"{'the raster of the largest board wiped, unseen':52} {unseen:9.2f} ms (a
 print(f"{'the same, each of its 481 columns shown by itself':52} {seen:9.2f} ms: {seen / 481:.3f} ms a column")
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")
 report_generators(generators(build))
+report_prints(prints(build))

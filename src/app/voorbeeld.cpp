@@ -3,8 +3,10 @@
 //   voorbeeld maak BRON MAP        makes the puzzle that BRON tells and saves it in the folder Puzzels of MAP
 //   voorbeeld bewaar BRON MAP      the same, writes its web page in the folder Html, and keeps what stood on the screen
 //   voorbeeld controleer BRON MAP  opens the saved puzzle and compares it with what was kept
+//   voorbeeld druk BRON MAP        opens the saved puzzle and prints it to a PDF file, with all that can be printed
 //
-// BRON is a description, see VoorbeeldBron.h. What is kept stands in MAP/controle, in a folder of the puzzle's name.
+// BRON is a description, see VoorbeeldBron.h. What is kept stands in MAP/controle, in a folder of the puzzle's name;
+// what is printed in MAP/Afdrukken.
 
 #include "app/VoorbeeldBron.h"
 #include "app/VoorbeeldMaken.h"
@@ -15,10 +17,12 @@
 #include "platform/Fout.h"
 #include "platform/Klok.h"
 #include "platform/Uiterlijk.h"
+#include "print/Afdrukken.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTextStream>
 
 #include <algorithm>
@@ -29,7 +33,12 @@ namespace {
 
 QTextStream uit(stdout);
 
-/// Says yes to every question; any other message is a failure.
+QString AfdrukMap()
+{
+    return AppPath + u"/Afdrukken/"_s;
+}
+
+/// Says yes to every question, and where a file is to come; any other message is a failure.
 class JaBerichten : public Berichten
 {
 public:
@@ -38,6 +47,10 @@ public:
         if (knoppen == Knoppen::JaNee)
             return Antwoord::Ja;
         throw Fout(Fout::OngeldigeWaarde, tekst);
+    }
+    QString VraagBestand(const QString &, const QString &voorstel, const QString &) override
+    {
+        return AfdrukMap() + QFileInfo(voorstel).fileName();
     }
 };
 
@@ -85,14 +98,35 @@ bool Vergelijk(const QString &map)
     return alles;
 }
 
-bool Controleer(const QString &naam)
+void Open(const QString &naam)
 {
-    const QString map = ControleMap(naam);
     OpenFile open;
     for (int i = 0; i < open.List1->ListCount(); ++i)
         if (open.List1->List(i) == naam)
             open.List1->SetListIndex(i);
     open.OkKnop_Click();
+}
+
+void Druk(const QString &naam)
+{
+    const QString pad = AfdrukMap() + naam + u".pdf"_s;
+    QDir().mkpath(AfdrukMap());
+    QFile::remove(pad);
+    Open(naam);
+    Afdrukken afdrukken;
+    afdrukken.Combo2->setCurrentIndex(afdrukken.Combo2->count() - 1); // the PDF file
+    afdrukken.Check1->setChecked(true);
+    afdrukken.Check2->setChecked(true);
+    afdrukken.PrintKnop_Click();
+    if (!QFileInfo::exists(pad)) // the window passes over what could not be written
+        throw Fout(Fout::SchijfFout, pad);
+    uit << "afdruk: " << pad << '\n';
+}
+
+bool Controleer(const QString &naam)
+{
+    const QString map = ControleMap(naam);
+    Open(naam);
     const QString venster = map + u"/venster.png"_s;
     Main().resize(Main().maximumSize()); // the window as it is on a screen that has room for all of it
     if (!Main().grab().save(venster))
@@ -108,9 +142,9 @@ bool ControleerAlles(const QStringList &namen)
 
 int Voer(const QStringList &argumenten)
 {
-    const QStringList opdrachten{u"maak"_s, u"bewaar"_s, u"controleer"_s};
+    const QStringList opdrachten{u"maak"_s, u"bewaar"_s, u"controleer"_s, u"druk"_s};
     if (argumenten.size() != 4 || !opdrachten.contains(argumenten[1]))
-        throw Fout(Fout::OngeldigArgument, u"voorbeeld maak|bewaar|controleer BRON MAP"_s);
+        throw Fout(Fout::OngeldigArgument, u"voorbeeld maak|bewaar|controleer|druk BRON MAP"_s);
     const QString &wat = argumenten[1];
     const Voorbeeld::Puzzel puzzel = Voorbeeld::LeesBron(argumenten[2]);
     AppPath = QDir(argumenten[3]).absolutePath();
@@ -120,6 +154,11 @@ int Voer(const QStringList &argumenten)
     BeginWaarden();
     if (wat == "controleer"_L1)
         return ControleerAlles(puzzel.Namen()) ? 0 : 1;
+    if (wat == "druk"_L1) {
+        for (const QString &naam : puzzel.Namen())
+            Druk(naam);
+        return 0;
+    }
     const bool houdt = wat == "bewaar"_L1;
     Voorbeeld::MaakPuzzel(puzzel, [houdt](const QString &naam) {
         if (houdt)
