@@ -2,6 +2,8 @@
 
 #include "platform/PagedCanvas.h"
 
+#include <QColor>
+#include <QHash>
 #include <QImage>
 #include <QPaintDevice>
 #include <QPaintEngine>
@@ -12,23 +14,21 @@
 #include <functional>
 
 /// Pages that only note what is done to them, in its order: each text with its place, its letter and its colour, each
-/// picture with its name and its rectangle, each new page and the end. All in twips.
+/// picture with its name and its rectangle, each new page and the end. All in twips; texts as PdfLezer tells them.
 ///
-///     "600,300 Arial 12 vet 00005a Puzzelnaam : reis"
-///     "Pic 600,900 9600x11400"                        the whole picture; "deel" behind it for a part
+///     "600,300 12 vet #00005a Puzzelnaam : reis"   in Arial; an empty text too
+///     "Pic 600,900 9600x11400"                     the whole picture; "deel" behind it for a part
 ///     "blad", "einde"
 class Drukrol : public PagedCanvas
 {
 public:
     static QString Tekst(int x, int y, double punten, bool vet, QRgb kleur, const QString &tekst)
     {
-        return QStringLiteral("%1,%2 Arial %3 %4 %5 %6")
+        return QStringLiteral("%1,%2 %3 %4%5 %6")
             .arg(x)
             .arg(y)
             .arg(punten)
-            .arg(QLatin1String(vet ? "vet" : "mager"))
-            .arg(kleur & 0xFFFFFF, 6, 16, QLatin1Char('0'))
-            .arg(tekst);
+            .arg(QLatin1String(vet ? "vet " : ""), QColor(kleur).name(), tekst);
     }
     static QString Beeld(const char *naam, int x, int y, int breedte, int hoogte)
     {
@@ -40,6 +40,10 @@ public:
 
     QStringList Gedaan;
     std::function<void(int nummer)> Bij = [](int) {}; ///< run before each of these, counted from 0; it may raise
+
+    /// What is printed on each page, without what is empty: the texts, and the pictures without their names.
+    QList<QStringList> Teksten() const { return Paginas(true); }
+    QList<QStringList> Beelden() const { return Paginas(false); }
 
     void NewPage() override { Noteer(QStringLiteral("blad")); }
     void EndDoc() override { Noteer(QStringLiteral("einde")); }
@@ -112,6 +116,17 @@ private:
             }
         }
     };
+
+    QList<QStringList> Paginas(bool teksten) const
+    {
+        QList<QStringList> paginas{QStringList()};
+        for (const QString &wat : Gedaan)
+            if (wat == QLatin1String("blad"))
+                paginas += QStringList();
+            else if (!wat.endsWith(QLatin1Char(' ')) && wat != QLatin1String("einde") && wat[0].isDigit() == teksten)
+                paginas.last() += teksten ? wat : wat.section(QLatin1Char(' '), 1);
+        return paginas;
+    }
 
     void Noteer(const QString &wat)
     {
