@@ -1,3 +1,4 @@
+#include "support/PdfLezer.h"
 #include "support/Testbank.h"
 
 #include <QDir>
@@ -504,13 +505,52 @@ private slots:
         QVERIFY2(afloop.Tekst.contains(u"Proef.lst"_s), qPrintable(afloop.Tekst));
     }
 
+    void aSavedPuzzleIsPrintedWithTheTime()
+    {
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\nmaat|9|11\nwoord|A-01|H|aap|dier\n";
+        QCOMPARE(werk.Voer(u"maak"_s, bron).Code, 0);
+        const Afloop gedrukt = werk.Voer(u"druk"_s, bron);
+        QVERIFY2(gedrukt.Gewoon && gedrukt.Code == 0, qPrintable(gedrukt.Tekst));
+        const QString pad = werk.Map() + u"/Afdrukken/Proef.pdf"_s;
+        QVERIFY2(gedrukt.Tekst.endsWith(u"afdruk: %1\n"_s.arg(pad)), qPrintable(gedrukt.Tekst));
+        const PdfLezer pdf(pad);
+        QCOMPARE(pdf.Paginas(), 3);
+        QCOMPARE(pdf.Teksten(1).first(2), (QStringList{u"600,300 12 vet #00005a Puzzelnaam : Proef"_s,
+                                                       u"9000,300 12 vet #5a0000 09:05:03 / 07-03-2026"_s}));
+        QCOMPARE(pdf.Beelden(1), QStringList{u"600,900 5400x6600"_s});
+    }
+
+    void theSolutionOfASudokuIsPrintedToo()
+    {
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\nsudoku|Normaal\n";
+        QCOMPARE(werk.Voer(u"maak"_s, bron).Code, 0);
+        const Afloop gedrukt = werk.Voer(u"druk"_s, bron);
+        QVERIFY2(gedrukt.Gewoon && gedrukt.Code == 0, qPrintable(gedrukt.Tekst));
+        QCOMPARE(PdfLezer(werk.Map() + u"/Afdrukken/Proef.pdf"_s).Beelden(1).size(), 2);
+    }
+
+    void aPuzzleThatWasNotPrintedIsToldSo()
+    {
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\nmaat|9|11\n";
+        QCOMPARE(werk.Voer(u"maak"_s, bron).Code, 0);
+        QFile inDeWeg(werk.Map() + u"/Afdrukken"_s);
+        QVERIFY(inDeWeg.open(QIODevice::WriteOnly));
+        const Afloop gedrukt = werk.Voer(u"druk"_s, bron);
+        QVERIFY(gedrukt.Gewoon);
+        QCOMPARE(gedrukt.Code, 1);
+        QVERIFY2(gedrukt.Tekst.contains(u"Proef.pdf"_s), qPrintable(gedrukt.Tekst));
+    }
+
     void anUnknownCommandIsRefused()
     {
         const Werkplaats werk;
         const Afloop afloop = werk.Voer(u"probeer"_s, "naam|Proef\nmaat|10|11\n");
         QVERIFY(afloop.Gewoon);
         QCOMPARE(afloop.Code, 1);
-        QVERIFY2(afloop.Tekst.contains(u"maak|bewaar|controleer"_s), qPrintable(afloop.Tekst));
+        QVERIFY2(afloop.Tekst.contains(u"maak|bewaar|controleer|druk"_s), qPrintable(afloop.Tekst));
         QVERIFY(werk.Puzzels().isEmpty());
     }
 };

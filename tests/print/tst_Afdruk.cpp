@@ -40,9 +40,7 @@ class tst_Afdruk : public QObject
         QTest::addColumn<int>("maat");
         QTest::addColumn<int>("paginas");
         Geval("Zweeds, empty", 1, 0, 16, 3);
-        Geval("Zweeds, 54 rows", 1, 54, 16, 4);
         Geval("Zweeds, 55 rows", 1, 55, 16, 4);
-        Geval("Zweeds, 5000 rows", 1, 5000, 16, 95);
         Geval("Woordzoeker, empty", 2, 0, 16, 1);
         Geval("Woordzoeker, 50 words", 2, 50, 12, 1);
         Geval("Kruiswoord, empty", 3, 0, 16, 2);
@@ -57,8 +55,8 @@ class tst_Afdruk : public QObject
         Drukwerk werk = Proef(Rijen(rijen));
         werk.BoardWidth = maat;
         werk.BoardHeight = maat;
-        werk.Pic = Bont(maat * 30 + 1, maat * 30 + 1);
-        werk.PicGroot = Bont(maat * 120 + 3, maat * 120 + 3);
+        werk.Pic = Bont(maat * 3 + 1, maat * 3 + 1);
+        werk.PicGroot = Bont(maat * 12 + 3, maat * 12 + 3);
         werk.MetTijd = werk.Oplossing = true;
         return werk;
     }
@@ -87,8 +85,7 @@ private slots:
         const PdfLezer pdf(DrukAf(bank, type, werk));
         QCOMPARE(pdf.Paginas(), paginas);
         QCOMPARE(rol.Teksten().size(), paginas);
-        // Of the longest list the last pages tell enough.
-        for (int pagina = paginas > 10 ? paginas - 2 : 1; pagina <= paginas; ++pagina) {
+        for (int pagina = 1; pagina <= paginas; ++pagina) {
             QCOMPARE(pdf.Teksten(pagina), rol.Teksten()[pagina - 1]);
             QCOMPARE(pdf.Beelden(pagina), rol.Beelden()[pagina - 1]);
         }
@@ -98,10 +95,22 @@ private slots:
     void thePicturesAreWithoutLoss()
     {
         Testbank bank;
-        const Drukwerk werk = Werk(0, 9);
+        Drukwerk werk = Werk(0, 9);
+        werk.Pic = Bont(271, 271);
+        werk.PicGroot = Bont(1083, 1083);
         const PdfLezer pdf(DrukAf(bank, 4, werk));
         QVERIFY(pdf.Beeld(0).convertToFormat(QImage::Format_RGB32) == werk.Pic);
         QVERIFY(pdf.Beeld(1).convertToFormat(QImage::Format_RGB32) == werk.PicGroot);
+    }
+
+    void fiveThousandRowsOfALargeBoard()
+    {
+        Testbank bank;
+        Drukwerk werk = Werk(5000, 40);
+        werk.PicGroot = Effen(4803, 4803, qRgb(250, 240, 230));
+        QFile pdf(DrukAf(bank, 1, werk));
+        QVERIFY(pdf.open(QIODevice::ReadOnly));
+        QCOMPARE(pdf.readAll().count("/Type /Page\n"), 2 + 5000 / 54 + 1);
     }
 
     void anyBoardAndAnyTextIsPrinted_data()

@@ -31,7 +31,7 @@ def print_by_keys(run, shot=None):
     """Opens the dialog and prints with the time; gives the box for the file."""
     run.program.menu("Bestand", "Puzzel afdrukken")
     dialog = run.program.window(DIALOG, shot)
-    run.program.until_focus("combo box", "Printerkeuze")
+    run.program.until_focus("combo box", "PDF-bestand")
     equal("the title", [name for name in dialog.names() if name.startswith("Zweeds")],
           ["Zweedse puzzel afdrukken op meerdere pagina's"])
     run.desktop.key("Tab")
@@ -67,9 +67,11 @@ def refused(run):
 
 
 def file_chosen(run, path):
-    print_by_keys(run, "print")
+    files = print_by_keys(run, "print")
     run.desktop.key("ctrl+a")
-    run.desktop.type(str(path.with_suffix("")))
+    typed = str(path.with_suffix(""))
+    run.desktop.type(typed)
+    until_equal("the file in its box", lambda: [box.text() for box in files.all("text")], [typed])
     run.desktop.shot("print-file-typed")
     run.desktop.key("Return")
     run.program.until_closed(DIALOG)
