@@ -2,7 +2,7 @@
 
 #include "platform/Berichten.h"
 #include "platform/Files.h"
-#include "platform/Printers.h"
+#include "platform/Screen.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -31,6 +31,7 @@ static QString Voorstel(const QString &titel)
 /// @return the path for the PDF file, which ends in ".pdf"; empty when the user wants none
 static QString VraagPdf(const QString &titel)
 {
+    const Screen::Vraagt vraagt; // printing is busy work
     QString pad = Voorstel(titel);
     for (;;) {
         pad = Berichten::Huidig().VraagBestand(u"Afdrukken naar een PDF-bestand"_s, pad, u"PDF-bestanden (*.pdf)"_s);

@@ -10,3 +10,14 @@ void Screen::MousePointer(int soort)
     if (soort == Hourglass)
         QGuiApplication::setOverrideCursor(Qt::WaitCursor);
 }
+
+Screen::Vraagt::Vraagt() : bezig_(QGuiApplication::overrideCursor() != nullptr)
+{
+    MousePointer(Arrow);
+}
+
+Screen::Vraagt::~Vraagt()
+{
+    if (bezig_)
+        MousePointer(Hourglass);
+}

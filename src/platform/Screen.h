@@ -21,4 +21,16 @@ public:
     Q_DISABLE_COPY_MOVE(Bezig)
 };
 
+/// The plain arrow for as long as it lives, also in the midst of busy work; then what was shown before.
+class Vraagt
+{
+public:
+    Vraagt();
+    ~Vraagt();
+    Q_DISABLE_COPY_MOVE(Vraagt)
+
+private:
+    bool bezig_;
+};
+
 } // namespace Screen

@@ -7,8 +7,10 @@ import subprocess
 
 from desktop import until
 
-# A sheet on which 18 points at each edge cannot be printed on; it takes PDF as it is.
-PPD = '''*PPD-Adobe: "4.3"
+EDGE = 18  # points at each side of the sheet that the printers cannot print on
+
+# They take PDF as it is.
+PPD = f'''*PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
 *FileVersion: "1.0"
 *LanguageVersion: English
@@ -36,7 +38,7 @@ PPD = '''*PPD-Adobe: "4.3"
 *PageRegion A4/A4: "<</PageSize[595 842]>>setpagedevice"
 *CloseUI: *PageRegion
 *DefaultImageableArea: A4
-*ImageableArea A4/A4: "18 18 577 824"
+*ImageableArea A4/A4: "{EDGE} {EDGE} {595 - EDGE} {842 - EDGE}"
 *DefaultPaperDimension: A4
 *PaperDimension A4/A4: "595 842"
 *DefaultResolution: 600dpi
@@ -133,6 +135,10 @@ class PrintServer:
     def is_there(self):
         assert self.process.poll() is None, "the print server didn't stay:\n" + self.said()
         return self.socket.exists()
+
+    def stop(self):
+        self.process.terminate()
+        self.process.wait()
 
     def said(self):
         log = self.root / "error.log"

@@ -47,6 +47,22 @@ private slots:
         QCOMPARE(Pointer(), -1); // also when a failure ends the work
     }
 
+    void aQuestionInTheMidstOfWorkHasTheArrow()
+    {
+        {
+            const Screen::Bezig bezig;
+            {
+                const Screen::Vraagt vraagt;
+                QCOMPARE(Pointer(), -1);
+            }
+            QCOMPARE(Pointer(), int(Qt::WaitCursor));
+        }
+        {
+            const Screen::Vraagt vraagt;
+        }
+        QCOMPARE(Pointer(), -1); // there was no work
+    }
+
     void whateverPointerWasSetIsTakenAway()
     {
         QGuiApplication::setOverrideCursor(Qt::CrossCursor);
