@@ -61,6 +61,7 @@ public:
             {"Name"_L1, u"Naam"_s},
             {"Size"_L1, u"Grootte"_s},
             {"Type"_L1, u"Soort"_s},
+            {"Show "_L1, u"Toon "_s},
             {"Date Modified"_L1, u"Gewijzigd"_s},
             {"Folder"_L1, u"Map"_s},
             {"%1 already exists.\nDo you want to replace it?"_L1, u"%1 bestaat al.\nWil je het vervangen?"_s},

@@ -1,9 +1,8 @@
 """A print server of the journey's own, with queues that print into files. It ends with the desktop."""
-import getpass
 import grp
 import os
+import pwd
 import shutil
-import subprocess
 
 from desktop import until
 
@@ -115,7 +114,7 @@ class PrintServer:
 
     def write_configuration(self, names):
         mine = grp.getgrgid(os.getgid()).gr_name
-        user, group = ("lp", "lp") if os.geteuid() == 0 else (getpass.getuser(), mine)  # it refuses to print as root
+        user, group = ("lp", "lp") if os.geteuid() == 0 else (pwd.getpwuid(os.geteuid()).pw_name, mine)  # it refuses to print as root
         (self.root / "cupsd.conf").write_text(CONFIGURATION.format(socket=self.socket), encoding="utf-8")
         (self.root / "cups-files.conf").write_text(FILES.format(user=user, group=group, root=self.root), encoding="utf-8")
         (self.root / "printers.conf").write_text("".join(

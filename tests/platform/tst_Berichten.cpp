@@ -1,13 +1,18 @@
 #include "platform/Berichten.h"
 #include "support/Testbank.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QFileDialog>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTimer>
+#include <QTreeView>
 
 #include <optional>
 
@@ -49,6 +54,40 @@ struct EchtBericht
     QStringList Opschriften;
     Antwoord Gegeven;
 };
+
+/// Asks for a file with the real dialog, and handles that when it is shown.
+static QString EchteVraag(const QString &voorstel, const std::function<void(QFileDialog &)> &doe)
+{
+    Berichten::Gebruik(nullptr);
+    QTimer::singleShot(0, qApp, [&] {
+        auto *dialoog = qobject_cast<QFileDialog *>(QApplication::activeModalWidget());
+        if (!dialoog)
+            qFatal("there is no dialog");
+        doe(*dialoog);
+    });
+    return Berichten::Huidig().VraagBestand(u"Waarheen?"_s, voorstel, u"PDF-bestanden (*.pdf)"_s);
+}
+
+/// All that a dialog shows or tells of itself, each text once, sorted.
+static QStringList Teksten(const QWidget &dialoog)
+{
+    QSet<QString> teksten{dialoog.windowTitle()};
+    for (const auto *label : dialoog.findChildren<QLabel *>())
+        teksten += label->text();
+    for (const auto *knop : dialoog.findChildren<QAbstractButton *>())
+        teksten += knop->text();
+    for (const auto *control : dialoog.findChildren<QWidget *>())
+        teksten += {control->toolTip(), control->accessibleName(), control->accessibleDescription()};
+    for (const auto *lijst : dialoog.findChildren<QTreeView *>())
+        for (int i = 0; i < lijst->header()->count(); ++i)
+            teksten += lijst->model()->headerData(i, Qt::Horizontal).toString();
+    for (const auto *actie : dialoog.findChildren<QAction *>())
+        teksten += actie->text();
+    QStringList gesorteerd(teksten.begin(), teksten.end());
+    gesorteerd.removeAll(QString());
+    gesorteerd.sort();
+    return gesorteerd;
+}
 
 class tst_Berichten : public QObject
 {
@@ -213,6 +252,85 @@ private slots:
         });
         QVERIFY(vlaggen & Qt::WindowCloseButtonHint);
         QVERIFY(!(vlaggen & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
+    }
+
+    void aFileIsAskedForInDutch()
+    {
+        QStringList teksten;
+        const QString pad = EchteVraag(bank_->Map() + u"/reis.pdf"_s, [&](QFileDialog &dialoog) {
+            teksten = Teksten(dialoog);
+            dialoog.reject();
+        });
+        QCOMPARE(pad, QString());
+        QCOMPARE(teksten, (QStringList{u"&Naam wijzigen"_s,
+                                       u"&Verwijderen"_s,
+                                       u"Alleen de namen tonen"_s,
+                                       u"Annuleren"_s,
+                                       u"Bestanden"_s,
+                                       u"Bestands&naam:"_s,
+                                       u"Bijzonderheden"_s,
+                                       u"Bovenliggende map"_s,
+                                       u"Een nieuwe map maken"_s,
+                                       u"Gewijzigd"_s,
+                                       u"Grootte"_s,
+                                       u"Lijst"_s,
+                                       u"Lijst van plaatsen"_s,
+                                       u"Naam"_s,
+                                       u"Naar de bovenliggende map"_s,
+                                       u"Nieuwe &map"_s,
+                                       u"Nieuwe map"_s,
+                                       u"Ook grootte en datum tonen"_s,
+                                       u"Op&slaan"_s,
+                                       u"Plaatsen"_s,
+                                       u"Soort"_s,
+                                       u"Soort bestanden:"_s,
+                                       u"Terug"_s,
+                                       u"Terug naar de vorige map"_s,
+                                       u"Toon Gewijzigd"_s,
+                                       u"Toon Grootte"_s,
+                                       u"Toon Soort"_s,
+                                       u"Ver&borgen bestanden tonen"_s,
+                                       u"Verder"_s,
+                                       u"Verder naar de volgende map"_s,
+                                       u"Waarheen?"_s,
+                                       u"Zoeken in:"_s}));
+    }
+
+    void theFileThatIsTypedIsTheAnswer()
+    {
+        const QString voorstel = bank_->Map() + u"/reis.pdf"_s;
+        const auto neemAan = [](QFileDialog &dialoog) { QTest::keyClick(&dialoog, Qt::Key_Return); };
+        QCOMPARE(EchteVraag(voorstel, neemAan), voorstel);
+        const auto typ = [&](QFileDialog &dialoog) {
+            auto *naam = dialoog.findChild<QLineEdit *>(u"fileNameEdit"_s);
+            QCOMPARE(naam->text(), u"reis.pdf"_s);
+            naam->setText(u"tocht"_s);
+            QTest::keyClick(naam, Qt::Key_Return);
+        };
+        QCOMPARE(EchteVraag(voorstel, typ), bank_->Map() + u"/tocht"_s);
+    }
+
+    void aFileThatIsThereIsAskedAbout()
+    {
+        bank_->Schrijf(u"reis.pdf"_s, "oud");
+        for (const bool ja : {true, false}) {
+            QString vraag;
+            const QString pad = EchteVraag(bank_->Map() + u"/reis.pdf"_s, [&](QFileDialog &dialoog) {
+                QTimer::singleShot(0, qApp, [&] {
+                    auto *box = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+                    if (!box)
+                        return;
+                    vraag = box->text() + u'|' + box->button(QMessageBox::Yes)->text() + u'|' +
+                            box->button(QMessageBox::No)->text();
+                    box->button(ja ? QMessageBox::Yes : QMessageBox::No)->click();
+                });
+                QTest::keyClick(&dialoog, Qt::Key_Return);
+                if (!ja)
+                    dialoog.reject();
+            });
+            QCOMPARE(vraag, u"reis.pdf bestaat al.\nWil je het vervangen?|&Ja|&Nee"_s);
+            QCOMPARE(pad, ja ? bank_->Map() + u"/reis.pdf"_s : QString());
+        }
     }
 
 private:
