@@ -69,7 +69,7 @@ def report_prints(jobs):
         if job.startswith("PrintSample/"):
             name = job.partition("/")[2]
             (ours, size), (plain, plain_size) = jobs[job], jobs[f"PlainPages/{name}"]
-            report(f"printing {name}, beside plain pages", ours, plain, "ms", 1.5)
+            report(f"printing {name}, beside plain pages and fsync", ours, plain, "ms", 1.5)
             report("its PDF file, beside theirs", size / 1024, plain_size / 1024, "KiB", 1.2)
     row = jobs["ZweedsOf5000Rows"][0] / 5000
     print(f"{'a row of a Zweeds of 5000 rows, printed':52} {row:9.4f} ms (at most 0.5)")

@@ -114,9 +114,8 @@ void Afdrukken::PrintKnop_Click()
 // It comes before the job, and reports no work. Clicks and keys wait for its end.
 void Afdrukken::Veeg()
 {
+    Line1->X2 = BladBreedte;
     for (int Y = 0; Y <= BladHoogte; Y += 15) {
-        Line1->X1 = 0;
-        Line1->X2 = BladBreedte;
         Line1->Y1 = Line1->Y2 = Y;
         Line1->BorderColor = RGB(static_cast<int>(Getallen::RondEven(Y / 10.0)), 0, 0);
         Line1->Toon();

@@ -23,9 +23,11 @@ static QList<Rij> Rijen(int aantal)
 {
     QList<Rij> rijen;
     for (int i = 1; i <= aantal; ++i)
-        rijen += Rij{u"%2-%3 / %1-%4"_s.arg(i).arg(QChar(u'A' + i % 16)).arg(i % 20, 2, 10, QChar(u'0')).arg(QChar(i % 3 ? u'H' : u'V')),
-                     u"Dier met één poot %1"_s.arg(i), u"IJsvogel%1"_s.arg(i),
-                     QString::number(i)};
+        rijen += Rij{u"%2-%3 / %1-%4"_s.arg(i)
+                         .arg(QChar(u'A' + i % 16))
+                         .arg(i % 20, 2, 10, QChar(u'0'))
+                         .arg(QChar(i % 3 ? u'H' : u'V')),
+                     u"Dier met één poot %1"_s.arg(i), u"IJsvogel%1"_s.arg(i), QString::number(i)};
     return rijen;
 }
 

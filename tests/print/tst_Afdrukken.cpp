@@ -70,13 +70,13 @@ private slots:
                                    {"Label6", 2100, 210, 180, 2580},
                                    {"Label7", 2115, 225, 180, 2580},
                                    {"Label1", 2850, 210},
-                                   {"Combo2", 2850, 480, 2700},
-                                   {"Check1", 3000, 1050, 2100},
-                                   {"Check2", 3000, 1350, 3000},
+                                   {"Combo2", 2850, 480, 2700, 330},
+                                   {"Check1", 3000, 1050, 2100, 255},
+                                   {"Check2", 3000, 1350, 3000, 255},
                                    {"Label4", 180, 2850, 2100, 900},
-                                   {"Image1", 4290, 1950},
-                                   {"CancelKnop", 3705, 2910},
-                                   {"PrintKnop", 4710, 2910}}),
+                                   {"Image1", 4290, 1950, 1440, 900},
+                                   {"CancelKnop", 3705, 2910, 960, 330},
+                                   {"PrintKnop", 4710, 2910, 990, 330}}),
                  u"Check2 steekt uit\nLabel4 steekt uit"_s);
         for (const QCheckBox *check : {form.Check1, form.Check2}) {
             QStyleOptionButton hoe;
@@ -116,9 +116,12 @@ private slots:
         QCOMPARE(form.Check2->text(), u"Tevens oplossing afdrukken"_s);
         QCOMPARE(form.Label1->Caption(), u"Printerkeuze"_s);
         QCOMPARE(form.Combo2->palette().color(QPalette::Base), QColor(240, 210, 210));
+        QCOMPARE(form.Combo2->palette().color(QPalette::Text), QColor(0, 0, 0));
+        QCOMPARE(form.Label2->palette().color(QPalette::Window), QColor(150, 180, 180));
         QVERIFY(form.Line1->isHidden());
         for (const Label *label : {form.Label6, form.Label7})
-            QCOMPARE(label->Caption(), u"A\nF\nD\nR\nU\nK\nK\nE\nN"_s);
+            QVERIFY(label->Caption() == u"A\nF\nD\nR\nU\nK\nK\nE\nN"_s &&
+                    label->font() == Lettertype(u"Arial"_s, 11, true) && label->alignment() == Qt::AlignHCenter);
         QCOMPARE(form.Label6->palette().color(QPalette::WindowText), QColor(255, 255, 20));
         QCOMPARE(form.Label7->palette().color(QPalette::WindowText), QColor(130, 100, 60));
         const QList<QObject *> kinderen = form.Label6->parent()->children();

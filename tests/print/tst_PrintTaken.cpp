@@ -311,6 +311,7 @@ private slots:
         Geval("above a byte", "300", "300.");
         Geval("large", "123456789012", "123456789012.");
         Geval("a fraction", "2.5", "2.5.");
+        Geval("a fraction that bits don't have", "0.1", "0.1.");
     }
     void filippineNumbers()
     {
