@@ -23,7 +23,6 @@ static void PrintWoord(PagedCanvas &blad, const QString &woord)
     if (PosY > 15000) {
         PrintPaginaVoet(blad, PaginaTekst);
         blad.NewPage();
-        PosX = EersteKolom;
         PosY = 300;
     }
 }
