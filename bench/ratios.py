@@ -110,7 +110,7 @@ for what, ours, most in [
         ("all words into its list, until shown", "AllWords", 300),
         ("words with three vowels in a row, until shown", "Vowels", 1000),
         ("a notepad of 10,000 lines saved", "SaveNotepad", 50),
-        ("a key in a notepad of 1 MiB, until shown", "KeyInNotepad", 50)]:
+        ("a key in a notepad of 1 MiB, until shown", "KeyInNotepad", 50),
         ("a step of a drag in the viewer, painted", "DragStepInTheViewer", 4)]:
     print(f"{what:52} {waits[ours]:9.2f} ms (at most {most})")
 print(f"{'a Sudoku shuffled until it is painted':52} {times['ShuffleASudokuUntilItIsPainted']:9.2f} ms (at most 10)")
