@@ -71,7 +71,6 @@ public:
         if (!Apparaat)
             return;
         Schilder.end();
-        Apparaat.reset();
         if (!pad_.isEmpty())
             Files::Schrijf(pad_, inhoud_.data());
     }
@@ -97,7 +96,6 @@ void Printer::Document::BeginPdf(const QString &titel)
     auto pdf = std::make_unique<QPdfWriter>(&inhoud_);
     pdf->setTitle(titel);
     pdf->setCreator(u"Rasteratelier"_s);
-    pdf->setResolution(Twips::PerInch);
     pdf->setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(Rand, Rand, Rand, Rand)));
     inhoud_.open(QIODevice::WriteOnly);
     Apparaat = std::move(pdf);
@@ -108,7 +106,6 @@ void Printer::Document::BeginAfdruk(const QString &wachtrij, const QString &tite
     auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
     printer->setPrinterName(wachtrij);
     printer->setDocName(titel);
-    printer->setResolution(Twips::PerInch);
     printer->setCopyCount(1);
     printer->setPageSize(QPageSize(QPageSize::A4));
     printer->setPageOrientation(QPageLayout::Portrait);
@@ -160,7 +157,6 @@ void Printer::Plak(const QImage &bron, QRect deel, QRect doel, PlakWijze /*wijze
 
 void Printer::Cls()
 {
-    Begonnen();
     Vul(QRect(QPoint(0, 0), MaatInPixels()), qRgb(255, 255, 255));
 }
 

@@ -6,9 +6,9 @@ import shutil
 
 from desktop import until
 
-EDGE = 18  # points at each side of the sheet that the printers cannot print on
+EDGE = 6  # points at each side of the sheet that the printers cannot print on
 
-# They take PDF as it is.
+# They take PDF as it is, and would rather have another paper.
 PPD = f'''*PPD-Adobe: "4.3"
 *FormatVersion: "4.3"
 *FileVersion: "1.0"
@@ -28,17 +28,21 @@ PPD = f'''*PPD-Adobe: "4.3"
 *LanguageLevel: "3"
 *OpenUI *PageSize/Size: PickOne
 *OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: A4
+*DefaultPageSize: Letter
+*PageSize Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
 *PageSize A4/A4: "<</PageSize[595 842]>>setpagedevice"
 *CloseUI: *PageSize
 *OpenUI *PageRegion/Size: PickOne
 *OrderDependency: 10 AnySetup *PageRegion
-*DefaultPageRegion: A4
+*DefaultPageRegion: Letter
+*PageRegion Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
 *PageRegion A4/A4: "<</PageSize[595 842]>>setpagedevice"
 *CloseUI: *PageRegion
-*DefaultImageableArea: A4
+*DefaultImageableArea: Letter
+*ImageableArea Letter/Letter: "{EDGE} {EDGE} {612 - EDGE} {792 - EDGE}"
 *ImageableArea A4/A4: "{EDGE} {EDGE} {595 - EDGE} {842 - EDGE}"
-*DefaultPaperDimension: A4
+*DefaultPaperDimension: Letter
+*PaperDimension Letter/Letter: "612 792"
 *PaperDimension A4/A4: "595 842"
 *DefaultResolution: 600dpi
 '''
@@ -54,14 +58,14 @@ ErrorPolicy stop-printer
 </{kind}>
 '''
 
-# What brings a job to its printer: here the pages into a file, and its title and the number of copies into one beside it.
+# What brings a job to its printer: here the pages into a file; then its number, its title and how many copies into another.
 BACKEND = '''#!/bin/sh
 set -e
 [ $# -gt 0 ] || exit 0
 output=${DEVICE_URI#journey://}
-printf '%s\\n' "$3" "$4" > "$output.job"
-cat "$6" > "$output.new"
-mv "$output.new" "$output"
+cat "$6" > "$output"
+printf '%s\\n' "$1" "$3" "$4" > "$output.new"
+mv "$output.new" "$output.job"
 '''
 
 CONFIGURATION = '''LogLevel debug
@@ -104,23 +108,29 @@ class PrintServer:
         self.socket = self.root / "socket"
         for folder in ("ppd", "spool/tmp", "cache/rss", "state/certs", "bin/backend", "printed"):
             (self.root / folder).mkdir(parents=True)
+        (self.root / "bin" / "daemon").symlink_to("/usr/lib/cups/daemon")
+        self.desktop = desktop
+        self.start(*names)
+
+    def start(self, *names):
         self.write_configuration(names)
         program = shutil.which("cupsd", path=f"{os.environ['PATH']}:/usr/sbin")
         assert program, "there is no print server on this machine"
-        self.process = desktop.start([program, "-f", "-c", str(self.root / "cupsd.conf"),
-                                      "-s", str(self.root / "cups-files.conf")])
+        self.process = self.desktop.start([program, "-f", "-c", str(self.root / "cupsd.conf"),
+                                           "-s", str(self.root / "cups-files.conf")])
         os.environ["CUPS_SERVER"] = str(self.socket)
         until("the print server is there", self.is_there)
 
     def write_configuration(self, names):
         mine = grp.getgrgid(os.getgid()).gr_name
-        user, group = ("lp", "lp") if os.geteuid() == 0 else (pwd.getpwuid(os.geteuid()).pw_name, mine)  # it refuses to print as root
+        user = pwd.getpwuid(os.geteuid()).pw_name
+        if user == "root":  # as whom it refuses to print
+            user = mine = "lp"
         (self.root / "cupsd.conf").write_text(CONFIGURATION.format(socket=self.socket), encoding="utf-8")
-        (self.root / "cups-files.conf").write_text(FILES.format(user=user, group=group, root=self.root), encoding="utf-8")
+        (self.root / "cups-files.conf").write_text(FILES.format(user=user, group=mine, root=self.root), encoding="utf-8")
         (self.root / "printers.conf").write_text("".join(
             QUEUE.format(kind="Printer" if place else "DefaultPrinter", name=name, output=self.output(name))
             for place, name in enumerate(names)), encoding="utf-8")
-        (self.root / "bin" / "daemon").symlink_to("/usr/lib/cups/daemon")
         backend = self.root / "bin" / "backend" / "journey"
         backend.write_text(BACKEND, encoding="utf-8")
         backend.chmod(0o700)  # by which it is run as who has started the server
@@ -144,8 +154,10 @@ class PrintServer:
         return log.read_text(encoding="utf-8", errors="replace")[-3000:] if log.exists() else "nothing"
 
     def printed(self, name):
-        """Waits for a job on a queue. @return the path of its pages, its title and the number of copies"""
+        """Waits for the next job on a queue. @return the path of its pages, its number, its title, how many copies"""
         path = self.output(name)
-        until(f"a job on {name}", path.exists)
-        title, copies = path.with_name(path.name + ".job").read_text(encoding="utf-8").splitlines()
-        return path, title, int(copies)
+        job = path.with_name(path.name + ".job")
+        until(f"a job on {name}", job.exists)
+        number, title, copies = job.read_text(encoding="utf-8").splitlines()
+        job.unlink()
+        return path, int(number), title, int(copies)
