@@ -103,3 +103,49 @@ QByteArray MaakLijst(const QByteArray &bron)
         bestand += Regel(woord);
     return bestand;
 }
+
+// --- a table to look things up in ---
+
+/// The lines of a source that is a table.
+static QStringList Tabelregels(const QByteArray &bron)
+{
+    const QStringList regels = Regels(bron);
+    QSet<QString> gehad;
+    for (const QString &regel : regels) {
+        const bool isTekst = std::all_of(regel.begin(), regel.end(),
+                                         [](QChar teken) { return teken.isPrint() && Files::InCodePage(teken); });
+        if (!isTekst || regel != regel.trimmed())
+            Weiger("not a text of the code page without blanks at its ends", regel);
+        if (gehad.contains(regel))
+            Weiger("there twice", regel);
+        gehad += regel;
+    }
+    if (regels.isEmpty())
+        throw BronFout("no line in it");
+    return regels;
+}
+
+QByteArray MaakTabel(const QByteArray &bron)
+{
+    QByteArray bestand;
+    for (const QString &regel : Tabelregels(bron))
+        bestand += Regel(regel);
+    return bestand;
+}
+
+QByteArray MaakSpreekwoorden(const QByteArray &bron)
+{
+    const QString scheiding = u" -/- "_s, aanloop = u"Betekenis : "_s; // 12 characters
+    QByteArray bestand;
+    QSet<QString> gehad;
+    for (const QString &regel : Tabelregels(bron)) {
+        const QStringList delen = regel.split(scheiding);
+        if (delen.size() != 2)
+            Weiger("not a saying and its meaning with \" -/- \" between them", regel);
+        if (gehad.contains(delen[0]))
+            Weiger("there twice", regel);
+        gehad += delen[0];
+        bestand += Regel(delen[0] + scheiding + aanloop + delen[1]);
+    }
+    return bestand;
+}

@@ -1,7 +1,9 @@
-// Makes a file of the installation of its source, and says how many words are in it.
+// Makes a file of the installation of its source, and says how many lines are in it.
 //
 //   installatie woorden BRON DOEL  the word database
 //   installatie lijst BRON DOEL    a word list
+//   installatie tabel BRON DOEL    a table to look things up in
+//   installatie spreekwoorden BRON DOEL  the proverbs with their meanings
 
 #include "installatie/InstallatieBestanden.h"
 
@@ -36,7 +38,7 @@ static int Maak(QByteArray (*maak)(const QByteArray &), const QString &bron, con
         Fouten() << doel << " can't be written\n";
         return 1;
     }
-    QTextStream(stdout) << doel << ": " << inhoud.count('\n') << " words\n";
+    QTextStream(stdout) << doel << ": " << inhoud.count('\n') << " lines\n";
     return 0;
 }
 
@@ -45,10 +47,17 @@ int main(int argc, char *argv[])
     QStringList argumenten;
     for (int i = 1; i < argc; ++i)
         argumenten += QFile::decodeName(argv[i]);
-    if (argumenten.size() == 3 && argumenten[0] == "woorden"_L1)
-        return Maak(MaakWoorden, argumenten[1], argumenten[2]);
-    if (argumenten.size() == 3 && argumenten[0] == "lijst"_L1)
-        return Maak(MaakLijst, argumenten[1], argumenten[2]);
-    Fouten() << "it takes woorden|lijst BRON DOEL\n";
+    const struct
+    {
+        QLatin1StringView Wat;
+        QByteArray (*Maak)(const QByteArray &);
+    } soorten[] = {{"woorden"_L1, MaakWoorden},
+                   {"lijst"_L1, MaakLijst},
+                   {"tabel"_L1, MaakTabel},
+                   {"spreekwoorden"_L1, MaakSpreekwoorden}};
+    for (const auto &soort : soorten)
+        if (argumenten.size() == 3 && argumenten[0] == soort.Wat)
+            return Maak(soort.Maak, argumenten[1], argumenten[2]);
+    Fouten() << "it takes woorden|lijst|tabel|spreekwoorden BRON DOEL\n";
     return 2;
 }

@@ -33,4 +33,13 @@ void Probeer(const QByteArray &inhoud)
         EIS(bestand.size() > 2 && bestand.endsWith("\r\n") && !bestand.contains(','));
         EIS(MaakLijst(Files::NaarTekst(bestand).toUtf8()) == bestand);
     }
+    if (Lukt(MaakTabel, inhoud, bestand)) {
+        EIS(bestand.size() > 2 && bestand.endsWith("\r\n"));
+        EIS(MaakTabel(Files::NaarTekst(bestand).toUtf8()) == bestand);
+    }
+    if (Lukt(MaakSpreekwoorden, inhoud, bestand)) {
+        const QByteArray tabel = MaakTabel(inhoud);
+        EIS(bestand.size() == tabel.size() + 12 * tabel.count('\n'));
+        EIS(QByteArray(bestand).replace("Betekenis : ", "") == tabel.replace("Betekenis : ", ""));
+    }
 }

@@ -65,6 +65,10 @@ private slots:
         Geval("words", u"woorden"_s, woorden + "Aap\n",
               QByteArray(woorden).replace("\xC3\xA9", "e").replace("\n", "\r\n"));
         Geval("list", u"lijst"_s, QByteArray("rat\nmier\n"), QByteArray("MIER\r\nRAT\r\n"));
+        Geval("table", u"tabel"_s, QByteArray("rat -/- knaagt\ncaf\u00E9\n"),
+              QByteArray("rat -/- knaagt\r\ncaf\xE9\r\n"));
+        Geval("proverbs", u"spreekwoorden"_s, QByteArray("rat -/- knaagt\n"),
+              QByteArray("rat -/- Betekenis : knaagt\r\n"));
     }
     void theProgramMakesAFile()
     {
@@ -78,7 +82,7 @@ private slots:
         const Afloop afloop = Voer({wat, bank.Map() + u"/één bron.txt"_s, doel});
         QCOMPARE(afloop.Fouten, QByteArray());
         QCOMPARE(afloop.Code, 0);
-        QCOMPARE(afloop.Uit, doel.toUtf8() + ": " + QByteArray::number(inhoud.count('\n')) + " words\n");
+        QCOMPARE(afloop.Uit, doel.toUtf8() + ": " + QByteArray::number(inhoud.count('\n')) + " lines\n");
         QCOMPARE(bank.Inhoud(u"doel.txt"_s), inhoud);
     }
 
@@ -87,7 +91,8 @@ private slots:
         QTest::addColumn<QStringList>("argumenten"); // "@" is the folder of the test
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("fout");
-        const QString gebruik = u"it takes woorden|lijst BRON DOEL"_s, bron = u"@/bron.txt"_s, doel = u"@/doel.txt"_s;
+        const QString gebruik = u"it takes woorden|lijst|tabel|spreekwoorden BRON DOEL"_s, bron = u"@/bron.txt"_s,
+                      doel = u"@/doel.txt"_s;
         Geval("nothing", QStringList{}, 2, gebruik);
         Geval("too few", QStringList{u"lijst"_s, bron}, 2, gebruik);
         Geval("too many", QStringList{u"lijst"_s, bron, doel, doel}, 2, gebruik);
@@ -99,6 +104,10 @@ private slots:
         Geval("no UTF-8", QStringList{u"woorden"_s, u"@/latijn.txt"_s, doel}, 1, u"@/latijn.txt: not valid UTF-8"_s);
         Geval("not for a list", QStringList{u"lijst"_s, u"@/cijfers.txt"_s, doel}, 1,
               u"@/cijfers.txt: not a word of letters with single blanks or hyphens between them: 4é"_s);
+        Geval("not for a table", QStringList{u"tabel"_s, u"@/blanks.txt"_s, doel}, 1,
+              u"@/blanks.txt: not a text of the code page without blanks at its ends: rat "_s);
+        Geval("no proverbs", QStringList{u"spreekwoorden"_s, bron, doel}, 1,
+              bron + u": not a saying and its meaning with \" -/- \" between them: rat"_s);
         Geval("no folder for it", QStringList{u"lijst"_s, bron, u"@/weg/doel.txt"_s}, 1,
               u"@/weg/doel.txt can't be written"_s);
     }
@@ -111,11 +120,12 @@ private slots:
         bank.Schrijf(u"bron.txt"_s, "rat\naap\n");
         bank.Schrijf(u"latijn.txt"_s, "rat\ncaf\xE9\n");
         bank.Schrijf(u"cijfers.txt"_s, "rat\n4\xC3\xA9\n");
+        bank.Schrijf(u"blanks.txt"_s, "rat \n");
         const Afloop afloop = Voer(argumenten.replaceInStrings(u"@"_s, bank.Map()));
         QCOMPARE(QString::fromUtf8(afloop.Fouten), u"installatie: "_s + fout.replace(u'@', bank.Map()) + u'\n');
         QCOMPARE(afloop.Code, code);
         QCOMPARE(afloop.Uit, QByteArray());
-        QCOMPARE(bank.Bestanden({}), (QStringList{u"bron.txt"_s, u"cijfers.txt"_s, u"latijn.txt"_s}));
+        QCOMPARE(bank.Bestanden({}), (QStringList{u"blanks.txt"_s, u"bron.txt"_s, u"cijfers.txt"_s, u"latijn.txt"_s}));
     }
 
     void theWordDatabaseIsMadeOfItsSource()

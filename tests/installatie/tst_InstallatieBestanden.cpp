@@ -176,6 +176,72 @@ private slots:
         QCOMPARE(Weigering(MaakLijst, "\n\r\n\n"), "no word in it");
     }
 
+    void whatATableBecomes_data()
+    {
+        QTest::addColumn<QByteArray>("bron");
+        QTest::addColumn<QByteArray>("tabel");
+        Geval("lines as they stand there", QByteArray("rat - 2\nAap, \"1\"\n"),
+              QByteArray("rat - 2\r\nAap, \"1\"\r\n"));
+        Geval("source with CR LF, empty lines and a mark",
+              QByteArray("\xEF\xBB\xBF"
+                         "b\r\n\r\na"),
+              QByteArray("b\r\na\r\n"));
+        Geval("letters of the code page", QByteArray("\u00E9\u20AC\u2019\n"), QByteArray("\xE9\x80\x92\r\n"));
+        Geval("another case is another line", QByteArray("cv\nCV\n"), QByteArray("cv\r\nCV\r\n"));
+    }
+    void whatATableBecomes()
+    {
+        QFETCH(QByteArray, bron);
+        QTEST(MaakTabel(bron), "tabel");
+    }
+
+    void whatNoTableMayHold_data()
+    {
+        QTest::addColumn<QByteArray>("regel");
+        for (const char *regel : {" aap", "aap ", "\taap", "a\tb", "aap\u00A0", " ", "\u0141\u00F3d\u017A",
+                                  "cafe\u0301", "\U0001D41A", "a\u0081"})
+            Geval(QByteArray("\"") + regel + '"', QByteArray(regel));
+        Geval("zero byte", QByteArray("a\0b", 3));
+    }
+    void whatNoTableMayHold()
+    {
+        QFETCH(QByteArray, regel);
+        const QByteArray waarom = "not a text of the code page without blanks at its ends: ";
+        QCOMPARE(Weigering(MaakTabel, "mier\n" + regel + "\nrat\n"), waarom + regel.constData()); // up to a zero
+        QCOMPARE(Weigering(MaakSpreekwoorden, "a -/- b\n" + regel), waarom + regel.constData());
+    }
+
+    void aTableHasALineAndNoneTwice()
+    {
+        for (const auto maak : {MaakTabel, MaakSpreekwoorden}) {
+            QCOMPARE(Weigering(maak, "\n\r\n"), "no line in it");
+            QCOMPARE(Weigering(maak, "a -/- b\nc -/- d\na -/- b\n"), "there twice: a -/- b");
+            QCOMPARE(Weigering(maak, "caf\xE9\n"), "not valid UTF-8");
+        }
+    }
+
+    void whatProverbsBecome()
+    {
+        QCOMPARE(MaakSpreekwoorden("b -/- eerst, dan\n\na -/- \u00E9\u00E9n\n"),
+                 QByteArray("b -/- Betekenis : eerst, dan\r\na -/- Betekenis : \xE9\xE9n\r\n"));
+    }
+
+    void whatNoProverbsMayHold_data()
+    {
+        QTest::addColumn<QByteArray>("regel");
+        QTest::addColumn<QByteArray>("waarom");
+        const QByteArray vorm = "not a saying and its meaning with \" -/- \" between them: ";
+        for (const char *regel : {"aap", "a-/-b", "a -/-b", "a -/-", "-/- b", "a -/- b -/- c"})
+            Geval(regel, QByteArray(regel), vorm + regel);
+        Geval("another meaning of the same", QByteArray("mus -/- anders"), QByteArray("there twice: mus -/- anders"));
+    }
+    void whatNoProverbsMayHold()
+    {
+        QFETCH(QByteArray, regel);
+        QFETCH(QByteArray, waarom);
+        QCOMPARE(Weigering(MaakSpreekwoorden, "mus -/- vogel\n" + regel + "\nrat -/- dier\n"), waarom);
+    }
+
     void aRefusalIsShort()
     {
         const QByteArray lang(100000, 'a');
