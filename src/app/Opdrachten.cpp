@@ -27,9 +27,11 @@
 #include "platform/Screen.h"
 #include "print/Afdrukken.h"
 #include "wordlib/AddForm.h"
+#include "wordlib/ChemischForm.h"
 #include "wordlib/FormMain.h"
 #include "wordlib/KladblokForm.h"
 #include "wordlib/MissingForm.h"
+#include "wordlib/SpreekwoordForm.h"
 #include "wordlib/ZoekForm.h"
 
 #include <QClipboard>
@@ -66,6 +68,8 @@ void VerbindOpdrachten()
     Koppel(main.BiebInternZoeken, BiebInternZoeken_Click);
     Koppel(main.BiebWoordzoeker, Toon<FormMain>);
     Koppel(main.BiebOntbrekendeLetters, Toon<MissingForm>);
+    Koppel(main.BiebSpreekwoorden, Toon<SpreekwoordForm>);
+    Koppel(main.BiebChemisch, Toon<ChemischForm>);
     Koppel(main.ToolsAdd, Toon<AddForm>);
     Koppel(main.ToolsConfig, Toon<ConfigForm>);
     Koppel(main.ToolsAutoWoordzoeker, Toon<AutoForm>);

@@ -7,9 +7,14 @@
 
 using namespace Qt::StringLiterals;
 
+QString BibliotheekPad(const QString &naam)
+{
+    return Files::Pad(AppPath, {u"Data"_s, naam + u".lib"_s});
+}
+
 QString DatabasePad()
 {
-    return Files::Pad(AppPath, {u"Data"_s, u"nederlands.lib"_s});
+    return BibliotheekPad(u"nederlands"_s);
 }
 
 static QString WoordlijstMap()

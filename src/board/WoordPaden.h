@@ -4,6 +4,8 @@
 
 // Where the words are.
 
+/// A library file of the installation. @param naam without ".lib"
+QString BibliotheekPad(const QString &naam);
 /// The word database.
 QString DatabasePad();
 /// The word list of a subject. Raises Fout::OngeldigeNaam for a subject that can't be a file's name.

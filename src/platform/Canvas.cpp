@@ -18,6 +18,7 @@ QFont Lettertype(const QString &naam, double punten, bool vet, int perPixel)
         {"Arial"_L1, "Liberation Sans"_L1},
         {"Arial Narrow"_L1, "Liberation Sans Narrow"_L1},
         {"Courier New"_L1, "Liberation Mono"_L1},
+        {"Fixedsys"_L1, "Liberation Mono"_L1},
     };
     QFont font;
     font.setFamilies({naam});

@@ -17,7 +17,8 @@ class QRectF;
 class QSize;
 
 /// The font of a name and a size in points: asked for in pixels (on the screen points x 96 / 72, rounded), smoothed in
-/// grey, not hinted. "Arial" is Liberation Sans, "Arial Narrow" Liberation Sans Narrow, "Courier New" Liberation Mono.
+/// grey, not hinted. "Arial" is Liberation Sans, "Arial Narrow" Liberation Sans Narrow, "Courier New" and "Fixedsys"
+/// Liberation Mono.
 /// @param perPixel how many twips a pixel is
 QFont Lettertype(const QString &naam, double punten, bool vet, int perPixel = Twips::PerPixel);
 

@@ -50,6 +50,7 @@ private slots:
         Geval("Arial", u"Arial"_s, u"Liberation Sans"_s);
         Geval("Arial Narrow", u"Arial Narrow"_s, u"Liberation Sans Narrow"_s);
         Geval("Courier New", u"Courier New"_s, u"Liberation Mono"_s);
+        Geval("Fixedsys", u"Fixedsys"_s, u"Liberation Mono"_s);
         Geval("its own name", u"Liberation Mono"_s, u"Liberation Mono"_s);
     }
     void theFontIsTheOneMeant()

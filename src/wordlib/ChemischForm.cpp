@@ -1,0 +1,48 @@
+#include "wordlib/ChemischForm.h"
+
+#include "board/WoordPaden.h"
+#include "platform/Berichten.h"
+#include "platform/Canvas.h"
+#include "platform/Files.h"
+#include "platform/Fout.h"
+#include "platform/Kleur.h"
+#include "platform/Screen.h"
+#include "wordlib/Naslagwerk.h"
+
+using namespace Qt::StringLiterals;
+
+ChemischForm::ChemischForm()
+    : Form(u"ChemischForm"_s, u"Scheikundige symbolen (0)"_s, 8535, 4965, RGB(230, 230, 190))
+{
+    Picture = MaakBeeld("Picture", QString(), u"scheikunde"_s);
+    Label2 = MaakLabel("Label2", u"Naam                              Symbool           Atoomnummer"_s);
+    Combo1 = Maak<QComboBox>("Combo1", u"Scheikundige elementen"_s);
+    Label1 = MaakLabel("Label1", u"Scheikundige elementen en hun symbolen"_s);
+
+    Zet(Picture, 0, 0, 8415, 4485);
+    Zet(Label2, 1230, 180);
+    Zet(Combo1, 1215, 540, 4200, 315);
+    Zet(Label1, 1215, 990);
+
+    Kleur(Combo1, RGB(0, 0, 30), RGB(200, 200, 200));
+    Combo1->setFont(Lettertype(u"Fixedsys"_s, 10, false));
+    VulElementen();
+}
+
+void ChemischForm::VulElementen()
+{
+    QStringList regels;
+    bool heel = false;
+    {
+        const Screen::Bezig bezig;
+        heel = negeer([&] { LeesElementen(Files::Lees(BibliotheekPad(u"Elementen"_s)), regels); });
+        Combo1->clear();
+        Combo1->addItems(regels);
+        Combo1->setCurrentIndex(-1);
+    }
+    if (!heel) {
+        MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+        return;
+    }
+    setWindowTitle(u"Scheikundige symbolen (%1)"_s.arg(Combo1->count()));
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/Form.h"
+#include "platform/ImageBox.h"
+
+#include <QComboBox>
+
+/// Shows the chemical elements with their symbols and atomic numbers.
+class ChemischForm : public Form
+{
+public:
+    ChemischForm();
+
+    /// Fills the box. A failure ends that with a message: what was read before it stays.
+    void VulElementen();
+
+    ImageBox *Picture; ///< behind all the others
+    Label *Label1, *Label2;
+    QComboBox *Combo1;
+};
