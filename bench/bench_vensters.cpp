@@ -9,6 +9,8 @@
 #include "platform/Klok.h"
 #include "platform/Uiterlijk.h"
 #include "wordlib/KladblokForm.h"
+#include "wordlib/ChemischForm.h"
+#include "wordlib/SpreekwoordForm.h"
 #include "wordlib/ZoekForm.h"
 
 #include <QApplication>
@@ -35,6 +37,28 @@ static void OpenSearchWindow(benchmark::State &state)
     }
 }
 BENCHMARK(OpenSearchWindow)->Unit(benchmark::kMillisecond);
+
+static void OpenProverbs(benchmark::State &state)
+{
+    for (auto _ : state) {
+        SpreekwoordForm form;
+        Toon(form);
+        if (form.List1->ListCount() < 400)
+            return state.SkipWithError("too few proverbs were read");
+    }
+}
+BENCHMARK(OpenProverbs)->Unit(benchmark::kMillisecond);
+
+static void OpenElements(benchmark::State &state)
+{
+    for (auto _ : state) {
+        ChemischForm form;
+        Toon(form);
+        if (form.Combo1->count() != 118)
+            return state.SkipWithError("not all elements were read");
+    }
+}
+BENCHMARK(OpenElements)->Unit(benchmark::kMillisecond);
 
 /// @param wijze index of the option
 static void Search(benchmark::State &state, int wijze)

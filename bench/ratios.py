@@ -107,6 +107,8 @@ for what, ours, peer, most in [
     report(what, words[ours], words[peer], "ms", most)
 for what, ours, most in [
         ("the search window, from the order until it is shown", "OpenSearchWindow", 150),
+        ("the proverbs, from the order until they are shown", "OpenProverbs", 100),
+        ("the elements, from the order until they are shown", "OpenElements", 100),
         ("all words into its list, until shown", "AllWords", 300),
         ("words with three vowels in a row, until shown", "Vowels", 1000),
         ("a notepad of 10,000 lines saved", "SaveNotepad", 50),

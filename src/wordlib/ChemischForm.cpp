@@ -11,8 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-ChemischForm::ChemischForm()
-    : Form(u"ChemischForm"_s, u"Scheikundige symbolen (0)"_s, 8535, 4965, RGB(230, 230, 190))
+ChemischForm::ChemischForm() : Form(u"ChemischForm"_s, u"Scheikundige symbolen (0)"_s, 8535, 4965, RGB(230, 230, 190))
 {
     Picture = MaakBeeld("Picture", QString(), u"scheikunde"_s);
     Label2 = MaakLabel("Label2", u"Naam                              Symbool           Atoomnummer"_s);
@@ -26,6 +25,8 @@ ChemischForm::ChemischForm()
 
     Kleur(Combo1, RGB(0, 0, 30), RGB(200, 200, 200));
     Combo1->setFont(Lettertype(u"Fixedsys"_s, 10, false));
+    Combo1->setEditable(true); // what is typed finds an element
+    Combo1->setInsertPolicy(QComboBox::NoInsert);
     VulElementen();
 }
 

@@ -25,7 +25,7 @@ public:
     /// Fills the list with another table, in the same way. @param Index 2..6
     void LaadBron(int Index);
 
-    int HuidigeBron = 1;       ///< which table is shown, 1..6
+    int HuidigeBron = 1;      ///< which table is shown, 1..6
     QString Titel, Betekenis; ///< of what was double-clicked last
 
     ListBox *List1;

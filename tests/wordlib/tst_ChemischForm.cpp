@@ -29,14 +29,16 @@ private slots:
     {
         const Elementenbord bord;
         ChemischForm form;
-        QCOMPARE(Misplaatst(form, {{"Picture"}, {"Label2", 1230, 180}, {"Combo1", 1215, 540, 4200}, {"Label1", 1215, 990}}),
-                 QString());
+        QCOMPARE(
+            Misplaatst(form, {{"Picture"}, {"Label2", 1230, 180}, {"Combo1", 1215, 540, 4200}, {"Label1", 1215, 990}}),
+            QString());
         QCOMPARE(form.size(), QSize((8535 - 90) / 15, (4965 - 450) / 15));
         QVERIFY(!form.findChild<QMenuBar *>());
         QCOMPARE(form.Label1->Caption(), u"Scheikundige elementen en hun symbolen"_s);
         QCOMPARE(form.Label2->Caption(), u"Naam                              Symbool           Atoomnummer"_s);
         QCOMPARE(form.Combo1->palette().color(QPalette::Base), QColor(0, 0, 30));
         QCOMPARE(form.Combo1->palette().color(QPalette::Text), QColor(200, 200, 200));
+        QCOMPARE(Getoond(*form.Combo1).pixel(20, 10), qRgb(0, 0, 30));
         QCOMPARE(QFontInfo(form.Combo1->font()).family(), u"Liberation Mono"_s);
         QCOMPARE(TabVolgorde(form), u"Combo1"_s);
     }
@@ -74,6 +76,7 @@ private slots:
         QCOMPARE(Items(*form.Combo1), (QStringList{Goud, Tin}));
         QCOMPARE(form.windowTitle(), u"Scheikundige symbolen (2)"_s);
         QCOMPARE(form.Combo1->currentIndex(), -1);
+        QCOMPARE(form.Combo1->currentText(), QString());
         QVERIFY(!Zandloper());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
@@ -103,8 +106,17 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(&form));
         QTest::keyClick(form.Combo1, Qt::Key_Down);
         QCOMPARE(form.Combo1->currentText(), Goud);
-        QTest::keyClicks(form.Combo1, u"ti"_s);
+        QTest::keyClick(form.Combo1, Qt::Key_Down);
         QCOMPARE(form.Combo1->currentText(), Tin);
+        QTest::keyClick(form.Combo1, Qt::Key_A, Qt::ControlModifier);
+        QTest::keyClicks(form.Combo1, u"GO"_s); // the rest is filled in
+        QTest::keyClick(form.Combo1, Qt::Key_Return);
+        QCOMPARE(form.Combo1->currentText(), Goud);
+        QCOMPARE(form.Combo1->currentIndex(), 0);
+        QVERIFY(form.isVisible());
+        QTest::keyClicks(form.Combo1, u"x"_s);
+        QTest::keyClick(form.Combo1, Qt::Key_Return);
+        QCOMPARE(Items(*form.Combo1), (QStringList{Goud, Tin})); // what is typed is never kept
         QTest::keyClick(&form, Qt::Key_Escape);
         QVERIFY(form.Unloaded());
     }
@@ -113,11 +125,16 @@ private slots:
     {
         QTest::addColumn<QByteArray>("inhoud");
         QTest::addColumn<QStringList>("elementen");
-        Geval("name of 17", QByteArray("goud-/-Au-/-79\r\nzeventienlettersx-/-S-/-1\r\ntin-/-Sn-/-50"), QStringList{Goud});
+        Geval("name of 17", QByteArray("goud-/-Au-/-79\r\nzeventienlettersx-/-S-/-1\r\ntin-/-Sn-/-50"),
+              QStringList{Goud});
         Geval("symbol of 10", QByteArray("goud-/-Au-/-79\r\ntin-/-tienletter-/-1\r\n"), QStringList{Goud});
         Geval("no separator", QByteArray("goud-/-Au-/-79\r\ntin Sn 50\r\n"), QStringList{Goud});
         Geval("one separator", QByteArray("goud-/-Au\r\n"), QStringList());
-        Geval("binary", QByteArray("\x7F" "ELF\0\0\r\n\xFF\x80", 10), QStringList());
+        Geval("binary",
+              QByteArray("\x7F"
+                         "ELF\0\0\r\n\xFF\x80",
+                         10),
+              QStringList());
     }
     void aLibraryThatFails()
     {

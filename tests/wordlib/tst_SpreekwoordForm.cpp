@@ -66,7 +66,8 @@ private slots:
     {
         const Naslagbord bord;
         SpreekwoordForm form;
-        QCOMPARE(Misplaatst(form, {{"List1", 180, 225, 8520, 2250}, {"List2"}, {"Label1", 210, 2460}, {"OkKnop", 7770, 2610}}),
+        QCOMPARE(Misplaatst(
+                     form, {{"List1", 180, 225, 8520, 2250}, {"List2"}, {"Label1", 210, 2460}, {"OkKnop", 7770, 2610}}),
                  QString());
         QCOMPARE(form.List1->parentWidget()->size(), QSize((9000 - 90) / 15, (3900 - 450 - 300) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 230, 190));
@@ -96,10 +97,11 @@ private slots:
         QCOMPARE(balk[0]->menu()->objectName(), u"FileDatabase"_s);
         QStringList items;
         for (const QAction *item : balk[0]->menu()->actions())
-            items += item->objectName() + u' ' + item->text() + (item->isCheckable() && item->isEnabled() ? QString() : u"!"_s);
-        QCOMPARE(items, (QStringList{u"FileCripto(1) Spreekwoorden en gezegden"_s, u"FileCripto(2) Landen met hoofdsteden"_s,
-                                     u"FileCripto(3) Afkortingen"_s, u"FileCripto(4) IOC Landcodes"_s,
-                                     u"FileCripto(5) Gemeenten in Nedlerland"_s,
+            items += item->objectName() + u' ' + item->text() +
+                     (item->isCheckable() && item->isEnabled() ? QString() : u"!"_s);
+        QCOMPARE(items, (QStringList{u"FileCripto(1) Spreekwoorden en gezegden"_s,
+                                     u"FileCripto(2) Landen met hoofdsteden"_s, u"FileCripto(3) Afkortingen"_s,
+                                     u"FileCripto(4) IOC Landcodes"_s, u"FileCripto(5) Gemeenten in Nedlerland"_s,
                                      u"FileCripto(6) Internet afkortingen landen"_s}));
         QCOMPARE(Aangevinkt(form), u"1"_s);
     }
@@ -160,9 +162,10 @@ private slots:
         verloop.Volg(*form.List2);
         form.FileCripto[2]->trigger();
         form.FileCripto[1]->trigger();
-        QCOMPARE(verloop.Stappen, (QStringList{u"lijst tabel 2 regel 1 tabel 2 regel 2 | zandloper"_s,
-                                               u"lijst Eind goed Één | zandloper uitleg"_s,
-                                               u"lijst Betekenis : alles goed Betekenis : één is geen | zandloper uitleg"_s}));
+        QCOMPARE(verloop.Stappen,
+                 (QStringList{u"lijst tabel 2 regel 1 tabel 2 regel 2 | zandloper"_s,
+                              u"lijst Eind goed Één | zandloper uitleg"_s,
+                              u"lijst Betekenis : alles goed Betekenis : één is geen | zandloper uitleg"_s}));
         QVERIFY(!Zandloper());
     }
 
