@@ -25,6 +25,7 @@ ChemischForm::ChemischForm() : Form(u"ChemischForm"_s, u"Scheikundige symbolen (
 
     Kleur(Combo1, RGB(0, 0, 30), RGB(200, 200, 200));
     Combo1->setFont(Lettertype(u"Fixedsys"_s, 10, false));
+    Combo1->setModel(&elementen_);
     Combo1->setEditable(true); // what is typed finds an element
     Combo1->setInsertPolicy(QComboBox::NoInsert);
     VulElementen();
@@ -37,8 +38,7 @@ void ChemischForm::VulElementen()
     {
         const Screen::Bezig bezig;
         heel = negeer([&] { LeesElementen(Files::Lees(BibliotheekPad(u"Elementen"_s)), regels); });
-        Combo1->clear();
-        Combo1->addItems(regels);
+        elementen_.setStringList(regels);
         Combo1->setCurrentIndex(-1);
     }
     if (!heel) {

@@ -4,6 +4,7 @@
 #include "platform/ImageBox.h"
 
 #include <QComboBox>
+#include <QStringListModel>
 
 /// Shows the chemical elements with their symbols and atomic numbers.
 class ChemischForm : public Form
@@ -17,4 +18,7 @@ public:
     ImageBox *Picture; ///< behind all the others
     Label *Label1, *Label2;
     QComboBox *Combo1;
+
+private:
+    QStringListModel elementen_;
 };

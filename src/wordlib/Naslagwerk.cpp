@@ -5,8 +5,6 @@
 #include "platform/Regels.h"
 #include "platform/Teksten.h"
 
-using namespace Qt::StringLiterals;
-
 template <class Doe> static void VoorElkeGevulde(QByteArrayView inhoud, Doe doe)
 {
     VoorElkeRegel(inhoud, [&](QByteArrayView bytes) {
@@ -17,9 +15,9 @@ template <class Doe> static void VoorElkeGevulde(QByteArrayView inhoud, Doe doe)
 }
 
 /// The fields of a line; there may be more of them. @param minstens how many there have to be
-static QStringList Velden(const QString &regel, QLatin1StringView scheiding, qsizetype minstens)
+static QList<QStringView> Velden(const QString &regel, QStringView scheiding, qsizetype minstens)
 {
-    QStringList velden = regel.split(scheiding);
+    QList<QStringView> velden = QStringView(regel).split(scheiding);
     if (velden.size() < minstens)
         throw Fout(Fout::IndexBuitenBereik);
     return velden;
@@ -28,11 +26,12 @@ static QStringList Velden(const QString &regel, QLatin1StringView scheiding, qsi
 void LeesSpreekwoorden(QByteArrayView inhoud, const QString &filter, QStringList &gezegden, QStringList &betekenissen)
 {
     VoorElkeGevulde(inhoud, [&](const QString &regel) {
-        const QStringList velden = Velden(regel, " -/- "_L1, 2);
-        if (!filter.isEmpty() && KleineLetters(velden[0].left(1)) != KleineLetters(filter))
+        const QList<QStringView> velden = Velden(regel, u" -/- ", 2);
+        const QString gezegde = velden[0].toString();
+        if (!filter.isEmpty() && KleineLetters(gezegde.left(1)) != KleineLetters(filter))
             return;
-        gezegden += velden[0];
-        betekenissen += velden[1];
+        gezegden += gezegde;
+        betekenissen += velden[1].toString();
     });
 }
 
@@ -41,17 +40,17 @@ void LeesBron(QByteArrayView inhoud, QStringList &regels)
     VoorElkeGevulde(inhoud, [&](const QString &regel) { regels += regel; });
 }
 
-static QString Kolom(const QString &veld, qsizetype breedte)
+static QString Kolom(QStringView veld, qsizetype breedte)
 {
     if (veld.size() > breedte)
         throw Fout(Fout::OngeldigArgument);
-    return veld.leftJustified(breedte);
+    return veld.toString().leftJustified(breedte);
 }
 
 void LeesElementen(QByteArrayView inhoud, QStringList &regels)
 {
     VoorElkeGevulde(inhoud, [&](const QString &regel) {
-        const QStringList velden = Velden(regel, "-/-"_L1, 3);
-        regels += Kolom(velden[0], 16) + Kolom(velden[1], 9) + velden[2];
+        const QList<QStringView> velden = Velden(regel, u"-/-", 3);
+        regels += Kolom(velden[0], 16) + Kolom(velden[1], 9) + velden[2].toString();
     });
 }
