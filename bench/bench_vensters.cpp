@@ -8,8 +8,8 @@
 #include "documents/ShowPuzzel.h"
 #include "platform/Klok.h"
 #include "platform/Uiterlijk.h"
-#include "wordlib/KladblokForm.h"
 #include "wordlib/ChemischForm.h"
+#include "wordlib/KladblokForm.h"
 #include "wordlib/SpreekwoordForm.h"
 #include "wordlib/ZoekForm.h"
 

@@ -24,13 +24,13 @@ struct Bron
 /// The tables, by their index; the first is that of the proverbs.
 const Bron &BronVan(size_t Index)
 {
-    static const std::array<Bron, 7> bronnen{{{},
-                                              {u"Spreekwoorden en gezegden"_s, u"Spreekwoorden"_s},
-                                              {u"Landen met hoofdsteden"_s, u"Hoofdsteden"_s},
-                                              {u"Afkortingen"_s, u"Afkortingen"_s},
-                                              {u"IOC Landcodes"_s, u"LandcodesIOC"_s},
-                                              {u"Gemeenten in Nedlerland"_s, u"Gemeenten"_s}, // spelled so
-                                              {u"Internet afkortingen landen"_s, u"Internet landen afkortingen"_s}}};
+    static const std::array bronnen{Bron{},
+                                    Bron{u"Spreekwoorden en gezegden"_s, u"Spreekwoorden"_s},
+                                    Bron{u"Landen met hoofdsteden"_s, u"Hoofdsteden"_s},
+                                    Bron{u"Afkortingen"_s, u"Afkortingen"_s},
+                                    Bron{u"IOC Landcodes"_s, u"LandcodesIOC"_s},
+                                    Bron{u"Gemeenten in Nedlerland"_s, u"Gemeenten"_s}, // spelled so
+                                    Bron{u"Internet afkortingen landen"_s, u"Internet landen afkortingen"_s}};
     return bronnen.at(Index);
 }
 

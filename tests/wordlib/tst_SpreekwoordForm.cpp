@@ -69,7 +69,9 @@ private slots:
         QCOMPARE(Misplaatst(
                      form, {{"List1", 180, 225, 8520, 2250}, {"List2"}, {"Label1", 210, 2460}, {"OkKnop", 7770, 2610}}),
                  QString());
-        QCOMPARE(form.List1->parentWidget()->size(), QSize((9000 - 90) / 15, (3900 - 450 - 300) / 15));
+        const QSize vlak((9000 - 90) / 15, (3900 - 450 - 300) / 15);
+        QCOMPARE(form.List1->parentWidget()->size(), vlak);
+        QCOMPARE(form.size(), vlak + QSize(0, form.findChild<QMenuBar *>()->sizeHint().height()));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 230, 190));
         QCOMPARE(form.List1->palette().color(QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.List1->palette().color(QPalette::Text), QColor(250, 250, 210));
