@@ -33,14 +33,14 @@ ChemischForm::ChemischForm() : Form(u"ChemischForm"_s, u"Scheikundige symbolen (
 
 void ChemischForm::VulElementen()
 {
-    QStringList regels;
-    bool heel = false;
-    {
-        const Screen::Bezig bezig;
-        heel = negeer([&] { LeesElementen(Files::Lees(BibliotheekPad(u"Elementen"_s)), regels); });
+    const bool heel = [this] {
+        const Screen::Bezig bezig; // over by the time of the message
+        QStringList regels;
+        const bool gelezen = negeer([&] { LeesElementen(Files::Lees(BibliotheekPad(u"Elementen"_s)), regels); });
         elementen_.setStringList(regels);
         Combo1->setCurrentIndex(-1);
-    }
+        return gelezen;
+    }();
     if (!heel) {
         MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
         return;

@@ -30,7 +30,8 @@ private slots:
         const Elementenbord bord;
         ChemischForm form;
         QCOMPARE(
-            Misplaatst(form, {{"Picture"}, {"Label2", 1230, 180}, {"Combo1", 1215, 540, 4200}, {"Label1", 1215, 990}}),
+            Misplaatst(form,
+                       {{"Picture"}, {"Label2", 1230, 180}, {"Combo1", 1215, 540, 4200, 315}, {"Label1", 1215, 990}}),
             QString());
         QCOMPARE(form.size(), QSize((8535 - 90) / 15, (4965 - 450) / 15));
         QVERIFY(!form.findChild<QMenuBar *>());
@@ -40,6 +41,7 @@ private slots:
         QCOMPARE(form.Combo1->palette().color(QPalette::Text), QColor(200, 200, 200));
         QCOMPARE(Getoond(*form.Combo1).pixel(20, 10), qRgb(0, 0, 30));
         QCOMPARE(QFontInfo(form.Combo1->font()).family(), u"Liberation Mono"_s);
+        QVERIFY(!form.Combo1->font().bold());
         QCOMPARE(TabVolgorde(form), u"Combo1"_s);
     }
 
