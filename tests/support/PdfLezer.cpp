@@ -25,7 +25,7 @@ static double Getal(const QString &attributen, const QString &naam)
 }
 
 /// Points to twips; on the page, when the margin is told.
-static QString Twips(double punten, int rand = 0)
+static QString InTwips(double punten, int rand = 0)
 {
     return QString::number(std::lround(punten * 20) - rand);
 }
@@ -33,7 +33,7 @@ static QString Twips(double punten, int rand = 0)
 static QString Plaats(const QRectF &vlak)
 {
     constexpr int Rand = 240;
-    return Twips(vlak.left(), Rand) + u',' + Twips(vlak.top(), Rand);
+    return InTwips(vlak.left(), Rand) + u',' + InTwips(vlak.top(), Rand);
 }
 
 static QString Leesbaar(QString xml)
@@ -153,7 +153,7 @@ QStringList PdfLezer::Beelden(int pagina) const
     QStringList beelden;
     for (const QRegularExpressionMatch &m : Alle(u"<image ([^>]*)>"_s, Beschrijving(pagina))) {
         const QRectF vlak = Vlak(m.captured(1));
-        beelden += Plaats(vlak) + u' ' + Twips(vlak.width()) + u'x' + Twips(vlak.height());
+        beelden += Plaats(vlak) + u' ' + InTwips(vlak.width()) + u'x' + InTwips(vlak.height());
     }
     return beelden;
 }
