@@ -48,7 +48,8 @@ def proverbs(journey, run, factor):
     window.find("list item", saying).click(2)
     meaning = meaning[12].upper() + meaning[13:]
     run.message("Betekenis", meaning, "OK", f"meaning-{factor}")
-    window = run.program.window(title)
+    rows = run.program.window(title).find("list", "Bibliotheek")
+    until("the focus in the list", lambda: any(one.has(pyatspi.STATE_FOCUSED) for one in [rows, *rows.all("list item")]))
     run.desktop.key("Down", "Return")
     meaning = wanted[3][1]
     run.message("Betekenis", meaning[12].upper() + meaning[13:], "OK")
