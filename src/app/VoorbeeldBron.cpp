@@ -98,7 +98,7 @@ void LegLetters(const Regel &regel, qsizetype veld, Cel cel, bool horizontaal, P
 Woord LeesWoord(const Regel &regel, Puzzel &puzzel)
 {
     regel.Eis(u"woord|PLAATS|H of V|OPLOSSING|OMSCHRIJVING"_s);
-    const Woord woord{LeesCel(regel, 1, puzzel), regel.Velden[2] == "H"_L1, regel.Velden[3], regel.Velden[4]};
+    Woord woord{LeesCel(regel, 1, puzzel), regel.Velden[2] == "H"_L1, regel.Velden[3], regel.Velden[4]};
     if (!woord.Horizontaal && regel.Velden[2] != "V"_L1)
         regel.WeigerVeld(2, u"is geen richting: H of V"_s);
     if (woord.Oplossing.trimmed().isEmpty() || woord.Omschrijving.isEmpty())
@@ -119,7 +119,7 @@ void EisKleineLetters(const Regel &regel, qsizetype veld)
 Woord LeesAntwoord(const Regel &regel, Puzzel &puzzel)
 {
     regel.Eis(u"antwoord|PLAATS|OPLOSSING|OMSCHRIJVING"_s);
-    const Woord woord{LeesCel(regel, 1, puzzel), true, regel.Velden[2], regel.Velden[3]};
+    Woord woord{LeesCel(regel, 1, puzzel), true, regel.Velden[2], regel.Velden[3]};
     const Cel letter{puzzel.WaarZoekwoord.Kolom, puzzel.WaarZoekwoord.Rij + static_cast<int>(puzzel.Woorden.size())};
     if (woord.Omschrijving.isEmpty())
         regel.Weiger(u"de omschrijving ontbreekt"_s);

@@ -109,9 +109,9 @@ QByteArray MaakLijst(const QByteArray &bron)
 /// The lines of a source that is a table.
 static QStringList Tabelregels(const QByteArray &bron)
 {
-    const QStringList regels = Regels(bron);
+    QStringList regels = Regels(bron);
     QSet<QString> gehad;
-    for (const QString &regel : regels) {
+    for (const QString &regel : std::as_const(regels)) {
         const bool isTekst = std::all_of(regel.begin(), regel.end(),
                                          [](QChar teken) { return teken.isPrint() && Files::InCodePage(teken); });
         if (!isTekst || regel != regel.trimmed())

@@ -46,7 +46,7 @@ QStringList Printers::Lijst()
 {
     const QString pdf = Printer(QString()).DeviceName();
     bekend.Wachtrijen = Wachtrijen::Huidig().Namen();
-    const QStringList namen = bekend.Wachtrijen + QStringList{pdf};
+    QStringList namen = bekend.Wachtrijen + QStringList{pdf};
     if (bekend.Huidig && !namen.contains(bekend.Huidig->DeviceName()))
         bekend.Huidig.reset();
     return namen;
