@@ -65,15 +65,18 @@ struct Woord
 
 } // namespace
 
-PdfLezer::PdfLezer(const QString &pad) : pad_(pad)
+PdfLezer::PdfLezer(const QString &pad) : pad_(pad) {}
+
+const QString &PdfLezer::Document() const
 {
+    if (!beschrijving_.isEmpty())
+        return beschrijving_;
     const QString naam = map_.filePath(u"p"_s);
     Roep(u"pdftohtml"_s, {u"-q"_s, u"-xml"_s, u"-zoom"_s, u"1"_s, u"-noroundcoord"_s}, {naam});
-    Roep(u"pdfimages"_s, {u"-png"_s}, {map_.filePath(u"beeld"_s)});
     QFile bestand(naam + u".xml"_s);
     if (!bestand.open(QIODevice::ReadOnly))
-        qFatal("%s: no description", qPrintable(pad));
-    beschrijving_ = QString::fromUtf8(bestand.readAll());
+        qFatal("%s: no description", qPrintable(pad_));
+    return beschrijving_ = QString::fromUtf8(bestand.readAll());
 }
 
 QString PdfLezer::Roep(const QString &programma, const QStringList &argumenten, const QStringList &achter) const
@@ -91,6 +94,17 @@ QString PdfLezer::Kenmerk(const QString &naam) const
     return Alle(u'^' + naam + u": *(.*)$"_s, Roep(u"pdfinfo"_s, {})).value(0).captured(1);
 }
 
+QStringList PdfLezer::Regels(int pagina) const
+{
+    const QString blad = QString::number(pagina);
+    const QString tekst = Roep(u"pdftotext"_s, {u"-layout"_s, u"-f"_s, blad, u"-l"_s, blad}, {u"-"_s});
+    QStringList regels;
+    for (const QString &regel : tekst.split(u'\n'))
+        if (!regel.trimmed().isEmpty())
+            regels += regel.trimmed().remove(u'\f');
+    return regels;
+}
+
 QStringList PdfLezer::Letters() const
 {
     QStringList letters;
@@ -104,7 +118,7 @@ QStringList PdfLezer::Letters() const
 
 QString PdfLezer::Beschrijving(int pagina) const
 {
-    return beschrijving_.section(u"<page "_s, pagina, pagina);
+    return Document().section(u"<page "_s, pagina, pagina);
 }
 
 static QRectF Vlak(const QString &attributen)
@@ -138,8 +152,8 @@ QStringList PdfLezer::Teksten(int pagina) const
             const QRectF ruimer = Vlak(m.captured(1)).adjusted(-0.1, -0.1, 0.1, 0.1);
             if (ruimer.contains(woord.Cel.topLeft()) && std::abs(ruimer.top() - woord.Cel.top()) < 1) {
                 const QString patroon = u"<fontspec id=\""_s + m.captured(2) + u"\" .*color=\"([^\"]*)\""_s;
-                letter = (m.captured(3).isEmpty() ? QString() : u"vet "_s) +
-                         Alle(patroon, beschrijving_).value(0).captured(1);
+                letter =
+                    (m.captured(3).isEmpty() ? QString() : u"vet "_s) + Alle(patroon, Document()).value(0).captured(1);
             }
         }
         const double punten = std::round(woord.Punten() * 100) / 100;
@@ -158,8 +172,19 @@ QStringList PdfLezer::Beelden(int pagina) const
     return beelden;
 }
 
+QStringList PdfLezer::BeeldMaten() const
+{
+    QStringList maten;
+    for (const QRegularExpressionMatch &m :
+         Alle(u"^ *(\\d+) +\\d+ image +(\\d+) +(\\d+) "_s, Roep(u"pdfimages"_s, {u"-list"_s})))
+        maten += m.captured(1) + u": "_s + m.captured(2) + u'x' + m.captured(3);
+    return maten;
+}
+
 QImage PdfLezer::Beeld(int nummer) const
 {
+    if (!QFile::exists(map_.filePath(u"beeld-000.png"_s)))
+        Roep(u"pdfimages"_s, {u"-png"_s}, {map_.filePath(u"beeld"_s)});
     return QImage(map_.filePath(u"beeld-%1.png"_s.arg(nummer, 3, 10, QChar(u'0'))));
 }
 
