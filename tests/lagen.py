@@ -1,6 +1,7 @@
 """Fails when a folder of src includes one that it may not.
 
-The arrows: platform <- board <- { editors, documents, print, generators, wordlib } <- app, and platform <- installatie.
+The arrows: platform <- board <- { editors, documents, print, generators, wordlib } <- app, and platform <- installatie;
+handleiding takes pictures of all windows, and nothing includes it.
 """
 import pathlib
 import re
@@ -9,7 +10,8 @@ import tempfile
 
 MIDDLE = ["editors", "documents", "print", "generators", "wordlib"]
 ALLOWED = {"platform": {"platform"}, "board": {"platform", "board"}, "app": {"platform", "board", "app", *MIDDLE},
-           "installatie": {"platform", "installatie"}}
+           "installatie": {"platform", "installatie"},
+           "handleiding": {"platform", "board", "app", "handleiding", *MIDDLE}}
 ALLOWED.update({name: {"platform", "board", name} for name in MIDDLE})
 
 
