@@ -24,12 +24,20 @@
 #include "wordlib/ZoekForm.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QMenuBar>
+#include <QProcess>
 #include <QRegularExpression>
 
 #include <map>
 
 using namespace Qt::StringLiterals;
+
+static QByteArray LeesBytes(const QString &pad)
+{
+    QFile bestand(pad);
+    return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
+}
 
 /// A manual that the build made, beside the texts that it was made of.
 struct Handleiding
@@ -37,11 +45,8 @@ struct Handleiding
     explicit Handleiding(const QString &naam) : Pdf(QStringLiteral(GEMAAKT "/") + naam + u".pdf"_s)
     {
         const QDir map(QStringLiteral(TEKSTEN "/") + naam);
-        for (const QString &bestand : map.entryList({u"*.md"_s}, QDir::Files, QDir::Name)) {
-            QFile tekst(map.filePath(bestand));
-            if (tekst.open(QIODevice::ReadOnly))
-                Markdown += QString::fromUtf8(tekst.readAll()) + u'\n';
-        }
+        for (const QString &bestand : map.entryList({u"*.md"_s}, QDir::Files, QDir::Name))
+            Markdown += QString::fromUtf8(LeesBytes(map.filePath(bestand))) + u'\n';
         for (int blad = 1; blad <= Pdf.Paginas(); ++blad)
             Bladen += Pdf.Regels(blad);
     }
@@ -84,6 +89,37 @@ struct Handleiding
     QString Markdown;
     QList<QStringList> Bladen; ///< the lines of each page
 };
+
+/// How a run of a program ended, and what it said.
+struct Verloop
+{
+    Verloop(const QString &programma, const QStringList &argumenten)
+    {
+        QProcess proces;
+        proces.setProcessChannelMode(QProcess::MergedChannels);
+        proces.start(programma, argumenten);
+        if (proces.waitForFinished(60000) && proces.exitStatus() == QProcess::NormalExit)
+            Code = proces.exitCode();
+        Tekst = QString::fromUtf8(proces.readAll());
+    }
+    int Code = -1;
+    QString Tekst;
+};
+
+/// The files below a folder with their sizes and their times.
+static QStringList Bestanden(const QString &map)
+{
+    QStringList bestanden;
+    QDirIterator lus(map, QDir::Files, QDirIterator::Subdirectories);
+    while (lus.hasNext()) {
+        lus.next();
+        const QFileInfo bestand = lus.fileInfo();
+        bestanden +=
+            u"%1 %2 %3"_s.arg(bestand.filePath()).arg(bestand.size()).arg(bestand.lastModified().toMSecsSinceEpoch());
+    }
+    bestanden.sort();
+    return bestanden;
+}
 
 /// A caption as it is looked for: without what is different each time, as the name of a cell or a size in brackets.
 static QString Vast(QString opschrift)
@@ -189,15 +225,62 @@ private slots:
         QStringList getoond, genomen;
         for (const QString &naam : {u"help"_s, u"Woordlijst Importeren"_s})
             getoond += Handleiding::Van(naam).InTekst(u"!\\[.*\\]\\((.*)\\.png\\)"_s);
-        QFile lijst(QStringLiteral(BEELDEN "/beelden.txt"));
-        QVERIFY(lijst.open(QIODevice::ReadOnly));
-        for (const QByteArray &regel : lijst.readAll().split('\n'))
+        for (const QByteArray &regel : LeesBytes(QStringLiteral(BEELDEN "/beelden.txt")).split('\n'))
             if (!regel.isEmpty())
                 genomen += QString::fromUtf8(regel.split(' ')[0]);
         getoond.removeDuplicates();
         getoond.sort();
         genomen.sort();
         QCOMPARE(genomen, getoond);
+    }
+
+    // Chance, time and the machine have no part in them: what is taken anew is what the build took.
+    void picturesAreTheSameEachTime()
+    {
+        const QTemporaryDir map;
+        const QString lijst = map.filePath(u"beelden.txt"_s);
+        const QStringList ervoor = Bestanden(QStringLiteral(PROGRAMMA));
+        const Verloop eerste(QStringLiteral(VENSTERBEELDEN), {QStringLiteral(PROGRAMMA), map.path()});
+        QVERIFY2(eerste.Code == 0, qPrintable(eerste.Tekst));
+        QCOMPARE(Bestanden(QStringLiteral(PROGRAMMA)), ervoor);
+        QVERIFY(!LeesBytes(lijst).isEmpty());
+        QCOMPARE(LeesBytes(lijst), LeesBytes(QStringLiteral(BEELDEN "/beelden.txt")));
+        QCOMPARE(QDir(map.path()).entryList({u"*.png"_s}).size(), LeesBytes(lijst).count('\n'));
+
+        QFile bestand(lijst);
+        QVERIFY(bestand.open(QIODevice::ReadWrite));
+        const QDateTime toen(QDate(2020, 1, 1), QTime(12, 0));
+        QVERIFY(bestand.setFileTime(toen, QFileDevice::FileModificationTime));
+        bestand.close();
+        QCOMPARE(Verloop(QStringLiteral(VENSTERBEELDEN), {QStringLiteral(PROGRAMMA), map.path()}).Code, 0);
+        QCOMPARE(QFileInfo(lijst).lastModified(), toen); // nothing that is made of it is made anew
+        QVERIFY(bestand.open(QIODevice::WriteOnly));
+        bestand.close();
+        QCOMPARE(Verloop(QStringLiteral(VENSTERBEELDEN), {QStringLiteral(PROGRAMMA), map.path()}).Code, 0);
+        QCOMPARE(LeesBytes(lijst), LeesBytes(QStringLiteral(BEELDEN "/beelden.txt")));
+    }
+
+    void whatGoesWrongInTheBuildIsTold()
+    {
+        const QTemporaryDir map;
+        const QString vensterbeelden = QStringLiteral(VENSTERBEELDEN), handleiding = QStringLiteral(HANDLEIDING);
+        const Verloop geenMap(vensterbeelden, {});
+        QCOMPARE(geenMap.Code, 1);
+        QVERIFY2(geenMap.Tekst.contains("vensterbeelden APPMAP BEELDMAP"_L1), qPrintable(geenMap.Tekst));
+        const Verloop zonderDatabase(vensterbeelden, {map.path(), map.path()});
+        QCOMPARE(zonderDatabase.Code, 1);
+        QVERIFY2(zonderDatabase.Tekst.contains("Kan database niet vinden"_L1), qPrintable(zonderDatabase.Tekst));
+        QVERIFY(!QFile::exists(map.filePath(u"beelden.txt"_s)));
+        const Verloop geenBron(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s)});
+        QCOMPARE(geenBron.Code, 1);
+        QVERIFY2(geenBron.Tekst.contains("handleiding TITEL BEELDMAP"_L1), qPrintable(geenBron.Tekst));
+        QFile bron(map.filePath(u"bron.md"_s));
+        QVERIFY(bron.open(QIODevice::WriteOnly) && bron.write("# Een\n\n![Weg](weg.png)\n") > 0);
+        bron.close();
+        const Verloop geenBeeld(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s), bron.fileName()});
+        QCOMPARE(geenBeeld.Code, 1);
+        QVERIFY2(geenBeeld.Tekst.contains("weg.png"_L1), qPrintable(geenBeeld.Tekst));
+        QVERIFY(!QFile::exists(map.filePath(u"x.pdf"_s)));
     }
 
     void everyWindowAndItsMenusAreTold()
