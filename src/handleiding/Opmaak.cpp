@@ -22,6 +22,7 @@ constexpr double PerInch = 96;
 constexpr double Verkleining = 0.75;  ///< of a picture of the screen on paper, when there is room for it
 constexpr double HoogsteBeeld = 0.55; ///< of a page
 constexpr double CelRand = 3;         ///< round what stands in a cell of a table
+constexpr int HeleTabel = 8;          ///< rows of the longest table that is on one page, its head included
 constexpr double LijnDikte = 1;       ///< under a row of a table
 const QColor Donker(20, 40, 90), Lijn(170, 170, 170), KopRij(226, 232, 242);
 
@@ -31,7 +32,7 @@ struct KopStijl
 };
 constexpr std::array<KopStijl, 3> KopStijlen{{{20, 0, 12}, {13.5, 16, 6}, {11, 12, 4}}};
 
-/// The name of the picture that a paragraph consists of; empty for a paragraph of text.
+/// The picture that a paragraph consists of; one without a name for a paragraph of text.
 QTextImageFormat BeeldIn(const QTextBlock &blok)
 {
     for (auto i = blok.begin(); !i.atEnd(); ++i)
@@ -260,7 +261,8 @@ void Opmaak::VoegTabelToe(const QTextTable &tabel)
             const QTextBlock blok = tabel.cellAt(rij, kolom).firstCursorPosition().block();
             plaats |= document_.documentLayout()->blockBoundingRect(blok);
         }
-        const bool bijVolgend = rij < 2 || rij == rijen - 2; // no row is alone with its head, nor on a page
+        // A short table is not divided; of a longer one no row is alone with its head, nor on a page.
+        const bool bijVolgend = rijen <= HeleTabel || rij < 2 || rij == rijen - 2;
         stukken_ +=
             {plaats.top() - rand, plaats.bottom() + rand + LijnDikte * schaal_, false, bijVolgend && rij + 1 < rijen};
     }

@@ -23,7 +23,7 @@ struct Kop
 
 /// A text in Markdown as it is laid out on paper: chapters (headings of level 1) begin a page, a heading stays with
 /// what follows it, so does a paragraph that ends in a colon; a picture is a paragraph of its own, with the text that
-/// is given with its name under it. Of tables the first row is a head.
+/// is given with its name under it. Of tables the first row is a head; a short one is on one page.
 class Opmaak
 {
 public:

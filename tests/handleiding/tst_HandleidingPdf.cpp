@@ -152,7 +152,9 @@ private slots:
         Geval("a list of one", u"- a\n\nb\n"_s, u"--"_s);
         Geval("the first two and the last two of a list", u"1. a\n2. b\n3. c\n4. d\n5. e\n\nf\n"_s, u"v--v--"_s);
         Geval("lines to be typed", u"    a\n    b\n    c\n\nd\n"_s, u"vv--"_s);
-        Geval("a table", u"| a |\n|---|\n| b |\n| c |\n| d |\n| e |\n| f |\n"_s, u"vv--v-"_s);
+        const QString tabel = u"| a |\n|---|\n"_s + u"| b |\n"_s.repeated(7);
+        Geval("a table that is not divided", tabel + u"\nc\n"_s, u"vvvvvvv--"_s);
+        Geval("a longer table", tabel + u"| b |\n\nc\n"_s, u"vv-----v--"_s);
         Geval("a table of one row", u"| a |\n|---|\n| b |\n\nc\n"_s, u"v--"_s);
         Geval("a picture and its text", u"een\n\n![twee](40x30.png)\n\ndrie\n"_s, u"-v--"_s);
     }
