@@ -64,7 +64,6 @@ QFont Letter(double punten, bool vet)
     QFont letter(u"Liberation Sans"_s);
     letter.setPointSizeF(punten);
     letter.setBold(vet);
-    letter.setHintingPreference(QFont::PreferNoHinting);
     return letter;
 }
 
@@ -83,7 +82,6 @@ void Boek::Teken()
     painter_.setRenderHint(QPainter::LosslessImageRendering); // a JPEG of letters has smudges
     TekenInhoud();
     TekenTekst();
-    painter_.end();
 }
 
 /// The page that a heading stands on, behind those of the list of headings.
@@ -124,7 +122,7 @@ void Boek::TekenRegel(const Kop &kop, double boven)
     const double eind = (Breedte - Kant) * Millimeter - maten.horizontalAdvance(nummer) - stip;
     Druk(boven, links, kop.Tekst, letter);
     for (double x = std::ceil(begin / stip) * stip; x < eind; x += stip) // those of all lines are in columns
-        Druk(boven, x / Millimeter, u"."_s, Letter(9.5, false));
+        Druk(boven, x / Millimeter, u"."_s, letter);
     Druk(boven, Kant, nummer, letter, Qt::AlignRight);
 }
 

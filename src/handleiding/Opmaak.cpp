@@ -82,7 +82,6 @@ QFont TekstLetter(const QString &familie, double punten)
 {
     QFont letter(familie);
     letter.setPointSizeF(punten);
-    letter.setHintingPreference(QFont::PreferNoHinting); // letters stand where the paper has them, not the screen
     return letter;
 }
 

@@ -93,6 +93,7 @@ private slots:
     {
         const Gelezen pdf(u"# Een\n\ntekst\n"_s, u"Mijn titel"_s);
         QCOMPARE(pdf->Kenmerk(u"Title"_s), u"Mijn titel"_s);
+        QCOMPARE(pdf->Kenmerk(u"Creator"_s), u"Rasteratelier"_s);
         QVERIFY(pdf->Kenmerk(u"Page size"_s).endsWith(u"(A4)"_s));
         QCOMPARE(pdf->Paginas(), 2);
         QCOMPARE(pdf.Regels(1)[0], u"Mijn titel"_s);
@@ -115,6 +116,22 @@ private slots:
         QCOMPARE(pdf.Bladen(u"Deel"_s), u"2 3"_s);
         QCOMPARE(pdf.Bladen(u"Klein"_s), u"3"_s);
         QCOMPARE(pdf.Bladen(u"Twee"_s), u"4"_s);
+    }
+
+    void theListOfHeadingsStandsInColumns()
+    {
+        const Gelezen pdf(u"# Een\n\ntekst\n\n## Deel\n\nmeer\n"_s);
+        QStringList teksten, stippen;
+        for (const QString &tekst : pdf->Teksten(1))
+            if (tekst.endsWith(u" ."_s))
+                stippen += tekst.section(u' ', 0, 1) + u" %1 stippen"_s.arg(tekst.section(u'#', 1).count(u'.'));
+            else
+                teksten += tekst;
+        QCOMPARE(teksten.join(u'\n'), u"1007,894 24 vet #000000 Proef\n"
+                                      "1007,2028 9.48 vet #000000 Een\n10313,2028 9.48 vet #000000 2\n"
+                                      "1347,2300 9.48 #000000 Deel\n10313,2300 9.48 #000000 2\n"
+                                      "1007,15804 8.52 #000000 Proef\n10323,15804 8.52 #000000 1"_s);
+        QCOMPARE(stippen.join(u'\n'), u"1550,2028 9.48 83 stippen\n1866,2300 9.48 80 stippen"_s);
     }
 
     void aLongListOfHeadingsGoesOnOnFurtherPages_data()
