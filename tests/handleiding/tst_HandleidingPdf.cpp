@@ -107,6 +107,19 @@ private slots:
             QCOMPARE(pdf.Regels(blad).last().simplified(), u"Proef %1"_s.arg(blad));
     }
 
+    void aLineIsAboveTheFoot()
+    {
+        const Gelezen pdf(u"# Een\n\ntekst\n"_s);
+        const QImage blad = pdf->Pagina(2);
+        const auto beeldpunten = [](double millimeters) { return qRound(millimeters * 96 / 25.4); };
+        const QRect lijn = InktVlak(blad, QRect(0, beeldpunten(281) - 3, blad.width(), 7));
+        QCOMPARE(lijn.left(), beeldpunten(22));
+        QVERIFY2(std::abs(lijn.right() - beeldpunten(188)) <= 1, qPrintable(QString::number(lijn.right())));
+        QVERIFY(lijn.height() <= 2);
+        const QColor kleur = blad.pixelColor(lijn.center());
+        QVERIFY2(kleur.red() == kleur.green() && kleur.red() > 100, qPrintable(kleur.name()));
+    }
+
     void headingsAreListedWithTheirPages()
     {
         const Gelezen pdf(u"# Een\n\ntekst\n\n## Deel\n\n"_s + Alineas(60) +
