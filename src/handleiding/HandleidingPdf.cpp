@@ -121,8 +121,8 @@ void Boek::TekenRegel(const Kop &kop, double boven)
     const double begin = links * Millimeter + maten.horizontalAdvance(kop.Tekst) + stip;
     const double eind = (Breedte - Kant) * Millimeter - maten.horizontalAdvance(nummer) - stip;
     Druk(boven, links, kop.Tekst, letter);
-    for (double x = std::ceil(begin / stip) * stip; x < eind; x += stip) // those of all lines are in columns
-        Druk(boven, x / Millimeter, u"."_s, letter);
+    for (int i = static_cast<int>(std::ceil(begin / stip)); i * stip < eind; ++i) // those of all lines are in columns
+        Druk(boven, i * stip / Millimeter, u"."_s, letter);
     Druk(boven, Kant, nummer, letter, Qt::AlignRight);
 }
 

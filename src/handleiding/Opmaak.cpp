@@ -138,7 +138,7 @@ void Opmaak::ZetAlineas()
     }
 }
 
-void Opmaak::ZetKop(QTextBlock blok)
+void Opmaak::ZetKop(const QTextBlock &blok)
 {
     const int niveau = blok.blockFormat().headingLevel();
     const KopStijl &stijl = KopStijlen.at(static_cast<size_t>(std::clamp(niveau, 1, 3) - 1));

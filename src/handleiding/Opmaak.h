@@ -40,7 +40,7 @@ public:
 private:
     void ZetLetters();
     void ZetAlineas();
-    void ZetKop(QTextBlock blok);
+    void ZetKop(const QTextBlock &blok);
     void ZetBeelden(const BeeldVan &beeld);
     void ZetBeeld(const QTextBlock &blok, const BeeldVan &beeld);
     void ZetTabellen();
