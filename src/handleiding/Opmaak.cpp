@@ -132,7 +132,7 @@ void Opmaak::ZetAlineas()
         vorm.setTopMargin(0);
         vorm.setBottomMargin(Ruimte(blok));
         if (IsCode(blok))
-            vorm.setLeftMargin(20);
+            vorm.setLeftMargin(20 * schaal_); // of the margins only this one is in units of the paper
         vorm.setLineHeight(118, QTextBlockFormat::ProportionalHeight);
         QTextCursor(blok).mergeBlockFormat(vorm);
     }

@@ -205,6 +205,37 @@ private slots:
         QCOMPARE(gelezen, stukken);
     }
 
+    // Every kind of paragraph there is, with its place, its letters and its colour.
+    void aPageIsLaidOut()
+    {
+        const Gelezen pdf(
+            u"# Hoofdstuk\n\neen\n\n## Deel\n\n- punt\n- nog\n- slot\n\nna `code`\n\n    regel\n    tweede\n\n"
+            "### Klein\n\n| kop | hoofd |\n|---|---|\n| cel | vak |\n| onder | aan |\n\n"
+            "![plaatje](80x40.png)\n\neind\n"_s);
+        const QStringList teksten = pdf->Teksten(2);
+        QCOMPARE(teksten.mid(0, 10).join(u'\n'),
+                 u"1007,894 20.04 vet #14285a Hoofdstuk\n1007,1537 9.96 #000000 een\n1007,2049 13.56 vet #14285a Deel\n"
+                 "1607,2451 9.96 #000000 punt\n1607,2768 9.96 #000000 nog\n1607,3085 9.96 #000000 slot\n"
+                 "1007,3461 9.96 #000000 na\n1284,3492 9.13 #000000 code\n"
+                 "1307,3852 9.13 #000000 regel\n1307,4093 9.13 #000000 tweede"_s);
+        QCOMPARE(
+            teksten.mid(10, 9).join(u'\n'),
+            u"1007,4514 11.04 vet #14285a Klein\n1052,4904 9.96 vet #000000 kop\n5737,4904 9.96 vet #000000 hoofd\n"
+            "1052,5280 9.96 #000000 cel\n5737,5280 9.96 #000000 vak\n1052,5657 9.96 #000000 onder\n"
+            "5737,5657 9.96 #000000 aan\n5448,6742 9 #505050 plaatje\n1007,7131 9.96 #000000 eind"_s);
+        QCOMPARE(pdf->Beelden(2).join(u'\n'), u"5263,6246 900x451"_s);
+        const QImage blad = pdf->Pagina(2);
+        QCOMPARE(blad.pixelColor(300, 350).name(), u"#e2e8f2"_s); // the head of the table
+        QCOMPARE(blad.pixelColor(300, 382).name(), u"#ffffff"_s);
+        QCOMPARE(blad.pixelColor(300, 364).name(), blad.pixelColor(300, 414).name());
+        for (const int y : {389, 414}) { // a line under each row
+            const QRect lijn = InktVlak(blad, QRect(0, y - 3, blad.width(), 7));
+            QCOMPARE(lijn.left(), 83);
+            QCOMPARE(lijn.right(), 710);
+            QVERIFY2(lijn.height() <= 2, qPrintable(QString::number(lijn.height())));
+        }
+    }
+
     void aHeadingGoesToTheNextPageWithItsText()
     {
         int verhuisd = 0;
