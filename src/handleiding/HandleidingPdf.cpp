@@ -131,10 +131,7 @@ void Boek::TekenTekst()
     for (qsizetype i = 0; i < bladen_.size(); ++i) {
         NieuwBlad();
         const qsizetype tot = i + 1 < bladen_.size() ? bladen_[i + 1] : opmaak_.Stukken().size();
-        painter_.save();
-        painter_.translate(Kant * Millimeter, Boven * Millimeter);
-        opmaak_.Teken(painter_, bladen_[i], tot);
-        painter_.restore();
+        opmaak_.Teken(painter_, QPointF(Kant, Boven) * Millimeter, bladen_[i], tot);
     }
     TekenVoet();
 }

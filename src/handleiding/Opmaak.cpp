@@ -182,13 +182,11 @@ void Opmaak::ZetBeeld(const QTextBlock &blok, const BeeldVan &beeld)
     QTextCursor cursor(blok);
     QTextBlockFormat midden;
     midden.setAlignment(Qt::AlignHCenter);
-    midden.setTopMargin(4);
     midden.setBottomMargin(3);
     midden.setLineHeight(0, QTextBlockFormat::SingleHeight);
     cursor.mergeBlockFormat(midden);
     cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
     cursor.insertImage(vorm);
-    midden.setTopMargin(0);
     midden.setBottomMargin(12);
     QTextCharFormat letters;
     letters.setFontItalic(true);
@@ -210,7 +208,6 @@ void Opmaak::ZetTabel(QTextTable &tabel)
 {
     QTextTableFormat vorm = tabel.format();
     vorm.setWidth(QTextLength(QTextLength::PercentageLength, 100));
-    vorm.setCellPadding(0);
     vorm.setCellSpacing(0);
     vorm.setBorder(0);
     vorm.setTopMargin(6);
@@ -268,15 +265,14 @@ void Opmaak::VoegTabelToe(const QTextTable &tabel)
 }
 
 // What lies wholly outside the clip is not drawn, so that no text is twice in a PDF file.
-void Opmaak::Teken(QPainter &painter, qsizetype van, qsizetype tot)
+void Opmaak::Teken(QPainter &painter, QPointF hoek, qsizetype van, qsizetype tot)
 {
     const double boven = stukken_[van].Boven;
     QAbstractTextDocumentLayout::PaintContext hoe;
     hoe.palette.setColor(QPalette::Text, Qt::black);
     hoe.clip = QRectF(0, boven, ruimte_.width() * schaal_, stukken_[tot - 1].Onder - boven);
     painter.save();
-    painter.translate(0, -boven);
-    painter.setClipRect(hoe.clip.adjusted(-schaal_, -schaal_, schaal_, schaal_));
+    painter.translate(hoek.x(), hoek.y() - boven);
     document_.documentLayout()->draw(&painter, hoe);
     painter.restore();
 }

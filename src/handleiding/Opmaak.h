@@ -34,8 +34,8 @@ public:
 
     const QList<Stuk> &Stukken() const { return stukken_; }
     const QList<Kop> &Koppen() const { return koppen_; }
-    /// Draws the pieces from one up to another, with the top of the first one at 0.
-    void Teken(QPainter &painter, qsizetype van, qsizetype tot);
+    /// Draws the pieces from one up to another. @param hoek the top left corner of the first one
+    void Teken(QPainter &painter, QPointF hoek, qsizetype van, qsizetype tot);
 
 private:
     void ZetLetters();

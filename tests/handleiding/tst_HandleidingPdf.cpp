@@ -260,6 +260,19 @@ private slots:
         QCOMPARE(rijen.size(), 50);
     }
 
+    void columnsOfATableAreApart()
+    {
+        const QString cel = u"i "_s.repeated(300);
+        const Gelezen pdf(u"| a | b |\n|---|---|\n| %1 | %1 |\n"_s.arg(cel));
+        const QImage blad = pdf->Pagina(2);
+        int leeg = 0, breedst = 0;
+        for (int x = 200; x < 600; ++x) {
+            leeg = HeeftInkt(blad, QRect(x, 110, 1, 40)) ? 0 : leeg + 1;
+            breedst = std::max(breedst, leeg);
+        }
+        QVERIFY2(breedst >= 16, qPrintable(QString::number(breedst)));
+    }
+
     void picturesAreWholeAndSharp_data()
     {
         QTest::addColumn<QString>("naam");
@@ -280,6 +293,7 @@ private slots:
         QVERIFY2(std::abs(maat.height() - opPapier.height()) < 0.2, qPrintable(QString::number(maat.height())));
         QCOMPARE(pdf->Beeld(0).convertToFormat(QImage::Format_RGB32), BeeldVanNaam(naam));
         QCOMPARE(pdf.Bladen(u"Een plaatje"_s), u"2"_s);
+        QVERIFY(pdf->Letters().contains(u"LiberationSans-Italic ingesloten doorzoekbaar"_s)); // its text
     }
 
     void aPictureThatIsNotThereIsAFailure()
@@ -305,12 +319,12 @@ private slots:
 
     void headingsAreLargerThanText()
     {
-        const Gelezen pdf(u"# Groot\n\n## Midden\n\n### Klein\n\ntekst\n"_s);
+        const Gelezen pdf(u"# Groot\n\n## Midden\n\n### Klein\n\n#### Kleinst\n\ntekst\n"_s);
         QStringList maten;
-        for (const QString &tekst : pdf->Teksten(2).first(4))
+        for (const QString &tekst : pdf->Teksten(2).first(5))
             maten += tekst.section(u' ', 1);
         QCOMPARE(maten.join(u'\n'), u"20.04 vet #14285a Groot\n13.56 vet #14285a Midden\n"
-                                    "11.04 vet #14285a Klein\n9.96 #000000 tekst"_s);
+                                    "11.04 vet #14285a Klein\n11.04 vet #14285a Kleinst\n9.96 #000000 tekst"_s);
     }
 };
 
