@@ -1,8 +1,8 @@
 """A puzzle printed on the queues of a print server: on the default one, on one that is chosen, and on one that has gone."""
 import re
-import subprocess
 
 from checks import equal
+from pdf import pictures, tell
 from printserver import EDGE, PrintServer
 from puzzlefiles import write_puzzle
 
@@ -64,10 +64,6 @@ def choose(run, before, after):
     run.program.until_closed(title(after))
 
 
-def tell(*command):
-    return subprocess.run(command, capture_output=True, text=True, check=True).stdout
-
-
 def read_back(server, queue, number, small, large):
     path, *job = server.printed(queue)
     equal("number, title and copies of the job", job, [number, "Reisdoornl", 1])
@@ -79,6 +75,4 @@ def read_back(server, queue, number, small, large):
     for word, x, y in (("Puzzelnaam", 600, 300), ("Vaknummer", 600, 900), ("Oplossing", 5700, 900)):
         places = [tuple(round(float(one) - EDGE) for one in place) for *place, text in words if text == word]
         equal(f"where {word} is", places, [(x // 20, y // 20)])
-    pictures = re.findall(r"^ +(\d) +\d+ image +(\d+) +(\d+) .* image +no ", tell("pdfimages", "-list", path), re.MULTILINE)
-    equal("pictures", [tuple(map(int, one)) for one in pictures],
-          [(page, board.width, board.height) for page, board in ((1, small), (2, large))])
+    equal("pictures", pictures(path), [(page, board.width, board.height) for page, board in ((1, small), (2, large))])

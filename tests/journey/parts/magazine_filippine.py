@@ -1,9 +1,8 @@
-"""A Filippine from nothing: answers, the search word, both wipings; saved, and opened again."""
+"""A Filippine for a magazine, from an empty folder to its sheet and its web page: answers, the search word, both wipings."""
 from checks import check, equal, until_equal
 from desktop import until
-from mainwindow import FRAME, MainWindow, is_ink, part_of_cell
-from picture import Picture
-from puzzlefiles import list_file, names
+from mainwindow import FRAME, is_ink, part_of_cell
+from publish import Publication
 
 FLOWER = ["02", "hoog en geel", "zonnebloemen", "-"]
 BEAR = ["03", "wit en groot", "ijsbeer", "-"]
@@ -13,30 +12,21 @@ NUMBERS = "D-02", "C-03"
 
 
 def walk(journey):
+    puzzle = Publication(journey, "Filippine", "rijen", 16, 19)
     run = journey.start()
-    new_puzzle(run)
+    puzzle.begin(run)
     nothing_typed(run)
     answer(run, "D-02", FLOWER, 12, [FLOWER], FLOWER_CELLS)
     answer(run, "C-03", BEAR, 6, [FLOWER, BEAR], BEAR_CELLS)
     search_word(run)
     wipe_raster(run)
     wipe_letters(run)
-    save(journey, run)
-    run.quit()
+    run.save(run.save_dialog("save"))
+    puzzle.publish(run, [FLOWER, BEAR], [["2. HOOG EN GEEL", "3. WIT EN GROOT"]], ["2.  hoog en geel", "3.  wit en groot"])
 
 
 def is_raster(red, green, blue):
     return (red, green, blue) == (150, 150, 150)
-
-
-def new_puzzle(run):
-    run.program.menu("Bestand", "Nieuwe puzzel ontwerpen")
-    window = run.program.window("Nieuwe puzzel ontwerpen")
-    window.find("radio button", "Filippine Puzzel").click()
-    run.write(window.find("text", "Naam Puzzel"), "rijen")
-    run.push(window, "Ok")
-    run.main = MainWindow(run.program, "Raster Atelier (16x19)")
-    run.main.window.find("label", "Soortpuzzel : Filippine")
 
 
 def dialog(run, place, shot=None):
@@ -120,14 +110,3 @@ def wipe_letters(run):
     equal("red of the cells", [reds(run, place) for place in ("E-02", "F-02", "F-03", "G-03", "G-04")],
           [240, 174, 174, 240, 255])
     run.desktop.shot("filippine-wiped")
-
-
-def save(journey, run):
-    run.save(run.save_dialog())
-    equal("files", names(journey.puzzles), ["Rijen.lst", "rijen1.bmp", "rijen2.bmp"])
-    equal("Rijen.lst", (journey.puzzles / "Rijen.lst").read_bytes(), list_file(16, 19, [FLOWER, BEAR], kind=5))
-    saved = Picture.from_bmp((journey.puzzles / "rijen1.bmp").read_bytes())
-    until_equal("the field that was saved", run.main.picture, saved)
-    run.open_puzzle("Rijen", 16, 19)
-    until_equal("rows", run.main.rows, [FLOWER, BEAR])
-    until_equal("the field", run.main.picture, saved)
