@@ -63,8 +63,6 @@ void MainForm::closeEvent(QCloseEvent *event)
 {
     if (MagSluiten && !MagSluiten())
         event->ignore();
-    else
-        event->accept();
 }
 
 void MainForm::reject() {}

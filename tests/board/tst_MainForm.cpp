@@ -201,6 +201,16 @@ private slots:
             QCOMPARE(Getoond(*plaat).pixelColor(0, 0), plaat->palette().color(QPalette::Window));
     }
 
+    void everyPanelHasAnOutline()
+    {
+        Bord bord;
+        for (int i = 1; i <= 10; ++i) {
+            const QImage paneel = Getoond(*Vind<QWidget>(bord.Venster, u"Frame%1"_s.arg(i)));
+            for (const int x : {0, paneel.width() - 1})
+                QVERIFY(paneel.pixel(x, paneel.height() / 2) != qRgb(230, 230, 190));
+        }
+    }
+
     void hiddenAtTheStart()
     {
         Bord bord;
@@ -243,7 +253,9 @@ private slots:
         QCOMPARE(bord.Venster.Label2->font().pixelSize(), 40); // size 30
         QVERIFY(!bord.Venster.Label2->font().bold());
         QCOMPARE(bord.Venster.windowType(), Qt::Window); // it can be minimised, as no dialog can
-        QVERIFY(!bord.Venster.windowIcon().isNull());
+        QCOMPARE(bord.Venster.windowIcon().availableSizes(), QList{QSize(64, 64)});
+        const int balk = bord.Venster.findChild<QMenuBar *>()->sizeHint().height();
+        QCOMPARE(bord.Venster.maximumSize(), bord.Venster.Pic->parentWidget()->size() + QSize(0, balk));
         QVERIFY(&Main() == &bord.Venster);
     }
 
