@@ -273,6 +273,12 @@ private slots:
             QCOMPARE(gekozen.takeLast().at(0).toInt(), index);
             QVERIFY(gekozen.isEmpty());
         }
+        QSignalSpy getal(&bord.Venster, &MainForm::SudokuMenuGekozen);
+        for (const int index : {1, 2, 3, 4, 5, 6, 7, 8, 9, 11}) {
+            bord.Venster.SuMe[static_cast<std::size_t>(index)]->trigger();
+            QCOMPARE(getal.takeLast().at(0).toInt(), index);
+            QVERIFY(getal.isEmpty() && gekozen.isEmpty());
+        }
     }
 
     void aClickBeforeAnyMovementActsOnTheFirstCell()
