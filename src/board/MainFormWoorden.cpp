@@ -132,7 +132,6 @@ void MainForm::OkKnop_Click()
 void MainForm::LoadKnop_Click()
 {
     LoadKnop->Druk();
-    List3->Clear();
     negeer([this] { LeesOnderwerpen(File1_); });
     List3->SetItems(File1_);
 }
