@@ -39,7 +39,6 @@ FormMain::FormMain() : Form(u"FormMain"_s, u"Woorden Wisseling"_s, 6300, 3510, R
     Kleur(List1, RGB(40, 30, 0), RGB(230, 230, 230));
     Text1->setMaxLength(9);
     List1->Sorted = true;
-    Text1->setFocus();
 
     bij(OkKnop, &ImageButton::clicked, &FormMain::OkKnop_Click);
     bij(ExportKnop, &ImageButton::clicked, &FormMain::ExportKnop_Click);
