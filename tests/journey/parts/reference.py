@@ -50,7 +50,9 @@ def proverbs(journey, run, factor):
     run.message("Betekenis", meaning, "OK", f"meaning-{factor}")
     rows = run.program.window(title).find("list", "Bibliotheek")
     until("the focus in the list", lambda: any(one.has(pyatspi.STATE_FOCUSED) for one in [rows, *rows.all("list item")]))
-    run.desktop.key("Down", "Return")
+    run.desktop.key("Down")
+    until("the next saying", lambda: rows.find("list item", wanted[3][0]).has(pyatspi.STATE_SELECTED))
+    run.desktop.key("Return")
     meaning = wanted[3][1]
     run.message("Betekenis", meaning[12].upper() + meaning[13:], "OK")
     window = run.program.window(title)
