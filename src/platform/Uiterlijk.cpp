@@ -3,7 +3,8 @@
 #include "platform/Canvas.h"
 
 #include <QApplication>
-#include <QStyle>
+#include <QProxyStyle>
+#include <QStyleOption>
 #include <QTranslator>
 #include <QWidget>
 
@@ -88,12 +89,30 @@ public:
     }
 };
 
+/// Fusion, with one thing more: it marks a menu of the bar only once that is open, and so Alt would show nothing.
+class Stijl : public QProxyStyle
+{
+public:
+    Stijl() : QProxyStyle(u"Fusion"_s) {}
+
+    void drawControl(ControlElement deel, const QStyleOption *keuze, QPainter *painter,
+                     const QWidget *widget) const override
+    {
+        const auto *menu = qstyleoption_cast<const QStyleOptionMenuItem *>(keuze);
+        if (deel != CE_MenuBarItem || !menu || !(menu->state & State_Enabled) || !(menu->state & State_Selected))
+            return QProxyStyle::drawControl(deel, keuze, painter, widget);
+        QStyleOptionMenuItem open = *menu;
+        open.state |= State_Sunken;
+        QProxyStyle::drawControl(deel, &open, painter, widget);
+    }
+};
+
 } // namespace
 
 void StelUiterlijkIn()
 {
     QApplication::installTranslator(new Nederlands(qApp));
-    QApplication::setStyle(u"Fusion"_s);
+    QApplication::setStyle(new Stijl);
     QPalette palet = QApplication::style()->standardPalette();
     for (const QPalette::ColorRole rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palet.setColor(QPalette::Disabled, rol, qRgb(120, 120, 120)); // still to be read on our pale colours

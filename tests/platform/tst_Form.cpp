@@ -67,6 +67,32 @@ private slots:
         QCOMPARE(inhoud.mapTo(&venster, QPoint(0, 0)), QPoint(0, venster.MenuBalk()->height()));
     }
 
+    void altMarksTheMenuThatTheKeysAreIn()
+    {
+        TestVenster venster(6000, 3750, true);
+        QMenuBar &balk = *venster.MenuBalk();
+        balk.addMenu(u"Bestand"_s);
+        balk.addMenu(u"Tools"_s);
+        venster.show();
+        QVERIFY(QTest::qWaitForWindowActive(&venster));
+        const auto gemerkt = [&] {
+            const QImage beeld = balk.grab().toImage();
+            QStringList namen;
+            for (QAction *menu : balk.actions())
+                if (beeld.pixel(balk.actionGeometry(menu).topLeft() + QPoint(3, 4)) ==
+                    balk.palette().highlight().color().rgb())
+                    namen += menu->text();
+            return namen;
+        };
+        QCOMPARE(gemerkt(), QStringList());
+        QTest::keyClick(venster.Knop, Qt::Key_Alt);
+        QCOMPARE(gemerkt(), QStringList{u"Bestand"_s});
+        QTest::keyClick(&balk, Qt::Key_Right);
+        QCOMPARE(gemerkt(), QStringList{u"Tools"_s});
+        QTest::keyClick(&balk, Qt::Key_Escape);
+        QCOMPARE(gemerkt(), QStringList());
+    }
+
     void aWindowWithAMenuBarFitsTheScreen()
     {
         TestVenster venster(60000, 60000, true);
