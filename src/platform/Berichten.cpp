@@ -28,9 +28,16 @@ void Berichten::Gebruik(Berichten *berichten)
     vervanger = berichten;
 }
 
+/// The window that a box belongs to. Just after another box has closed none is active yet.
+static QWidget *Ouder()
+{
+    QWidget *modaal = QApplication::activeModalWidget();
+    return modaal ? modaal : QApplication::activeWindow();
+}
+
 Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
-    QMessageBox box(QApplication::activeWindow());
+    QMessageBox box(Ouder());
     box.setObjectName(u"MsgBox"_s);
     box.setWindowTitle(titel);
     AlsDialoog(box);
@@ -62,7 +69,7 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
 
 QString Berichten::VraagTekst(const QString &vraag, const QString &titel)
 {
-    QInputDialog box(QApplication::activeWindow());
+    QInputDialog box(Ouder());
     box.setObjectName(u"InputBox"_s);
     box.setWindowTitle(titel);
     AlsDialoog(box);
@@ -83,7 +90,7 @@ static QString Titel(const QString &titel)
 
 QString Berichten::VraagBestand(const QString &titel, const QString &voorstel, const QString &soort)
 {
-    return QFileDialog::getSaveFileName(QApplication::activeWindow(), titel, voorstel, soort);
+    return QFileDialog::getSaveFileName(Ouder(), titel, voorstel, soort);
 }
 
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)

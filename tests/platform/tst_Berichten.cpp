@@ -112,6 +112,22 @@ private slots:
         QCOMPARE(bank_->Script.Gezien[2].Tekst, QString(1023, u'd'));
     }
 
+    void aBoxBelongsToTheDialogThatIsOpenAlsoWhileNoWindowIsActive()
+    {
+        QDialog dialoog;
+        dialoog.setModal(true);
+        dialoog.show();
+        for (QWidget *actief : {static_cast<QWidget *>(&dialoog), static_cast<QWidget *>(nullptr)}) {
+            QApplication::setActiveWindow(actief);
+            const QWidget *ouder = nullptr;
+            const EchtBericht bericht(u"Klaar"_s, Knoppen::Ok, Icoon::Geen, QString(), [&](QMessageBox &box) {
+                ouder = box.parentWidget();
+                EchtBericht::Klik(box, u"OK"_s);
+            });
+            QCOMPARE(ouder, &dialoog);
+        }
+    }
+
     void aMessageHasTheProgramsTitle()
     {
         bank_->Script.Antwoorden = {Antwoord::Ja, Antwoord::Nee};
