@@ -12,7 +12,7 @@ from puzzlefiles import TRAIN, WINE, names
 
 HEDGEHOG = ["E-05 / 45-V", "stekelig dier", "egel", "-"]
 RAM = ["F-04 / 36-H", "mannelijk schaap", "ram", "-"]
-WORDS = [WINE, HEDGEHOG, TRAIN, RAM]
+WORDS = [WINE, TRAIN, RAM, HEDGEHOG]
 HORIZONTAL, VERTICAL = "Oplossing Horizontaal Plaatsen", "Oplossing Vertikaal Plaatsen"
 LIST_HEAD = ["Vaknummer Omschrijving Oplossing", "-" * 162]
 
@@ -25,8 +25,8 @@ def walk(journey):
     puzzle.begin(run, "reis door nl ")
     clue_cells(run)
     first_word(run)
-    word_of_a_list(journey, run)
     other_words(run)
+    word_of_a_list(journey, run)
     save(run)
     puzzle.publish(run, WORDS, [[], [], [*LIST_HEAD, *(" ".join(row[:3]) for row in WORDS)]], [])
     check_colour(journey)
@@ -73,6 +73,18 @@ def first_word(run):
     equal("items", run.main.count(), "1 Items")
 
 
+def other_words(run):
+    for rows, length, places in ((WORDS[:2], 5, ["C-05", "D-05", "E-05", "F-05", "G-05"]),
+                                 (WORDS[:3], 3, ["F-04", "G-04", "H-04"])):
+        _, clue, word, _ = rows[-1]
+        place, number = places[0], rows[-1][0].split()[2].split("-")[0]
+        window = run.solution_dialog(place, number)
+        run.fill_solution(window, clue, word, length, HORIZONTAL)
+        run.place_solution(window, rows)
+        until(f"the letters of {word}", lambda: min(run.main.ink(*places)) > 12)
+    equal("ink behind the words", run.main.ink("H-05", "C-06", "I-04"), [0, 0, 0])
+
+
 def word_of_a_list(journey, run):
     """It is found in its list by its first letters, and copied to where it is to stand."""
     shutil.copytree(journey.path.parent / "Woordlijsten", journey.map / "Woordlijsten")
@@ -88,20 +100,8 @@ def word_of_a_list(journey, run):
     run.write(window.find("text", "Omschrijving"), HEDGEHOG[1])
     window.find("radio button", VERTICAL).click()
     run.desktop.shot("solution-copied")
-    run.place_solution(window, [WINE, HEDGEHOG])
+    run.place_solution(window, WORDS)
     until("the letters of the hedgehog", lambda: min(run.main.ink("E-05", "E-06", "E-07", "E-08")) > 12)
-
-
-def other_words(run):
-    for rows, length, places in ((WORDS[:3], 5, ["C-05", "D-05", "E-05", "F-05", "G-05"]),
-                                 (WORDS, 3, ["F-04", "G-04", "H-04"])):
-        _, clue, word, _ = rows[-1]
-        place, number = places[0], rows[-1][0].split()[2].split("-")[0]
-        window = run.solution_dialog(place, number)
-        run.fill_solution(window, clue, word, length, HORIZONTAL)
-        run.place_solution(window, rows)
-        until(f"the letters of {word}", lambda: min(run.main.ink(*places)) > 12)
-    equal("ink behind the words", run.main.ink("H-05", "C-06", "I-04"), [0, 0, 0])
     equal("items", run.main.count(), "4 Items")
     run.desktop.shot("all-words")
 
