@@ -73,7 +73,6 @@ AddForm::AddForm() : Form(u"AddForm"_s, u"Woordlijsten bewerken"_s, 9150, 4800, 
 
 void AddForm::VulOnderwerpen()
 {
-    List2->Clear();
     QStringList onderwerpen;
     negeer([&] { LeesOnderwerpen(onderwerpen); });
     List2->SetItems(onderwerpen);

@@ -244,29 +244,35 @@ private slots:
 
     void aWordIsDeleted_data()
     {
+        QTest::addColumn<int>("rij");
+        QTest::addColumn<QString>("woord");
         QTest::addColumn<bool>("ja");
         QTest::addColumn<QString>("woorden");
         QTest::addColumn<QString>("aantal");
-        Geval("yes", true, "aal|vos", "2");
-        Geval("no", false, "aal|kat|vos", "7");
+        Geval("yes", 1, "kat", true, "aal|vos", "2");
+        Geval("no", 1, "kat", false, "aal|kat|vos", "7");
+        Geval("the first", 0, "aal", true, "kat|vos", "2");
+        Geval("the last", 2, "vos", true, "aal|kat", "2");
     }
     void aWordIsDeleted()
     {
+        QFETCH(int, rij);
+        QFETCH(QString, woord);
         QFETCH(bool, ja);
         Woordbord bord;
         AddForm form;
         form.List1->SetItems({u"aal"_s, u"kat"_s, u"vos"_s});
-        form.List1->SetListIndex(1);
+        form.List1->SetListIndex(rij);
         form.Label2->SetCaption(u"7"_s);
         const QPoint plaats = form.DelKnop->pos();
         Verloop verloop([&] { return form.DelKnop->pos() == plaats ? QString() : u"gedrukt"_s; });
         verloop.Antwoorden = {ja ? Antwoord::Ja : Antwoord::Nee};
         form.DelKnop->click();
-        QCOMPARE(verloop.Stappen, (QStringList{u"0.2 s | gedrukt"_s,
-                                               u"Delete: Wilt je het puzzelwoord 'kat' verwijderen? (ja of nee) |"_s}));
+        const QString vraag = u"Delete: Wilt je het puzzelwoord '%1' verwijderen? (ja of nee) |"_s.arg(woord);
+        QCOMPARE(verloop.Stappen, (QStringList{u"0.2 s | gedrukt"_s, vraag}));
         QTEST(Woorden(form), "woorden");
         QTEST(form.Label2->Caption(), "aantal");
-        QCOMPARE(form.List1->ListIndex(), ja ? -1 : 1);
+        QCOMPARE(form.List1->ListIndex(), ja ? -1 : rij);
     }
 
     void nothingIsDeletedWithoutAChoice()
