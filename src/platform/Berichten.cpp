@@ -38,7 +38,6 @@ static QWidget *Ouder()
 Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
     QMessageBox box(Ouder());
-    box.setObjectName(u"MsgBox"_s);
     box.setWindowTitle(titel);
     AlsDialoog(box);
     box.setTextFormat(Qt::PlainText);
@@ -55,14 +54,13 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
     else if (knoppen == Knoppen::JaNee)
         box.setIcon(QMessageBox::Question);
     if (knoppen == Knoppen::Ok) {
-        box.setDefaultButton(box.addButton(u"OK"_s, QMessageBox::AcceptRole));
+        box.addButton(u"OK"_s, QMessageBox::AcceptRole);
         box.exec();
         return Antwoord::Ok;
     }
     QPushButton *ja = box.addButton(u"&Ja"_s, QMessageBox::YesRole);
-    QPushButton *nee = box.addButton(u"&Nee"_s, QMessageBox::NoRole);
+    box.addButton(u"&Nee"_s, QMessageBox::NoRole); // the one that closing the box stands for
     box.setDefaultButton(ja);
-    box.setEscapeButton(nee);
     box.exec();
     return box.clickedButton() == ja ? Antwoord::Ja : Antwoord::Nee;
 }
@@ -70,7 +68,6 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
 QString Berichten::VraagTekst(const QString &vraag, const QString &titel)
 {
     QInputDialog box(Ouder());
-    box.setObjectName(u"InputBox"_s);
     box.setWindowTitle(titel);
     AlsDialoog(box);
     box.setLabelText(vraag);

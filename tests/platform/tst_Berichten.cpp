@@ -4,19 +4,30 @@
 #include <QAction>
 #include <QApplication>
 #include <QFileDialog>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QProxyStyle>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTimer>
+#include <QTranslator>
 #include <QTreeView>
 
 #include <optional>
 
 using namespace Qt::StringLiterals;
+
+/// A desktop that has words of its own for everything: those of a message are ours.
+class Anders : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *, const char *, int) const override { return u"anders"_s; }
+};
 
 /// Shows a real message, notes how it looks and then handles it.
 struct EchtBericht
@@ -36,8 +47,12 @@ struct EchtBericht
             for (const QAbstractButton *knop : box->buttons())
                 Opschriften += knop->text().remove(u'&');
             Opschriften.sort();
+            if (box->defaultButton())
+                Standaard = box->defaultButton()->text().remove(u'&');
             doe(*box);
         });
+        Anders anders;
+        QCoreApplication::installTranslator(&anders);
         Gegeven = MsgBox(tekst, knoppen, icoon, titel);
     }
 
@@ -48,7 +63,7 @@ struct EchtBericht
                 knop->click();
     }
 
-    QString Tekst, Titel;
+    QString Tekst, Titel, Standaard;
     Qt::TextFormat Vorm = Qt::AutoText;
     QMessageBox::Icon Plaatje = QMessageBox::NoIcon;
     QStringList Opschriften;
@@ -88,6 +103,21 @@ static QStringList Teksten(const QWidget &dialoog)
     gesorteerd.sort();
     return gesorteerd;
 }
+
+static const Qt::WindowFlags VlaggenVanEenDialoog =
+    Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+
+/// A style that gives buttons their pictures.
+class MetPlaatjes : public QProxyStyle
+{
+public:
+    MetPlaatjes() : QProxyStyle(u"Fusion"_s) {}
+    int styleHint(StyleHint soort, const QStyleOption *optie, const QWidget *widget,
+                  QStyleHintReturn *data) const override
+    {
+        return soort == SH_DialogButtonBox_ButtonsHaveIcons ? 1 : QProxyStyle::styleHint(soort, optie, widget, data);
+    }
+};
 
 class tst_Berichten : public QObject
 {
@@ -195,6 +225,8 @@ private slots:
                                   [&](QMessageBox &box) { EchtBericht::Klik(box, opschrift); });
         QCOMPARE(bericht.Opschriften, (QStringList{u"Ja"_s, u"Nee"_s}));
         QCOMPARE(bericht.Titel, u"Delete"_s);
+        QCOMPARE(bericht.Plaatje, QMessageBox::Question);
+        QCOMPARE(bericht.Standaard, u"Ja"_s);
         QTEST(int(bericht.Gegeven), "antwoord");
     }
 
@@ -227,6 +259,11 @@ private slots:
         QString vraag, titel, eerst;
         QStringList opschriften;
         QSize kleinst, grootst;
+        Qt::WindowFlags vlaggen;
+        int regel = 0;
+        Anders anders;
+        QCoreApplication::installTranslator(&anders);
+        QApplication::setStyle(new MetPlaatjes);
         QTimer::singleShot(0, qApp, [&] {
             QWidget &box = *QApplication::activeModalWidget();
             vraag = box.findChild<QLabel *>()->text();
@@ -236,17 +273,22 @@ private slots:
                 opschriften += knop->text();
                 QVERIFY(knop->icon().isNull());
             }
+            regel = box.findChild<QLineEdit *>()->width();
+            vlaggen = box.windowFlags();
             kleinst = box.minimumSize();
             grootst = box.maximumSize();
             QTest::keyClicks(box.focusWidget(), u"reizen"_s);
             QTest::keyClick(&box, toets);
         });
         QTEST(InputBox(u"Geef de naam"_s), "gegeven");
+        QApplication::setStyle(u"Fusion"_s);
+        QCOMPARE(vlaggen, VlaggenVanEenDialoog);
         QCOMPARE(vraag, u"Geef de naam"_s);
         QCOMPARE(titel, u"Rasteratelier"_s);
         QCOMPARE(eerst, QString());
         QCOMPARE(opschriften, (QStringList{u"OK"_s, u"Annuleren"_s}));
         QCOMPARE(kleinst, grootst);
+        QCOMPARE(regel, 330);
     }
 
     void theTitleOfAQuestionForATextCanBeSet()
@@ -259,6 +301,19 @@ private slots:
         QCOMPARE(bank_->Script.Gezien[1].Tekst, u"Dan"_s);
     }
 
+    void aShortMessageIsWideEnoughForItsTitle()
+    {
+        QRect inhoud, laatsteRij;
+        const EchtBericht bericht(u"Mis"_s, Knoppen::Ok, Icoon::Geen, QString(), [&](QMessageBox &box) {
+            const auto *opmaak = qobject_cast<QGridLayout *>(box.layout());
+            inhoud = opmaak->contentsRect();
+            laatsteRij = opmaak->cellRect(opmaak->rowCount() - 1, 0);
+            box.close();
+        });
+        QCOMPARE(inhoud.width(), 280);
+        QCOMPARE(laatsteRij.height(), 0); // it is no higher for that
+    }
+
     void aMessageHasTheFrameOfADialog()
     {
         Qt::WindowFlags vlaggen;
@@ -266,8 +321,7 @@ private slots:
             vlaggen = box.windowFlags();
             box.close();
         });
-        QVERIFY(vlaggen & Qt::WindowCloseButtonHint);
-        QVERIFY(!(vlaggen & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
+        QCOMPARE(vlaggen, VlaggenVanEenDialoog);
     }
 
     void aFileIsAskedForInDutch()
