@@ -211,6 +211,25 @@ private slots:
         QCOMPARE(box.Inkt(), QRect(0, 0, 5, 5));
     }
 
+    void whatIsDrawnIsShownAtOnce()
+    {
+        PixelBox box(30, 20);
+        box.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&box));
+        QCoreApplication::processEvents();
+        Schilderingen schilderingen;
+        box.installEventFilter(&schilderingen);
+        const std::vector<std::function<void()>> tekeningen{
+            [&] { box.SetPixel(3, 4, Rood); }, [&] { box.Cls(); }, [&] { box.Line(0, 0, 20, 10, Blauw); },
+            [&] { box.PaintPicture(Bont(20, 10), QRectF(5, 5, 20, 10), QRectF(0, 0, 300, 150)); }};
+        for (const auto &teken : tekeningen) {
+            schilderingen.Aantal = 0;
+            teken();
+            QCoreApplication::processEvents();
+            QCOMPARE(schilderingen.Aantal, 1);
+        }
+    }
+
     void theWidgetShowsTheImage()
     {
         PixelBox box(30, 20);
