@@ -4,6 +4,7 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -29,6 +30,7 @@ private slots:
     void typedTextIsLikeSetText_data();
     void typedTextIsLikeSetText();
     void aLineEndWithinAParagraphIsALineEnd();
+    void aTextIsAsWideAsTheBoxLeavesIt();
     void aBoxThatIsShownWrapsLikeOneThatIsNot();
     void aLongTextIsToldToo();
     void everyParagraphIsWrapped();
@@ -243,6 +245,24 @@ void tst_TextBox::aLineEndWithinAParagraphIsALineEnd()
     QTest::keyClick(&box, 'c');
     QCOMPARE(box.Text(), u"a\r\nb\r\nc"_s);
     QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1, 1, 1, 2, 2}));
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    QTest::keyClick(&box, Qt::Key_Return, Qt::ShiftModifier);
+    QCOMPARE(RegelPerTeken(box), (QList{0, 0, 0, 1, 1, 1, 2, 2, 2, 3, 3, 4}));
+}
+
+void tst_TextBox::aTextIsAsWideAsTheBoxLeavesIt()
+{
+    OmschrijvingBox box;
+    box.resize(123, 100);
+    QCOMPARE(box.LineCount(), 1);
+    QCOMPARE(box.lineWrapMode(), QTextEdit::FixedPixelWidth);
+    QCOMPARE(box.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(box.verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(box.lineWrapColumnOrWidth(), 121); // within its frame
+    QCOMPARE(box.document()->documentMargin(), 2);
+    box.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QCOMPARE(box.LineCount(), 1);
+    QCOMPARE(box.lineWrapColumnOrWidth(), 121 - box.verticalScrollBar()->sizeHint().width());
 }
 
 void tst_TextBox::aBoxThatIsShownWrapsLikeOneThatIsNot()
