@@ -199,10 +199,12 @@ private slots:
     {
         PixelBox box;
         QCOMPARE(PictureBox(nullptr).ScaleMode(), ScaleModes::Twips);
+        QVERIFY(box.ScaleMode() != ScaleModes::Twips); // it is in pixels
         box.BoxFull(30, 30, 30, 30, Rood);
         QCOMPARE(box.Inkt(), QRect(30, 30, 1, 1));
         box.Cls();
         box.SetScaleMode(ScaleModes::Twips);
+        QCOMPARE(box.ScaleMode(), ScaleModes::Twips);
         box.BoxFull(30, 30, 30, 30, Rood);
         QCOMPARE(box.Inkt(), QRect(2, 2, 1, 1));
     }
