@@ -1,4 +1,5 @@
 #include "platform/ImageButton.h"
+#include "platform/Uiterlijk.h"
 #include "support/TestVenster.h"
 #include "support/Testbank.h"
 
@@ -7,6 +8,7 @@
 #include <QComboBox>
 #include <QGuiApplication>
 #include <QMenuBar>
+#include <QProxyStyle>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
@@ -29,6 +31,24 @@ private slots:
         bank_.emplace();
     }
     void cleanup() { bank_.reset(); }
+
+    void everyDesktopGivesTheSameLook()
+    {
+        QApplication::setStyle(u"Windows"_s);
+        QApplication::setFont(QFont(u"Liberation Mono"_s, 30, QFont::Bold));
+        QApplication::setPalette(Qt::black);
+        StelUiterlijkIn();
+        const auto *stijl = qobject_cast<const QProxyStyle *>(QApplication::style()); // ours, which rests on another
+        QVERIFY(stijl);
+        QCOMPARE(stijl->baseStyle()->name(), u"fusion"_s);
+        QCOMPARE(QApplication::font().family(), u"Liberation Sans"_s);
+        QCOMPARE(QApplication::font().pixelSize(), 11); // 8.25 points
+        QVERIFY(!QApplication::font().bold());
+        const QPalette palet = QApplication::palette();
+        QCOMPARE(palet.color(QPalette::Active, QPalette::Base), QColor(Qt::white));
+        for (const QPalette::ColorRole rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+            QCOMPARE(palet.color(QPalette::Disabled, rol), QColor(120, 120, 120));
+    }
 
     // --- the window and its controls ---
 
