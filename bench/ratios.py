@@ -87,6 +87,7 @@ try:
     times = medians(build / "bench_bord")
     waits = medians(build / "bench_vensters", build.parent / "bin")
     words = medians(build / "bench_woorden", "--benchmark_enable_random_interleaving=true")
+    printed = prints(build)
 finally:
     server.terminate()
 report("start to first painted window, beside an empty one", ours * 1000, empty * 1000, "ms", 1.5)
@@ -121,4 +122,4 @@ print(f"{'the raster of the largest board wiped, unseen':52} {unseen:9.2f} ms (a
 print(f"{'the same, each of its 481 columns shown by itself':52} {seen:9.2f} ms: {seen / 481:.3f} ms a column")
 print(f"{'resident memory with the empty board':52} {memory:9.2f} MiB (at most 70; an empty window {empty_memory:.2f})")
 report_generators(generators(build))
-report_prints(prints(build))
+report_prints(printed)
