@@ -14,7 +14,6 @@
 class ConfigForm : public Form
 {
 public:
-    /// Raises Fout::OngeldigeWaarde when the colour on the large board has a part outside 0..255.
     ConfigForm();
 
     void HScroll1_Change(); ///< of each of the three colour bars
