@@ -19,7 +19,7 @@ MainForm::MainForm() : Form(u"Main"_s, u"Raster Atelier (16x19)"_s, 18600, 11340
 {
     enige = this;
     setWindowFlags(Qt::Window);
-    setWindowIcon(Plaatjes::Pixmap(u"rasteratelier"_s, {64, 64}, 1));
+    setWindowIcon(Plaatjes::Pixmap(u"rasteratelier"_s, Plaatjes::Maat(u"rasteratelier"_s), 1));
     MaakBord();
     MaakSudokuPaneel();
     MaakLijst();

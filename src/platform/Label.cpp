@@ -37,9 +37,16 @@ void Label::SetForeColor(QRgb kleur)
     setPalette(palet);
 }
 
+void Label::setVisible(bool zichtbaar)
+{
+    QLabel::setVisible(zichtbaar);
+    if (zichtbaar)
+        Pas();
+}
+
 void Label::Pas()
 {
-    if (!AutoSize)
+    if (!AutoSize || (isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide)))
         return;
     const QFontMetricsF maten(font());
     double breedte = 0;

@@ -3,6 +3,7 @@
 #include "platform/Twips.h"
 
 #include <QHeaderView>
+#include <QStyleOption>
 
 ListView::ListView(const QList<Column> &columns, QWidget *ouder) : RowChoice(ouder)
 {
@@ -11,8 +12,13 @@ ListView::ListView(const QList<Column> &columns, QWidget *ouder) : RowChoice(oud
     header()->setStretchLastSection(false);
     header()->setSectionsMovable(false);
     setColumnCount(static_cast<int>(columns.size()));
+    QStyleOptionHeader kop;
+    kop.initFrom(header());
     for (int i = 0; i < columnCount(); ++i) {
-        headerItem()->setText(i, columns[i].Caption);
+        kop.text = columns[i].Caption;
+        headerItem()->setText(i, kop.text);
+        headerItem()->setSizeHint(
+            i, style()->sizeFromContents(QStyle::CT_HeaderSection, &kop, {}, header())); // else in bold
         setColumnWidth(i, Twips::NaarPixels(columns[i].Width));
     }
 }

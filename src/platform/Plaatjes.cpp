@@ -20,32 +20,30 @@ static QByteArray Tekening(const QString &naam)
     return open ? bestand.readAll() : QByteArray();
 }
 
-static QImage OpWit(QSvgRenderer &tekening, QSize maat)
-{
-    QImage beeld(maat.isEmpty() ? tekening.defaultSize() : maat, QImage::Format_RGB32);
-    beeld.fill(Qt::white);
-    TekenSvg(beeld, tekening, beeld.size());
-    return beeld;
-}
-
-QImage Beeld(const QString &naam, QSize maat)
-{
-    QSvgRenderer tekening(Tekening(naam));
-    return OpWit(tekening, maat);
-}
-
-QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKleur)
-{
-    QSvgRenderer tekening(Tekening(naam).replace(kleur.toLatin1(), andereKleur.toLatin1()));
-    return OpWit(tekening, {});
-}
-
 /// The picture as it was drawn out in its own size; it lies in the program.
 static QByteArray Uitgetekend(const QString &naam)
 {
     const QResource beeld(u":/assets/"_s + naam + u".beeld"_s);
     Q_ASSERT(beeld.isValid());
     return QByteArray::fromRawData(reinterpret_cast<const char *>(beeld.data()), beeld.size());
+}
+
+QImage Beeld(const QString &naam)
+{
+    const QImage getekend = LeesBeeld(Uitgetekend(naam));
+    QImage beeld(getekend.size(), QImage::Format_RGB32);
+    beeld.fill(Qt::white);
+    QPainter(&beeld).drawImage(0, 0, getekend);
+    return beeld;
+}
+
+QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKleur)
+{
+    QSvgRenderer tekening(Tekening(naam).replace(kleur.toLatin1(), andereKleur.toLatin1()));
+    QImage beeld(tekening.defaultSize(), QImage::Format_RGB32);
+    beeld.fill(Qt::white);
+    TekenSvg(beeld, tekening, beeld.size());
+    return beeld;
 }
 
 QPixmap Pixmap(const QString &naam, QSize maat, double ratio)

@@ -7,8 +7,8 @@
 /// The pictures that are compiled in, as vector drawings.
 namespace Plaatjes {
 
-/// A picture at a size in pixels; a null size gives its own. For drawing on a picture box: opaque, 32 bits a pixel.
-QImage Beeld(const QString &naam, QSize maat = {});
+/// A picture in its own size, for drawing on a picture box: on white, 32 bits a pixel.
+QImage Beeld(const QString &naam);
 /// The same drawing with one of its colours (as it is written in the drawing, such as "#e5f8c2") exchanged.
 QImage Beeld(const QString &naam, const QString &kleur, const QString &andereKleur);
 /// A picture for a widget of this size in logical pixels, sharp at any device pixel ratio, transparent where it is

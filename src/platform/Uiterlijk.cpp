@@ -1,8 +1,10 @@
 #include "platform/Uiterlijk.h"
 
 #include "platform/Canvas.h"
+#include "platform/Plaatjes.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTranslator>
@@ -89,11 +91,19 @@ public:
     }
 };
 
-/// Fusion, with one thing more: it marks a menu of the bar only once that is open, and so Alt would show nothing.
+/// Fusion, but for two things of the menu bar. It marks a menu only once that is open, and so Alt would show nothing;
+/// and for the mark of a bar that is too narrow it reads a file, for which Qt loads every picture format there is.
 class Stijl : public QProxyStyle
 {
 public:
     Stijl() : QProxyStyle(u"Fusion"_s) {}
+
+    QIcon standardIcon(StandardPixmap soort, const QStyleOption *keuze, const QWidget *widget) const override
+    {
+        if (soort != SP_ToolBarHorizontalExtensionButton)
+            return QProxyStyle::standardIcon(soort, keuze, widget);
+        return Plaatjes::Pixmap(u"meer"_s, Plaatjes::Maat(u"meer"_s), 1);
+    }
 
     void drawControl(ControlElement deel, const QStyleOption *keuze, QPainter *painter,
                      const QWidget *widget) const override
@@ -111,6 +121,8 @@ public:
 
 void StelUiterlijkIn()
 {
+    // The menu is the window's, also where a desktop would take it away.
+    QCoreApplication::setAttribute(Qt::AA_DontUseNativeMenuBar);
     QApplication::installTranslator(new Nederlands(qApp));
     QApplication::setStyle(new Stijl);
     QPalette palet = QApplication::style()->standardPalette();

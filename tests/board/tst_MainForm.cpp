@@ -253,7 +253,7 @@ private slots:
         QCOMPARE(bord.Venster.Label2->font().pixelSize(), 40); // size 30
         QVERIFY(!bord.Venster.Label2->font().bold());
         QCOMPARE(bord.Venster.windowType(), Qt::Window); // it can be minimised, as no dialog can
-        QCOMPARE(bord.Venster.windowIcon().availableSizes(), QList{QSize(64, 64)});
+        QCOMPARE(bord.Venster.windowIcon().availableSizes(), QList{QSize(128, 128)});
         const int balk = bord.Venster.findChild<QMenuBar *>()->sizeHint().height();
         QCOMPARE(bord.Venster.maximumSize(), bord.Venster.Pic->parentWidget()->size() + QSize(0, balk));
         QVERIFY(&Main() == &bord.Venster);

@@ -151,7 +151,7 @@ private slots:
             QCOMPARE(form.ImgO->geometry(), QRect(omlaag / 15, 2085 / 15, 23, 23));
             QCOMPARE(Verschil(form.ImgO->Image(), Tekening(tekeningOmlaag)), QString());
         }
-        Verwacht pic(Plaatjes::Beeld(u"vak"_s, QSize(123, 123)));
+        Verwacht pic(Plaatjes::Beeld(u"vak"_s));
         if (gesplitst)
             pic.Vul(QRect(0, 59, 123, 3), Zwart);
         QCOMPARE(Verschil(form.Pic->Image(), pic.Beeld), QString());

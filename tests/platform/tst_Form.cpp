@@ -13,6 +13,7 @@
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTimer>
+#include <QToolButton>
 
 #include <new>
 #include <optional>
@@ -48,6 +49,21 @@ private slots:
         QCOMPARE(palet.color(QPalette::Active, QPalette::Base), QColor(Qt::white));
         for (const QPalette::ColorRole rol : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
             QCOMPARE(palet.color(QPalette::Disabled, rol), QColor(120, 120, 120));
+        QVERIFY(QCoreApplication::testAttribute(Qt::AA_DontUseNativeMenuBar));
+    }
+
+    void aMenuBarThatIsTooNarrowShowsThatThereIsMore()
+    {
+        QMenuBar balk;
+        for (const QString &menu : {u"Bestand"_s, u"Bewerken"_s, u"Help"_s})
+            balk.addMenu(menu);
+        balk.resize(100, balk.sizeHint().height());
+        const auto *meer = balk.findChild<QToolButton *>();
+        balk.show();
+        QVERIFY(meer->isVisible());
+        const QImage teken = meer->icon().pixmap(8, 16).toImage();
+        QCOMPARE(teken.size(), QSize(8, 16));
+        QCOMPARE(InktVlak(teken, teken.rect(), qRgba(0, 0, 0, 0)), QRect(0, 4, 8, 8));
     }
 
     // --- the window and its controls ---

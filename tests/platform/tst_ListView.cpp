@@ -68,6 +68,16 @@ private slots:
         QVERIFY(!lijst.header()->sectionsMovable());
     }
 
+    void theCaptionsAreSeenWhole()
+    {
+        DrieRijen lijst;
+        lijst.show();
+        const QRect regel = lijst.fontMetrics().boundingRect(u"Plaats"_s);
+        QVERIFY(lijst.header()->height() >= lijst.fontMetrics().height() + 4);
+        QVERIFY(lijst.header()->height() <= 2 * lijst.fontMetrics().height());
+        QVERIFY(lijst.header()->sectionSizeHint(0) >= regel.width());
+    }
+
     void rowsHaveNoRoomForATree()
     {
         const DrieRijen lijst;
