@@ -9,6 +9,9 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdint>
+#include <sys/mman.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -49,6 +52,17 @@ QSize PictureBox::MaatInPixels() const
     return size();
 }
 
+/// Asks for the memory of a new picture in large pages, which are there in half the time. It does as well without them.
+static void VraagGrotePaginas(QImage &beeld)
+{
+    const auto pagina = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
+    const auto begin = reinterpret_cast<std::uintptr_t>(beeld.bits());
+    const std::uintptr_t eerste = (begin + pagina - 1) / pagina * pagina;
+    const std::uintptr_t einde = begin + static_cast<std::uintptr_t>(beeld.sizeInBytes());
+    if (eerste < einde)
+        madvise(reinterpret_cast<void *>(eerste), einde - eerste, MADV_HUGEPAGE);
+}
+
 QImage &PictureBox::Beeld() const
 {
     const QSize nodig = beeld_.size().expandedTo(size()).expandedTo(QSize(1, 1)); // a box may be without a side
@@ -56,6 +70,7 @@ QImage &PictureBox::Beeld() const
         QImage groter(nodig, QImage::Format_RGB32);
         if (groter.isNull())
             throw Fout(Fout::GeheugenVol);
+        VraagGrotePaginas(groter);
         groter.fill(BackColor);
         for (int y = 0; y < beeld_.height(); ++y)
             std::copy_n(beeld_.constScanLine(y), beeld_.width() * 4, groter.scanLine(y));
