@@ -210,7 +210,7 @@ private slots:
     {
         std::mt19937 willekeurig(5);
         int opgegeven = 0, overgeslagen = 0;
-        for (std::uint32_t zaad = 0; zaad < 3000; ++zaad) {
+        for (std::uint32_t zaad = 0; zaad < 1000; ++zaad) {
             const bool groot = zaad % 50 == 0;
             const int breedte = zaad == 0 ? 16 : 2 + static_cast<int>(willekeurig() % (groot ? 15 : 6));
             const int hoogte = zaad == 0 ? 19 : 2 + static_cast<int>(willekeurig() % (groot ? 18 : 6));
@@ -234,7 +234,7 @@ private slots:
             opgegeven += raster.isEmpty();
             overgeslagen += !zoeker.Overgeslagen.isEmpty();
         }
-        QVERIFY2(opgegeven > 100 && overgeslagen > 1000, qPrintable(u"%1 %2"_s.arg(opgegeven).arg(overgeslagen)));
+        QVERIFY2(opgegeven > 100 && overgeslagen > 500, qPrintable(u"%1 %2"_s.arg(opgegeven).arg(overgeslagen)));
     }
 
     void everyPlacedWordCanBeReadBack()

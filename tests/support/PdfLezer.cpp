@@ -1,6 +1,7 @@
 #include "support/PdfLezer.h"
 
 #include <QFile>
+#include <QHash>
 #include <QProcess>
 #include <QRectF>
 #include <QRegularExpression>
@@ -144,18 +145,19 @@ QStringList PdfLezer::Teksten(int pagina) const
         }
     }
     // What letter it is, is told of whole lines.
-    const auto regels = Alle(u"<text ([^>]*)font=\"(\\d+)\">(<b>)?"_s, Beschrijving(pagina));
+    QHash<QString, QString> kleuren;
+    for (const QRegularExpressionMatch &m : Alle(u"<fontspec id=\"(\\d+)\" .*color=\"([^\"]*)\""_s, Document()))
+        kleuren[m.captured(1)] = m.captured(2);
+    QList<std::pair<QRectF, QString>> regels;
+    for (const QRegularExpressionMatch &m : Alle(u"<text ([^>]*)font=\"(\\d+)\">(<b>)?"_s, Beschrijving(pagina)))
+        regels += {Vlak(m.captured(1)).adjusted(-0.1, -0.1, 0.1, 0.1),
+                   (m.captured(3).isEmpty() ? QString() : u"vet "_s) + kleuren[m.captured(2)]};
     QStringList teksten;
     for (const Woord &woord : woorden) {
         QString letter = u"?"_s;
-        for (const QRegularExpressionMatch &m : regels) {
-            const QRectF ruimer = Vlak(m.captured(1)).adjusted(-0.1, -0.1, 0.1, 0.1);
-            if (ruimer.contains(woord.Cel.topLeft()) && std::abs(ruimer.top() - woord.Cel.top()) < 1) {
-                const QString patroon = u"<fontspec id=\""_s + m.captured(2) + u"\" .*color=\"([^\"]*)\""_s;
-                letter =
-                    (m.captured(3).isEmpty() ? QString() : u"vet "_s) + Alle(patroon, Document()).value(0).captured(1);
-            }
-        }
+        for (const auto &[vlak, soort] : regels)
+            if (vlak.contains(woord.Cel.topLeft()) && std::abs(vlak.top() - woord.Cel.top()) < 1)
+                letter = soort;
         const double punten = std::round(woord.Punten() * 100) / 100;
         teksten += Plaats(woord.Cel) + u' ' + QString::number(punten) + u' ' + letter + u' ' + woord.Tekst;
     }

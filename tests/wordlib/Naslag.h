@@ -1,8 +1,7 @@
 #pragma once
 
 #include <algorithm>
-#include <array>
-#include <set>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -119,17 +118,17 @@ inline Lijst Letters(const Lijst &words, std::vector<int> starts, Tekst letters,
 }
 
 /// Whether a word can be made of the letters.
-inline bool IsTeMaken(Tekst woord, Tekst letters)
+inline bool IsTeMaken(Tekst woord, std::string letters)
 {
-    std::array<int, 256> over{};
-    for (const char letter : letters)
-        ++over[static_cast<unsigned char>(letter)];
-    int vrij = over['?'];
-    over['?'] = 0;
-    for (const char letter : woord)
-        if (--over[static_cast<unsigned char>(letter)] < 0)
-            --vrij;
-    return vrij >= 0;
+    for (const char letter : woord) {
+        size_t plaats = letters.find(letter);
+        if (plaats == std::string::npos)
+            plaats = letters.find('?');
+        if (plaats == std::string::npos)
+            return false;
+        letters.erase(plaats, 1);
+    }
+    return true;
 }
 
 /// A character of a text, or of none behind its end.
@@ -140,10 +139,10 @@ inline int Teken(Tekst tekst, size_t plaats)
 
 inline bool Begint(Tekst woord, Tekst key)
 {
-    size_t hits = 0;
     for (size_t k = 0; k < key.size(); ++k)
-        hits += Teken(woord, k) == Teken(key, k) || key[k] == '?';
-    return hits == key.size();
+        if (Teken(woord, k) != Teken(key, k) && key[k] != '?')
+            return false;
+    return true;
 }
 
 inline bool Eindigt(Tekst woord, Tekst key)
@@ -224,21 +223,30 @@ inline Lijst Wisselingen(const Lijst &regels, std::string key)
 {
     const bool goed = std::all_of(key.begin(), key.end(), [](char c) { return c >= 'a' && c <= 'z'; });
     std::sort(key.begin(), key.end());
-    return Die(regels, [&](std::string regel) {
-        if (regel.size() != key.size())
+    return Die(regels, [&](const std::string &regel) {
+        if (!goed || regel.size() != key.size())
             return false;
-        std::sort(regel.begin(), regel.end());
-        return goed && regel == key;
+        std::string letters = regel;
+        std::sort(letters.begin(), letters.end());
+        return letters == key;
     });
 }
 
-inline Lijst Ontbrekende(const Lijst &regels, const std::string &captions, size_t cellen)
+/// The lines in capitals, "IJ" as one cell.
+inline Lijst InHoofdletters(Lijst regels)
+{
+    for (std::string &regel : regels)
+        regel = Vervang(Zet(regel, true), "IJ", "?");
+    return regels;
+}
+
+/// @param lines in capitals
+inline Lijst Ontbrekende(const Lijst &lines, const std::string &captions, size_t cellen)
 {
     const std::string pattern = Vervang(captions, "IJ", "?");
     const auto unknown = static_cast<size_t>(std::count(captions.begin(), captions.end(), '-'));
     Lijst gevonden;
-    for (const std::string &regel : regels) {
-        const std::string line = Vervang(Zet(regel, true), "IJ", "?");
+    for (const std::string &line : lines) {
         if (line.size() != cellen)
             continue;
         size_t hits = 0;
@@ -250,14 +258,13 @@ inline Lijst Ontbrekende(const Lijst &regels, const std::string &captions, size_
     return gevonden;
 }
 
-/// The search of the word panel.
-inline Lijst Paneel(const Lijst &regels, size_t cellen)
+/// What the word panel finds, by the number of cells.
+inline std::map<size_t, Lijst> Paneel(const Lijst &regels)
 {
-    Lijst gevonden;
+    std::map<size_t, Lijst> gevonden;
     for (const std::string &regel : regels) {
         const std::string woord = Vervang(Zet(regel, false), "ij", "?");
-        if (woord.size() == cellen)
-            gevonden.push_back(Zet(Vervang(woord, "?", "ij"), true));
+        gevonden[woord.size()].push_back(Zet(Vervang(woord, "?", "ij"), true));
     }
     return gevonden;
 }

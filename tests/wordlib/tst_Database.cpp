@@ -395,9 +395,9 @@ void tst_Database::wordsWithVowelsComeInTheOrderOfTheExchange()
 void tst_Database::manyWordsWithVowelsAreExchanged()
 {
     std::mt19937 toeval(5);
-    const Boek boek(WillekeurigeKlinkers(10000, 19, toeval).repeated(15));
+    const Boek boek(WillekeurigeKlinkers(10000, 19, toeval).repeated(5));
     const Lijst gevonden = Gevonden([&](const Vondst &v) { ZoekKlinkers(boek.Gebied(), v); });
-    QVERIFY(gevonden.size() > 400000);
+    QVERIFY(gevonden.size() > 130000);
     QVERIFY(std::is_sorted(gevonden.begin(), gevonden.end(), [](auto &a, auto &b) { return a.size() < b.size(); }));
     Lijst verwacht = Naslag::MetKlinkers(Naslag::Words(boek.Inhoud.toStdString())), alles = gevonden;
     std::sort(alles.begin(), alles.end());
