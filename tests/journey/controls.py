@@ -9,6 +9,7 @@ from gi.repository import GLib
 
 from desktop import until
 
+LEAVES = {"label", "list item", "push button", "radio button", "check box", "scroll bar", "table cell", "separator"}  # nothing below
 Gone = (GLib.GError, NotImplementedError)  # a control that went away while it was asked something
 
 
@@ -58,21 +59,21 @@ class Control:
         return [[Control(self.program, table.getAccessibleAt(row, column)) for column in range(table.nColumns)]
                 for row in range(table.nRows)]
 
-    def tree(self, wanted=lambda _: True):
-        """This control and all below it, from top to bottom; without those that are not wanted and all below them."""
+    def tree(self, role=None, wanted=lambda _: True):
+        """All of a role, or of any, from this control down, from top to bottom; without those that are not wanted and all
+        below them. The items of lists, which are most of what there is, are looked at only when they are sought."""
         if wanted(self):
-            yield self
-            for child in self.children():
-                yield from child.tree(wanted)
+            own = self.role
+            if role in (own, None):
+                yield self
+            if own not in LEAVES and (own != "list" or role in ("list item", None)):
+                for child in self.children():
+                    yield from child.tree(role, wanted)
 
-    def shown(self):
-        """This control and all below it that are shown, from top to bottom."""
+    def all(self, role=None):
+        """All of a role, or of any, that are shown, from top to bottom."""
         self.accessible.clear_cache()
-        return list(self.tree(lambda one: one.has(pyatspi.STATE_SHOWING)))
-
-    def all(self, role):
-        """All of a role that are shown, from top to bottom."""
-        return [one for one in self.shown() if one.role == role]
+        return list(self.tree(role, lambda one: one.has(pyatspi.STATE_SHOWING)))
 
     def names(self, role="label"):
         return [one.name for one in self.all(role)]
@@ -148,8 +149,8 @@ class Program:
     def until_focus(self, role, name):
         """Waits until the focus is in this control."""
         def look():
-            return any(one.role == role and one.name == name and one.has(pyatspi.STATE_FOCUSED)
-                       for window in self.windows() for one in window.tree())
+            return any(one.name == name and one.has(pyatspi.STATE_FOCUSED)
+                       for window in self.windows() for one in window.tree(role))
         until(f"the focus in {role} '{name}'", lambda: quietly(look))
 
     def until_closed(self, title):

@@ -44,7 +44,7 @@ def outside(window):
     """The controls of a window that aren't wholly in it, as texts."""
     left, top, width, height = window.box()
     wrong = []
-    for one in window.shown():
+    for one in window.all():
         x, y, w, h = one.box()
         # Places are told in whole logical pixels, hence the one.
         if one.role in ROLES and (x < left - 1 or y < top - 1 or x + w > left + width + 1 or y + h > top + height + 1):
