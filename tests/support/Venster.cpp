@@ -1,13 +1,47 @@
 #include "support/Venster.h"
 
+#include "platform/ImageBox.h"
+#include "platform/ImageButton.h"
 #include "platform/Twips.h"
 #include "support/Testbank.h"
 
 #include <QApplication>
 #include <QContextMenuEvent>
+#include <QDir>
+#include <QLabel>
 #include <QMenu>
 
 using namespace Qt::StringLiterals;
+
+/// Whether a control lies over the middle of another one. A label that shows its text alone hides no other label, and
+/// on a plate, which has no text, lies what it is for.
+static bool Bedekt(const QWidget &boven, const QWidget &onder)
+{
+    const auto *tekst = qobject_cast<const QLabel *>(&onder);
+    if (tekst && (tekst->text().isEmpty() || (qobject_cast<const QLabel *>(&boven) && !boven.autoFillBackground())))
+        return false;
+    return !boven.isHidden() && !onder.isHidden() && boven.geometry().contains(onder.geometry().center());
+}
+
+/// What lies over a control; nullptr when nothing does.
+static const QWidget *Bedekker(const QWidget &control)
+{
+    const QObjectList &kinderen = control.parent()->children(); // from the lowest to the highest
+    for (qsizetype i = kinderen.indexOf(&control) + 1; i < kinderen.size(); ++i)
+        if (const auto *ander = qobject_cast<const QWidget *>(kinderen[i]); ander && Bedekt(*ander, control))
+            return ander;
+    return nullptr;
+}
+
+/// Whether a label has room for its text; any other control has.
+static bool TekstPast(const QWidget &control)
+{
+    const auto *label = qobject_cast<const QLabel *>(&control);
+    if (!label || label->isHidden())
+        return true;
+    return label->wordWrap() ? label->heightForWidth(label->width()) <= label->height()
+                             : label->fontMetrics().size(0, label->text()).width() <= label->width();
+}
 
 static QString Wijkt(const QWidget &control, const Plek &plek)
 {
@@ -19,6 +53,10 @@ static QString Wijkt(const QWidget &control, const Plek &plek)
         return u"is %1 bij %2 (pixels)"_s.arg(vlak.width()).arg(vlak.height());
     if (!control.isHidden() && !control.parentWidget()->rect().contains(vlak))
         return u"steekt uit"_s;
+    if (const QWidget *ander = Bedekker(control))
+        return u"ligt onder "_s + ander->objectName();
+    if (!TekstPast(control))
+        return u"is te klein voor zijn tekst"_s;
     return {};
 }
 
@@ -39,6 +77,37 @@ QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel)
         if (kind->isWidgetType() && !kind->objectName().isEmpty() && !gezien.contains(kind))
             mis += kind->objectName() + u" staat niet in de tabel"_s;
     return mis.join(u'\n');
+}
+
+/// The picture that a button shows, without the frame that the focus gives it.
+static QString PlaatjeVan(ImageButton &knop)
+{
+    knop.clearFocus();
+    const QImage beeld = knop.grab().toImage();
+    const QStringList tekeningen = QDir(u":/assets"_s).entryList({u"knop-*.svg"_s});
+    for (const QString &bestand : tekeningen) {
+        const QString naam = bestand.section(u'.', 0, 0);
+        ImageButton ander(naam, knop.parentWidget());
+        ander.resize(knop.size());
+        ander.setEnabled(knop.isEnabled());
+        if (ander.grab().toImage() == beeld)
+            return naam;
+    }
+    return u"?"_s;
+}
+
+QString PlaatjesOp(const QWidget &venster)
+{
+    QStringList plaatjes;
+    const QList<QWidget *> controls = venster.findChildren<QWidget *>();
+    for (QWidget *control : controls) {
+        if (auto *knop = qobject_cast<ImageButton *>(control))
+            plaatjes += knop->objectName() + u' ' + PlaatjeVan(*knop);
+        else if (const auto *beeld = qobject_cast<ImageBox *>(control))
+            plaatjes += beeld->objectName() + u' ' + beeld->Picture();
+    }
+    plaatjes.sort();
+    return plaatjes.join(u", "_s);
 }
 
 static QString MetFocus()

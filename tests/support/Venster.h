@@ -16,8 +16,12 @@ struct Plek
 
 /// Compares a window, or a frame on it, with the table of all its controls.
 /// @return what is wrong, a line each: a control that is elsewhere, of another size, on another frame or outside its
-/// frame, and one that is not in the table; empty when all is well
+/// frame, that lies under another one or has no room for its text, and one that is not in the table; empty when all is
+/// well
 QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel);
+
+/// The picture of each image button and each image of a window: "OkKnop knop-ok", with ", " between them.
+QString PlaatjesOp(const QWidget &venster);
 
 /// Shows a window and walks round it with the Tab key.
 /// @return the names of the controls that take the focus, in their order, from the one that has it when the window

@@ -1,8 +1,11 @@
 #include "platform/Form.h"
+#include "platform/ImageBox.h"
+#include "platform/ImageButton.h"
 #include "support/Testbank.h"
 #include "support/Venster.h"
 
 #include <QFrame>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 
@@ -63,6 +66,83 @@ private slots:
         QCOMPARE(Misplaatst(*venster.Frame1, {{"Text3"}}), u"Text3 steekt uit"_s);
         venster.Text3->hide();
         QCOMPARE(Misplaatst(*venster.Frame1, {{"Text3"}}), QString());
+    }
+
+    void whatLiesUnderAnotherIsTold()
+    {
+        TestVenster venster;
+        const QList<Plek> tabel{{"Frame1"}, {"Text1"}, {"Text2"}};
+        auto *plaat = new QLabel(venster.Frame1->parentWidget());
+        plaat->setGeometry(0, 0, 50, 50);
+        QCOMPARE(Misplaatst(venster, tabel), u"Text1 ligt onder "_s); // above all that was there
+        plaat->setObjectName(u"Plaat"_s);
+        const QString nietInDeTabel = u"Plaat staat niet in de tabel"_s;
+        QCOMPARE(Misplaatst(venster, tabel), u"Text1 ligt onder Plaat\n"_s + nietInDeTabel);
+        plaat->hide();
+        QCOMPARE(Misplaatst(venster, tabel), nietInDeTabel);
+        plaat->show();
+        plaat->resize(20, 50); // beside the middle of the box
+        QCOMPARE(Misplaatst(venster, tabel), nietInDeTabel);
+        plaat->resize(50, 50);
+        plaat->lower();
+        QCOMPARE(Misplaatst(venster, tabel + QList<Plek>{{"Plaat"}}), QString()); // it has no text: it is a plate
+        plaat->setText(u"a"_s);
+        QCOMPARE(Misplaatst(venster, tabel + QList<Plek>{{"Plaat"}}), u"Plaat ligt onder Text1"_s);
+    }
+
+    void aTextUnderATextIsNotHidden()
+    {
+        TestVenster venster;
+        QList<Plek> tabel{{"Frame1"}, {"Text1"}, {"Text2"}};
+        QList<QLabel *> labels;
+        for (const char *naam : {"Label1", "Label2"}) {
+            labels += new QLabel(u"a"_s, venster.Frame1->parentWidget());
+            labels.last()->setObjectName(QLatin1String(naam));
+            labels.last()->setGeometry(200, 150, 30, 30);
+            tabel += {naam};
+        }
+        QCOMPARE(Misplaatst(venster, tabel), QString());
+        labels[1]->setAutoFillBackground(true);
+        QCOMPARE(Misplaatst(venster, tabel), u"Label1 ligt onder Label2"_s);
+    }
+
+    void aTextWithoutRoomIsTold()
+    {
+        TestVenster venster;
+        const QList<Plek> tabel{{"Frame1"}, {"Text1"}, {"Text2"}, {"Label1"}};
+        QLabel label(u"een twee drie vier"_s, venster.Frame1->parentWidget());
+        label.setObjectName(u"Label1"_s);
+        label.setGeometry(150, 110, 40, 16);
+        const QString teKlein = u"Label1 is te klein voor zijn tekst"_s;
+        QCOMPARE(Misplaatst(venster, tabel), teKlein);
+        label.setWordWrap(true);
+        QCOMPARE(Misplaatst(venster, tabel), teKlein);
+        label.resize(40, 80);
+        QCOMPARE(Misplaatst(venster, tabel), QString());
+        label.setWordWrap(false);
+        label.resize(140, 16);
+        QCOMPARE(Misplaatst(venster, tabel), QString());
+    }
+
+    void thePicturesOfAWindow()
+    {
+        TestVenster venster;
+        QCOMPARE(PlaatjesOp(venster), QString());
+        auto *ok = new ImageButton(u"knop-ok"_s, &venster);
+        ok->setObjectName(u"OkKnop"_s);
+        ok->resize(ok->sizeHint());
+        auto *stop = new ImageButton(u"knop-stop"_s, venster.Frame1);
+        stop->setObjectName(u"StopKnop"_s);
+        stop->resize(stop->sizeHint());
+        stop->setEnabled(false);
+        auto *beeld = new ImageBox(u"logo"_s, &venster);
+        beeld->setObjectName(u"Image1"_s);
+        venster.show();
+        ok->setFocus();
+        QCOMPARE(PlaatjesOp(venster), u"Image1 logo, OkKnop knop-ok, StopKnop knop-stop"_s);
+        ok->resize(20, 20);
+        beeld->SetPicture(u"woordlijst"_s);
+        QCOMPARE(PlaatjesOp(venster), u"Image1 woordlijst, OkKnop knop-ok, StopKnop knop-stop"_s);
     }
 
     void theTabKeyWalksRoundAWindow()
