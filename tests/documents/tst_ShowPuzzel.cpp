@@ -121,6 +121,8 @@ private slots:
             QCOMPARE(plaat->palette().color(QPalette::Window), QColor(150, 180, 180));
         }
         QCOMPARE(form.SlidePic->accessibleName(), u"Orgineel puzzelveld"_s);
+        QCOMPARE(form.VScroll->orientation(), Qt::Vertical);
+        QCOMPARE(form.HScroll->orientation(), Qt::Horizontal);
         QCOMPARE(form.VScroll->accessibleName(), u"Omhoog en omlaag"_s);
         QCOMPARE(form.HScroll->accessibleName(), u"Naar links en naar rechts"_s);
         QCOMPARE(form.ExitKnop->accessibleName(), u"Sluiten"_s);

@@ -140,6 +140,12 @@ private slots:
         QCOMPARE(form.HScroll1->minimum(), 1);
         QCOMPARE(form.HScroll1->maximum(), 19);
         QCOMPARE(form.focusWidget(), form.Text1);
+        QCOMPARE(form.Text1->accessibleName(), u"Omschrijving"_s);
+        QCOMPARE(form.Text2->accessibleName(), u"Oplossing"_s);
+        QCOMPARE(form.PicZwart->accessibleName(), u"Voorbeeld van het vaknummer"_s);
+        QCOMPARE(form.HScroll1->accessibleName(), u"Vaknummer"_s);
+        for (QRadioButton *optie : form.Option)
+            QCOMPARE(Getoond(*optie).pixel(219, 19), qRgb(220, 250, 210)); // the ground of the window
         for (const LineBox *box : {form.Text1, form.Text2}) {
             QCOMPARE(box->palette().color(QPalette::Active, QPalette::Base), QColor(30, 0, 0));
             QCOMPARE(box->palette().color(QPalette::Active, QPalette::Text), QColor(230, 230, 230));
@@ -375,6 +381,13 @@ private slots:
         verwacht.Nummer({5, 6}, 7);
         verwacht.Letters({6, 6}, u"Y"_s);
         QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
+    }
+
+    void aClueOfBlanksIsAClue()
+    {
+        Filippinebord bord;
+        Plaats(bord, {{2, 6}, u"aap"_s, u" "_s});
+        QCOMPARE(bord.Rij(0), u"07| |aap|-"_s);
     }
 
     void whatIsMissingIsSaid_data()
