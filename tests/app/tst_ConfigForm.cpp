@@ -155,7 +155,8 @@ private slots:
         QCOMPARE(form.Label5->Caption(), u"Reset alle gemaakte wijzigingen"_s);
         QCOMPARE(form.Label6->Caption(), u"Kleur vakjes zichtbaar puzzelveld"_s);
         QCOMPARE(form.Label8->Caption(), u"Tekst op alle afdrukpagina's"_s);
-        QCOMPARE(form.OkKnop->toolTip(), u" Wijzigingen Opslaan "_s);
+        for (const QWidget *control : form.findChildren<QWidget *>())
+            QCOMPARE(control->toolTip(), control == form.OkKnop ? u" Wijzigingen Opslaan "_s : QString());
         QCOMPARE(form.Text1->palette().color(QPalette::Base), QColor(0, 0, 30));
         QCOMPARE(form.Text1->palette().color(QPalette::Text), QColor(230, 230, 230));
         for (const Label *plaat : {form.Label1, form.Label2}) {
@@ -280,8 +281,21 @@ private slots:
         QCOMPARE(Getoond(form), u"2=2 0=0 255=255 #0200ff 1= 1 #e6fabe 'mijn pagina'"_s);
         QTest::keyClick(form.HScroll2, Qt::Key_Left);
         QTest::keyClick(form.HScroll1[1], Qt::Key_Left);
-        QTest::keyClick(form.HScroll1[2], Qt::Key_PageUp);
-        QCOMPARE(Getoond(form), u"2=2 0=0 254=254 #0200fe 1= 1 #e6fabe 'mijn pagina'"_s);
+        for (QScrollBar *schuif : form.HScroll1) // one at a time as well
+            QTest::keyClick(schuif, Qt::Key_PageUp);
+        QCOMPARE(Getoond(form), u"1=1 0=0 254=254 #0100fe 1= 1 #e6fabe 'mijn pagina'"_s);
+    }
+
+    void theNumberOfTheChoiceStandsAtTheLeftOfItsSample()
+    {
+        Bord bord;
+        ConfigForm form;
+        for (int keuze = 1; keuze <= 3; ++keuze) {
+            form.HScroll2->setValue(keuze);
+            const QImage beeld = Getoond(*form.Label7);
+            const QRect inkt = InktVlak(beeld, beeld.rect(), Achter(*form.Label7).rgb());
+            QVERIFY(!inkt.isEmpty() && inkt.right() < 20); // behind a blank
+        }
     }
 
     void okChangesTheSettingsAndNothingElse()

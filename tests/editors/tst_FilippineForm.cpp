@@ -191,6 +191,8 @@ private slots:
             QCOMPARE(Verschil(form.PicZwart->Image(), NummerVak(nummer)), QString());
             form.HScroll1->setSliderDown(false);
         }
+        QTest::keyClick(form.HScroll1, Qt::Key_PageDown); // one at a time
+        QCOMPARE(Verschil(form.PicZwart->Image(), NummerVak(2)), QString());
         for (const int buiten : {-1, 0, 20, 300, INT_MAX}) {
             form.HScroll1->setValue(buiten);
             QCOMPARE(Verschil(form.PicZwart->Image(), NummerVak(buiten < 1 ? 1 : 19)), QString());
@@ -411,7 +413,9 @@ private slots:
         const Stand ervoor = EditorStand(bord);
         FilippineForm form;
         VulIn(form, {.Cel = {2, 6}, .Oplossing = oplossing, .Omschrijving = omschrijving, .Zoekwoord = zoekwoord});
+        form.Text2->setFocus();
         Klik(bord, *form.OkKnop);
+        QCOMPARE(form.focusWidget(), form.Text2); // it stays where it was
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         const Bericht &bericht = bord.Bank.Script.Gezien[0];
         QCOMPARE(bericht.Tekst, u"Omschrijving en/of Oplossing intypen..."_s);
@@ -479,6 +483,16 @@ private slots:
                  (QList{Rij{u"07"_s, u"Dier"_s, u"Aap?"_s, u"-"_s}, Rij{u"07"_s, QString(), u"noot"_s, u"-"_s}}));
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"ListView1"_s);
         QVERIFY(!form.Unloaded());
+    }
+
+    // The pointer was never on the board: its label still has no row, and the row tells what the label tells.
+    void aRowHasTheTextOfTheLabel()
+    {
+        Filippinebord bord;
+        FilippineForm form;
+        VulIn(form, {{0, 0}, u"aap"_s, u"dier"_s});
+        form.OkKnop_Click();
+        QCOMPARE(bord.Rij(0), u"Coordinaten|dier|aap|-"_s);
     }
 
     void aRowOfItShowsNoLine()

@@ -140,6 +140,7 @@ private slots:
                 form->HScroll1->setValue(waarde);
                 QVERIFY(form->Label2->geometry().right() < form->width());
                 QVERIFY(!form->Label2->geometry().intersects(form->OkKnop->geometry()));
+                QVERIFY(HeeftInkt(Getoond(*form->Label2), form->Label2->rect(), qRgb(230, 250, 190)));
             }
         }
     }
