@@ -88,4 +88,26 @@ def dialogs(run):
     run.desktop.shot("main-filled")
     run.push(run.main.window, "Over de ontwerper")
     look(run.program.window("About Rasteratelier...", "about"), "Sluiten")
+    begin(run, "Kruiswoord")
+    run.main.open_popup("C-01", 3)
+    run.program.popup("Vaknummer plaatsen")
+    look(run.program.window("Vaknummer Plaatsen op C-01 / 3", "number"), "Annuleren")
+    begin(run, "Filippine")
+    run.desktop.click(*run.main.cell_middle("C-04"))
+    window = run.program.window("Oplossing Plaatsen op 04", "answer")
+    run.write(window.find("text", "Omschrijving"), "wit en groot")
+    run.write(window.find("text", "Oplossing"), "ijsbeer")
+    look(window, "Ok")
+    run.desktop.shot("main-answer")
     return wrong
+
+
+def begin(run, kind):
+    """A new puzzle of another kind, of the same size."""
+    run.program.menu("Bestand", "Nieuwe puzzel ontwerpen")
+    window = run.program.window("Nieuwe puzzel ontwerpen")
+    window.find("radio button", f"{kind} Puzzel").click()
+    run.write(window.find("text", "Naam Puzzel"), "maten")
+    run.push(window, "Ok")
+    run.program.until_closed(window.name)
+    run.main.window.find("label", f"Soortpuzzel : {kind}")
