@@ -56,10 +56,8 @@ public:
             BeginPdf(titel);
         else if (!QPrinterInfo::printerInfo(wachtrij).isNull()) // else it would go to another queue
             BeginAfdruk(wachtrij, titel);
-        if (!Apparaat || !Schilder.begin(Apparaat.get())) {
-            Apparaat.reset();
+        if (!Apparaat || !Schilder.begin(Apparaat.get()))
             return;
-        }
         Schilder.setRenderHint(QPainter::LosslessImageRendering);
         Schilder.scale(Apparaat->logicalDpiX() / static_cast<double>(Twips::PerInch),
                        Apparaat->logicalDpiY() / static_cast<double>(Twips::PerInch));
@@ -68,7 +66,7 @@ public:
     /// Raises Fout when the PDF file cannot be written.
     void Voltooi()
     {
-        if (!Apparaat)
+        if (!Schilder.isActive())
             return;
         Schilder.end();
         if (!pad_.isEmpty())
@@ -83,8 +81,8 @@ private:
     QBuffer inhoud_; ///< of the PDF file
 
 public:
-    std::unique_ptr<QPagedPaintDevice> Apparaat; ///< nullptr: nowhere to draw
-    QPainter Schilder;
+    std::unique_ptr<QPagedPaintDevice> Apparaat;
+    QPainter Schilder; ///< not active: nowhere to draw
 };
 
 void Printer::Document::BeginPdf(const QString &titel)
@@ -133,7 +131,7 @@ Printer::Document &Printer::Begonnen()
 
 QSize Printer::MaatInPixels() const
 {
-    if (!document_ || !document_->Apparaat)
+    if (!document_ || !document_->Schilder.isActive())
         return {};
     return document_->Apparaat->pageLayout().paintRectPixels(Twips::PerInch).size();
 }
@@ -141,7 +139,7 @@ QSize Printer::MaatInPixels() const
 void Printer::MetPainter(const std::function<void(QPainter &)> &teken)
 {
     Document &document = Begonnen();
-    if (document.Apparaat)
+    if (document.Schilder.isActive())
         teken(document.Schilder);
 }
 
@@ -163,7 +161,7 @@ void Printer::Cls()
 void Printer::NewPage()
 {
     Document &document = Begonnen();
-    if (document.Apparaat)
+    if (document.Schilder.isActive())
         document.Apparaat->newPage();
     CurrentX = CurrentY = 0;
 }
