@@ -1,4 +1,5 @@
 #include "platform/Printers.h"
+#include "platform/Screen.h"
 #include "support/HaperendeSchijf.h"
 #include "support/Onbevoegd.h"
 #include "support/PdfLezer.h"
@@ -271,6 +272,18 @@ private slots:
         bank_->Script.Bestanden = {QString()};
         printer_->Print(u"a"_s);
         QCOMPARE(bank_->Script.Voorstellen, QStringList{bank_->Thuis() + voorstel});
+    }
+
+    void howTheFileIsAskedFor()
+    {
+        Begin();
+        bool zandloper = true;
+        bank_->Script.BijBestand = [&] { zandloper = Zandloper(); };
+        const Screen::Bezig bezig;
+        printer_->Print(u"a"_s);
+        QCOMPARE(bank_->Script.BestandVragen, QStringList{u"Afdrukken naar een PDF-bestand: PDF-bestanden (*.pdf)"_s});
+        QVERIFY(!zandloper); // the arrow is for whoever answers
+        QVERIFY(Zandloper());
     }
 
     void withoutAFileNothingIsPrintedAndNothingIsSaid()

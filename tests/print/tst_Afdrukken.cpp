@@ -4,6 +4,7 @@
 #include "print/Afdrukken.h"
 #include "support/Bestuurder.h"
 #include "support/Onbevoegd.h"
+#include "support/PdfLezer.h"
 #include "support/Venster.h"
 #include "support/Verwacht.h"
 
@@ -44,9 +45,11 @@ struct Pdfbord : Bord
 
     Pdfbord() { Bank.Script.Bestanden = {Pad}; }
     /// Prints the puzzle; the dialog closes without a word, whatever came of it.
-    void Druk()
+    void Druk(bool tijd = false, bool oplossing = false)
     {
         Afdrukken form;
+        form.Check1->setChecked(tijd);
+        form.Check2->setChecked(oplossing);
         form.PrintKnop->click();
         QVERIFY(form.Unloaded());
         QVERIFY(!QGuiApplication::overrideCursor() || !Zandloper());
@@ -91,6 +94,15 @@ private slots:
         }
     }
 
+    void itsPictures()
+    {
+        const Printbord bord;
+        Afdrukken form;
+        QCOMPARE(form.Image1->Picture(), u"printer"_s);
+        QVERIFY(Toont(*form.CancelKnop, u"knop-annuleren-laag"_s));
+        QVERIFY(Toont(*form.PrintKnop, u"knop-afdrukken"_s));
+    }
+
     void theTabKeyGoesFromThePrinterOn()
     {
         Printbord bord;
@@ -127,6 +139,9 @@ private slots:
         const QList<QObject *> kinderen = form.Label6->parent()->children();
         QVERIFY(kinderen.indexOf(form.Label6) > kinderen.indexOf(form.Label7)); // the shadow lies below
         QCOMPARE(form.Combo2->accessibleName(), u"Printerkeuze"_s);
+        for (const QCheckBox *check : {form.Check1, form.Check2})
+            QCOMPARE(check->accessibleName(), check->text());
+        QCOMPARE(form.Picture1->accessibleName(), u"Voorbeeld"_s);
         QCOMPARE(form.CancelKnop->accessibleName(), u"Annuleren"_s);
         QCOMPARE(form.PrintKnop->accessibleName(), u"Afdrukken"_s);
     }
@@ -155,6 +170,7 @@ private slots:
         const QImage blad = Plaatjes::Beeld(u"sjabloon%1"_s.arg(type));
         QCOMPARE(blad.size(), QSize(113, 165));
         QVERIFY(form.Picture1->Image() == blad);
+        QCOMPARE(Verschil(Getoond(form).copy(form.Picture1->geometry()), blad), QString()); // its frame lies behind it
         for (int ander = 1; ander <= 5; ++ander)
             QCOMPARE(Plaatjes::Beeld(u"sjabloon%1"_s.arg(ander)) == blad, ander == type);
     }
@@ -338,6 +354,49 @@ private slots:
         QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
+    void thePuzzleIsPrinted_data()
+    {
+        QTest::addColumn<bool>("tijd");
+        QTest::addColumn<bool>("oplossing");
+        for (const bool tijd : {false, true})
+            for (const bool oplossing : {false, true})
+                Geval(QByteArray(tijd ? "the time" : "no time") + (oplossing ? ", the solution" : ""), tijd, oplossing);
+    }
+    void thePuzzleIsPrinted()
+    {
+        QFETCH(bool, tijd);
+        QFETCH(bool, oplossing);
+        Pdfbord bord;
+        bord.Begin(Sudoku, 9, 10);
+        PuzzelNaam = u"Reis"_s;
+        PaginaTekst = u"www.voorbeeld.nl"_s;
+        bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2025, 12, 31), QTime(23, 59, 58)));
+        bord.Druk(tijd, oplossing);
+        const PdfLezer pdf(bord.Pad);
+        QStringList teksten{u"600,300 12 vet #00005a Puzzelnaam : Reis"_s};
+        if (tijd)
+            teksten += u"9000,300 12 vet #5a0000 23:59:58 / 31-12-2025"_s;
+        QCOMPARE(pdf.Teksten(1), teksten + QStringList{u"600,16200 9 #000000 www.voorbeeld.nl"_s});
+        QStringList beelden{u"600,900 6750x7500"_s};
+        if (oplossing)
+            beelden += u"600,8400 6750x7500"_s;
+        QCOMPARE(pdf.Beelden(1), beelden);
+        QCOMPARE(pdf.Beeld(0).convertToFormat(QImage::Format_RGB32), bord.Pic());
+        if (oplossing)
+            QCOMPARE(pdf.Beeld(1).convertToFormat(QImage::Format_RGB32), bord.Groot());
+    }
+
+    void theRowsArePrinted()
+    {
+        Pdfbord bord;
+        bord.Begin(Kruiswoord, 9, 10);
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"12"_s}});
+        bord.Druk();
+        const PdfLezer pdf(bord.Pad);
+        QCOMPARE(pdf.Beeld(0).convertToFormat(QImage::Format_RGB32), bord.Groot());
+        QCOMPARE(pdf.Teksten(2).value(2), u"600,900 8 #323232 12. dier"_s);
+    }
+
     void itProposesThePuzzlesName()
     {
         Pdfbord bord;
@@ -399,6 +458,14 @@ private slots:
         setrlimit(RLIMIT_FSIZE, &vrij);
         QCOMPARE(bord.Bank.Bestanden(QString()), QStringList{u"puzzel.pdf"_s});
         QCOMPARE(bord.Bank.Inhoud(u"puzzel.pdf"_s), QByteArray("oud"));
+    }
+
+    void aFailureInTheHeadIsSilentToo()
+    {
+        Pdfbord bord;
+        bord.Bank.Script.BijBestand = [] { throw Fout(Fout::GeheugenVol); };
+        bord.Druk();
+        QVERIFY(!QFileInfo::exists(bord.Pad));
     }
 
     void aQueueThatHasGone()

@@ -30,9 +30,11 @@ QString BerichtenScript::VraagTekst(const QString &vraag, const QString &titel)
     return {};
 }
 
-QString BerichtenScript::VraagBestand(const QString &titel, const QString &voorstel, const QString & /*soort*/)
+QString BerichtenScript::VraagBestand(const QString &titel, const QString &voorstel, const QString &soort)
 {
     Voorstellen += voorstel;
+    BestandVragen += titel + u": "_s + soort;
+    BijBestand();
     if (!Bestanden.isEmpty())
         return Bestanden.takeFirst();
     QTest::qFail(qPrintable(u"onverwachte vraag naar een bestand: "_s + titel), __FILE__, __LINE__);

@@ -11,6 +11,8 @@
 #include <QTest>
 #include <QWidget>
 
+#include <functional>
+
 /// A message as it was shown.
 struct Bericht
 {
@@ -29,10 +31,12 @@ public:
 
     QString VraagTekst(const QString &vraag, const QString &titel) override;
 
-    QList<Antwoord> Antwoorden; ///< for the questions to come, first one first
-    QStringList Teksten;        ///< for the texts that are asked for, first one first
-    QStringList Bestanden;      ///< for the files that are asked for, an empty one for none
-    QStringList Voorstellen;    ///< the paths that were proposed
+    QList<Antwoord> Antwoorden;               ///< for the questions to come, first one first
+    QStringList Teksten;                      ///< for the texts that are asked for, first one first
+    QStringList Bestanden;                    ///< for the files that are asked for, an empty one for none
+    QStringList Voorstellen;                  ///< the paths that were proposed
+    QStringList BestandVragen;                ///< how they were asked for: "title: kind of file"
+    std::function<void()> BijBestand = [] {}; ///< run when a file is asked for; it may raise
     QList<Bericht> Gezien;
 };
 

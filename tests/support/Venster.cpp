@@ -110,6 +110,16 @@ QString PlaatjesOp(const QWidget &venster)
     return plaatjes.join(u", "_s);
 }
 
+bool Toont(QWidget &control, const QString &plaatje)
+{
+    ImageBox beeld(plaatje, nullptr);
+    QPalette palet;
+    palet.setColor(QPalette::Window, control.palette().color(QPalette::Window));
+    beeld.setPalette(palet);
+    beeld.resize(control.size());
+    return Getoond(control) == Getoond(beeld);
+}
+
 static QString MetFocus()
 {
     const QWidget *control = QApplication::focusWidget();

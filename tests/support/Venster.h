@@ -23,6 +23,9 @@ QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel);
 /// The picture of each image button and each image of a window: "OkKnop knop-ok", with ", " between them.
 QString PlaatjesOp(const QWidget &venster);
 
+/// Whether what is seen of a control is the picture of that name, in the control's size.
+bool Toont(QWidget &control, const QString &plaatje);
+
 /// Shows a window and walks round it with the Tab key.
 /// @return the names of the controls that take the focus, in their order, from the one that has it when the window
 /// opens
