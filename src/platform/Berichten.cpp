@@ -5,11 +5,14 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QGridLayout>
+#include <QHeaderView>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTreeView>
 
 using namespace Qt::StringLiterals;
 
@@ -87,7 +90,15 @@ static QString Titel(const QString &titel)
 
 QString Berichten::VraagBestand(const QString &titel, const QString &voorstel, const QString &soort)
 {
-    return QFileDialog::getSaveFileName(Ouder(), titel, voorstel, soort);
+    const QFileInfo bestand(voorstel);
+    QFileDialog dialoog(Ouder(), titel, bestand.path(), soort);
+    dialoog.setAcceptMode(QFileDialog::AcceptSave);
+    dialoog.selectFile(bestand.fileName());
+    if (const auto *lijst = dialoog.findChild<QTreeView *>()) { // not in the system's own dialog
+        lijst->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        lijst->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+    return dialoog.exec() == QDialog::Accepted ? dialoog.selectedFiles().value(0) : QString();
 }
 
 Antwoord MsgBox(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)

@@ -366,6 +366,20 @@ private slots:
                                        u"Zoeken in:"_s}));
     }
 
+    void theListOfFilesHasRoomForAllThatItTells()
+    {
+        bank_->Schrijf(u"groot.pdf"_s, QByteArray(123456, 'x'));
+        EchteVraag(bank_->Map() + u"/reis.pdf"_s, [](QFileDialog &dialoog) {
+            const auto sluit = qScopeGuard([&] { dialoog.reject(); });
+            const auto *boom = dialoog.findChild<QTreeView *>();
+            const QAbstractItemView *lijst = boom;
+            QTRY_COMPARE(lijst->model()->rowCount(lijst->rootIndex()), 2); // and a folder
+            for (int i = 0; i < boom->header()->count(); ++i)
+                QTRY_VERIFY(boom->columnWidth(i) >= lijst->sizeHintForColumn(i));
+            QCOMPARE(boom->header()->length(), lijst->viewport()->width());
+        });
+    }
+
     void theFileThatIsTypedIsTheAnswer()
     {
         const QString voorstel = bank_->Map() + u"/reis.pdf"_s;
