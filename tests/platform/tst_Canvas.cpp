@@ -4,6 +4,7 @@
 
 #include <QFontInfo>
 #include <QFontMetricsF>
+#include <QPainter>
 #include <QRegularExpression>
 
 #include <cmath>
@@ -62,6 +63,9 @@ private slots:
                 QTEST(font.family(), "familie");
                 QCOMPARE(font.bold(), vet);
                 QVERIFY(!font.italic());
+                const QFont gevraagd = Lettertype(naam, punten, vet);
+                QCOMPARE(gevraagd.hintingPreference(), QFont::PreferNoHinting);
+                QCOMPARE(int(gevraagd.styleStrategy()), QFont::PreferAntialias | QFont::NoSubpixelAntialias);
             }
     }
 
@@ -138,6 +142,7 @@ private slots:
         QCOMPARE(doek.TextWidth(QString()), 0.0);
         QCOMPARE(doek.TextHeight(u"Raster"_s), std::round(maten.ascent() + maten.descent()) * 15);
         QCOMPARE(doek.TextHeight(QString()), doek.TextHeight(u"Raster"_s));
+        QCOMPARE(doek.TextHeight(u"Raster\natelier"_s), 2 * doek.TextHeight(u"Raster"_s));
         QVERIFY(doek.TextHeight(QString()) >= 16 * 15);
         QVERIFY(doek.TextHeight(QString()) <= 20 * 15);
     }
@@ -207,6 +212,22 @@ private slots:
                 grijs = grijs || (qRed(pixel) > 64 && qRed(pixel) < 192);
             }
         QVERIFY(grijs);
+    }
+
+    void aLargeLetterStandsOnAWholePixel()
+    {
+        const QFont font = Lettertype(u"Arial"_s, 60, false);
+        const double hoogte = QFontMetricsF(font).ascent();
+        QVERIFY(hoogte != std::round(hoogte));
+        Doek doek;
+        doek.FontSize = 60;
+        doek.PrintOp(1500, 300, u"H"_s);
+        QImage hoort(doek.Image().size(), QImage::Format_RGB32);
+        hoort.fill(Wit);
+        QPainter painter(&hoort);
+        painter.setFont(font);
+        painter.drawText(QPointF(100, 20 + std::round(hoogte)), u"H"_s);
+        QCOMPARE(doek.Image(), hoort);
     }
 
     void printingGoesToTheNextLine()

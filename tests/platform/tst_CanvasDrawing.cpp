@@ -191,6 +191,8 @@ private slots:
         punt.fill(Rood);
         box.PaintPicture(punt, QRectF(twips, twips, 15, 15), QRectF(0, 0, 15, 15));
         QCOMPARE(inkt(), plek);
+        box.PaintPicture(punt, QRectF(0, 0, std::abs(twips) + 15, 15), QRectF(0, 0, 15, 15)); // as wide as that
+        QCOMPARE(inkt(), QRect(0, 0, std::abs(pixel) + 1, 1));
         box.Line(twips, twips, 60 * 15, 40 * 15, Rood);
         QCOMPARE(inkt(), QRect(QPoint(std::min(pixel, 60), std::min(pixel, 40)), QPoint(60, 40)));
     }
