@@ -1,5 +1,6 @@
 #include "board/WoordPaden.h"
 #include "support/Onbevoegd.h"
+#include "support/Venster.h"
 #include "support/Verloop.h"
 #include "support/Woordbord.h"
 
@@ -28,6 +29,19 @@ class tst_WoordPaneel : public QObject
 {
     Q_OBJECT
 private slots:
+    void thePicturesOfThePanel()
+    {
+        Woordbord bord;
+        QCOMPARE(PlaatjesOp(*bord.Venster.Frame2), u"Image1 woordenboek, OkKnop knop-zoeken"_s);
+        QCOMPARE(PlaatjesOp(*bord.Venster.Frame3), u"LoadKnop knop-laden"_s);
+    }
+
+    void aLengthIsChosenAndNotTyped()
+    {
+        Woordbord bord;
+        QVERIFY(!bord.Venster.Combo1->isEditable());
+    }
+
     // --- the words of a length ---
 
     void theLengthIsShown()

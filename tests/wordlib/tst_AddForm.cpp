@@ -90,7 +90,8 @@ private slots:
         QCOMPARE(form.DelKnop->toolTip(), u" Woord verwijderen "_s);
         QCOMPARE(form.AddKnop->toolTip(), u" Woord toevoegen "_s);
         QCOMPARE(form.SaveKnop->toolTip(), u" Woordlijst opslaan "_s);
-        QVERIFY(!form.Image1->Picture().isNull());
+        QCOMPARE(PlaatjesOp(form), u"AddKnop knop-toevoegen, CancelKnop knop-annuleren, DelKnop knop-delete, Image1 "
+                                   "woordlijst, NieuwKnop knop-nieuw, SaveKnop knop-opslaan"_s);
     }
 
     void coloursAndFonts()

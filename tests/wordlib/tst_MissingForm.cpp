@@ -131,6 +131,7 @@ private slots:
             QCOMPARE(form.VScroll[i]->orientation(), Qt::Vertical);
         }
         QVERIFY(form.HelpPic->isHidden());
+        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren, ExportKnop knop-export, OkKnop knop-ok"_s);
         QVERIFY(form.Label4->geometry().right() < form.Label5->geometry().left());
     }
 
@@ -147,6 +148,7 @@ private slots:
             QCOMPARE(form.Label1[i]->font().pixelSize(), 17); // 13 points
             QVERIFY(!form.Label1[i]->font().bold());
             QCOMPARE(form.Label1[i]->frameShape(), QFrame::NoFrame);
+            QCOMPARE(form.Label1[i]->alignment(), Qt::AlignCenter);
         }
         // The plates are seen round what lies on them, and the letters are filled.
         const QImage beeld = Getoond(*form.List1->parentWidget());
