@@ -64,6 +64,7 @@ AddForm::AddForm() : Form(u"AddForm"_s, u"Woordlijsten bewerken"_s, 9150, 4800, 
     VulOnderwerpen();
 
     bij(List2, &ListBox::Click, &AddForm::List2_Click);
+    connect(Text1, &LineBox::returnPressed, AddKnop, &ImageButton::click);
     bij(AddKnop, &ImageButton::clicked, &AddForm::AddKnop_Click);
     bij(DelKnop, &ImageButton::clicked, &AddForm::DelKnop_Click);
     bij(NieuwKnop, &ImageButton::clicked, &AddForm::NieuwKnop_Click);
@@ -74,7 +75,7 @@ AddForm::AddForm() : Form(u"AddForm"_s, u"Woordlijsten bewerken"_s, 9150, 4800, 
 void AddForm::VulOnderwerpen()
 {
     QStringList onderwerpen;
-    negeer([&] { LeesOnderwerpen(onderwerpen); });
+    LeesOnderwerpen(onderwerpen);
     List2->SetItems(onderwerpen);
 }
 

@@ -40,6 +40,7 @@ FormMain::FormMain() : Form(u"FormMain"_s, u"Woorden Wisseling"_s, 6300, 3510, R
     Text1->setMaxLength(9);
     List1->Sorted = true;
 
+    connect(Text1, &LineBox::returnPressed, OkKnop, &ImageButton::click);
     bij(OkKnop, &ImageButton::clicked, &FormMain::OkKnop_Click);
     bij(ExportKnop, &ImageButton::clicked, &FormMain::ExportKnop_Click);
 }

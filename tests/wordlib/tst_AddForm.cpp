@@ -220,6 +220,24 @@ private slots:
         QCOMPARE(form.Label2->Caption(), u"3"_s);
     }
 
+    void enterAddsWhatWasTyped()
+    {
+        Woordbord bord;
+        AddForm form;
+        form.show();
+        form.Text1->setFocus();
+        for (const auto &[woord, toets] : {std::pair(u"vos"_s, Qt::Key_Return), std::pair(u"kat"_s, Qt::Key_Enter)}) {
+            QTest::keyClicks(form.Text1, woord);
+            QTest::keyClick(form.Text1, toets);
+        }
+        QCOMPARE(Woorden(form), u"kat|vos"_s);
+        QCOMPARE(form.Label2->Caption(), u"2"_s);
+        QCOMPARE(form.focusWidget(), form.Text1);
+        QTest::keyClick(form.Text1, Qt::Key_Return);
+        QCOMPARE(Woorden(form), u"kat|vos"_s);
+        QVERIFY(!form.Unloaded());
+    }
+
     void noWordIsAdded_data()
     {
         QTest::addColumn<QString>("getypt");

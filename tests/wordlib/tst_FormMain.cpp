@@ -158,6 +158,22 @@ private slots:
         QCOMPARE(Woorden(form), u"Regisseur"_s);
     }
 
+    void enterInTheBoxSearches()
+    {
+        Woordbord bord("kat\r\n");
+        FormMain form;
+        form.Text1->setText(u"tak"_s);
+        for (const Qt::Key toets : {Qt::Key_Return, Qt::Key_Enter}) {
+            form.List1->Clear();
+            QTest::keyClick(form.Text1, toets);
+            QCOMPARE(Woorden(form), u"Kat"_s);
+        }
+        QVERIFY(!form.Unloaded());
+        bord.GeenDatabase();
+        QTest::keyClick(form.Text1, Qt::Key_Return);
+        QVERIFY(bord.Bank.Script.Gezien[0].Tekst.startsWith(u"Fout 53 bij 'Start zoeken': "_s));
+    }
+
     void withoutADatabaseTheSearchFails()
     {
         Woordbord bord("kat");
