@@ -132,7 +132,7 @@ void MainForm::OkKnop_Click()
 void MainForm::LoadKnop_Click()
 {
     LoadKnop->Druk();
-    negeer([this] { LeesOnderwerpen(File1_); });
+    LeesOnderwerpen(File1_);
     List3->SetItems(File1_);
 }
 

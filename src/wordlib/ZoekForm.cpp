@@ -232,7 +232,7 @@ void ZoekForm::ZoekTrefwoord()
 
 void ZoekForm::ZoekKlinkers()
 {
-    Wachten(0);
+    Wacht(0);
     List1->Clear();
     Lijst([&](const Vondst &vondst) { ::ZoekKlinkers(Gebied(), vondst); });
 }

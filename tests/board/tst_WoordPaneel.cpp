@@ -206,13 +206,13 @@ private slots:
 
     void withoutAFolderTheOldNamesStay_data()
     {
-        QTest::addColumn<bool>("weg");
-        Geval("missing", true);
-        Geval("forbidden", false);
+        QTest::addColumn<QString>("hoe");
+        for (const char *hoe : {"missing", "forbidden", "a file in its place"})
+            Geval(hoe, QString::fromLatin1(hoe));
     }
     void withoutAFolderTheOldNamesStay()
     {
-        QFETCH(bool, weg);
+        QFETCH(QString, hoe);
         Woordbord bord;
         bord.Lijst(u"Zee"_s, "x");
         MainForm &main = bord.Venster;
@@ -223,8 +223,10 @@ private slots:
         map.rename(u"weg"_s, u"Woordlijsten"_s);
         main.LoadKnop->click();
         QCOMPARE(Woorden(*main.List3), u"Zee"_s);
-        if (weg)
+        if (hoe != "forbidden"_L1)
             map.rename(u"Woordlijsten"_s, u"weg"_s);
+        if (hoe == "a file in its place"_L1)
+            bord.Bank.Schrijf(u"Woordlijsten"_s, "x");
         const Onbevoegd onbevoegd(bord.Bank, {}, {u"Woordlijsten"_s});
         main.LoadKnop->click();
         QCOMPARE(Woorden(*main.List3), u"Zee"_s);

@@ -225,6 +225,7 @@ private slots:
             verwacht += NietGevonden;
         QCOMPARE(verloop.Stappen, verwacht);
         QCOMPARE(PosX, posX);
+        QCOMPARE(form.WordHash.size(), static_cast<size_t>(4 * (posX + 1))); // made before the index, which may fail
         QVERIFY(bord.Venster.Label2->isHidden());
         QVERIFY(!Zandloper());
         QStringList gelezen = woorden.split(u' ', Qt::SkipEmptyParts);

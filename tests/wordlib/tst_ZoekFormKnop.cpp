@@ -307,6 +307,23 @@ private slots:
         }
     }
 
+    void closingTheWindowBeforeTheVowelsAreLookedFor()
+    {
+        Zoekvenster venster("kat\r\naai\r\n");
+        venster.Kies(4, QString());
+        venster.Form.List1->AddItem(u"oud"_s);
+        venster.Form.show();
+        Verloop verloop;
+        verloop.Bijwerk = [&] {
+            if (verloop.Stappen.size() == 2) // while pending events are run
+                venster.Form.close();
+        };
+        venster.Form.Knop->click();
+        QCOMPARE(verloop.Stappen.size(), 2);
+        QCOMPARE(venster.Gezien(), u"oud (0)"_s);
+        QVERIFY(!Zandloper());
+    }
+
     void aSecondClickDuringTheWaitListsNothingTwice()
     {
         for (int wijze = 0; wijze <= 4; ++wijze) {
