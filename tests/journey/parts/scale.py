@@ -7,16 +7,20 @@ FACTORS = 1, 1.25, 1.5, 1.75
 MAIN_SIZE = 1234, 706  # what the main window holds below its menu bar, unscaled
 ROLES = "push button", "label", "text", "radio button", "check box", "combo box", "list", "tree", "frame", "filler"
 OWN_BAR = "Woordlengte"  # a control of the window
+WORD_TOOLS = (("Bibliotheek", "Database doorzoeken", "Database doorzoeken"), ("Bibliotheek", "Woorden wisseling", "Woorden Wisseling"),
+              ("Bibliotheek", "Ontbrekende letters", "Ontbrekende Letters"), ("Tools", "Woordlijsten bewerken", "Woordlijsten bewerken"))
 
 
 def walk(journey):
     write_puzzle(journey.puzzles, "Reisdoornl")
+    (journey.map / "Data").mkdir()
+    (journey.map / "Data" / "nederlands.lib").write_bytes(b"aal\r\n")
     wrong = []
     for factor in FACTORS:
         run = journey.start(f"main-{factor}", scale=factor)
         wrong += [f"{factor}: {what}" for what in lacking(journey.desktop, run.main.window, factor)]
         if factor == 1.5:
-            wrong += [f"{factor}: {what}" for what in dialogs(run)]
+            wrong += [f"{factor}: {what}" for what in dialogs(run) + word_tools(run)]
         run.program.menu("Bestand", "Exit")  # the button may be out of sight
         if factor == 1.5:
             run.message("Afsluiten", "Puzzel is gewijzigd, wil je toch afsluiten?", "Ja", "question", code=0)
@@ -53,7 +57,7 @@ def outside(window):
 
 
 def dialogs(run):
-    """Opens all of them, keeps their pictures, and tells what isn't in them."""
+    """Opens those of a puzzle, keeps their pictures, and tells what isn't in them."""
     wrong = []
 
     def look(window, button):
@@ -111,3 +115,15 @@ def begin(run, kind):
     run.push(window, "Ok")
     run.program.until_closed(window.name)
     run.main.window.find("label", f"Soortpuzzel : {kind}")
+
+
+def word_tools(run):
+    """The same of the word tools. Some have a menu bar; they scroll when they are a pixel too small."""
+    wrong = []
+    for menu, item, title in WORD_TOOLS:
+        run.program.menu(menu, item)
+        window = run.program.window(title, item.replace(" ", "-").lower())
+        wrong += outside(window) + [f"'{title}' scrolls: {bar.box()}" for bar in window.all("scroll bar") if not bar.name]
+        run.desktop.key("Escape")
+        run.program.until_closed(title)
+    return wrong
