@@ -114,6 +114,7 @@ private slots:
     {
         Spel spel;
         MaakSudoku();
+        spel.Venster.PicGroot->FontBold = false;
         const Stand ervoor = spel.Nu();
         TekenOplossing();
         QCOMPARE(Verschil(spel.Groot(), OplossingBeeld(spel.Venster.PicVak->Image())), QString());
@@ -147,6 +148,7 @@ private slots:
                 gegeven += cel;
 
         spel.Kies(40);
+        spel.Venster.Pic->FontBold = false;
         const Stand ervoor = spel.Nu();
         Toeval::Zaad(11);
         spel.Venster.Option[niveau]->click();

@@ -2,6 +2,7 @@
 
 #include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
+#include "platform/Plaatjes.h"
 #include "platform/Twips.h"
 #include "support/Testbank.h"
 
@@ -10,6 +11,7 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -140,6 +142,29 @@ QString TabVolgorde(QWidget &venster)
     if (MetFocus() != namen.first())
         namen += u"en terug naar "_s + MetFocus();
     return namen.join(u' ');
+}
+
+QString Leesnamen(const QWidget &venster)
+{
+    QStringList namen;
+    for (const QWidget *control : venster.findChildren<QWidget *>())
+        if (control->focusPolicy() != Qt::NoFocus && !control->isHidden() && !control->objectName().isEmpty() &&
+            !control->objectName().startsWith("qt_"_L1))
+            namen += control->objectName() + u'=' + control->accessibleName();
+    return namen.join(u'|');
+}
+
+bool Toont(QWidget &knop, const QString &plaatje)
+{
+    QImage beeld(knop.size(), QImage::Format_RGB32);
+    beeld.fill(knop.palette().color(QPalette::Window));
+    QPainter(&beeld).drawPixmap(0, 0, Plaatjes::Pixmap(plaatje, knop.size(), 1));
+    return Getoond(knop) == beeld;
+}
+
+bool ToontHeel(const QLabel &uitleg)
+{
+    return uitleg.wordWrap() && uitleg.heightForWidth(uitleg.width()) <= uitleg.height();
 }
 
 QStringList Items(const ListBox &lijst)

@@ -3,6 +3,7 @@
 #include "platform/ListBox.h"
 
 #include <QComboBox>
+#include <QLabel>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -30,6 +31,16 @@ bool Toont(QWidget &control, const QString &plaatje);
 /// @return the names of the controls that take the focus, in their order, from the one that has it when the window
 /// opens
 QString TabVolgorde(QWidget &venster);
+
+/// What a screen reader says of the controls that the user does something with, in the order of their making,
+/// those of a frame with the frame: "OkKnop=Ok|CancelKnop=Annuleren".
+QString Leesnamen(const QWidget &venster);
+
+/// Whether a button without the focus shows this picture and nothing else. @param plaatje its name
+bool Toont(QWidget &knop, const QString &plaatje);
+
+/// Whether a text that is broken over lines shows whole in its place.
+bool ToontHeel(const QLabel &uitleg);
 
 /// All that can be chosen, from top to bottom.
 QStringList Items(const ListBox &lijst);

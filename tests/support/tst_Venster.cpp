@@ -166,6 +166,39 @@ private slots:
         QCOMPARE(TabVolgorde(venster), u"Text1 Text2 Text3 Val en terug naar Val"_s);
     }
 
+    void theNamesOfAWindow()
+    {
+        TestVenster venster;
+        QCOMPARE(Leesnamen(venster), u"Text3=|Text1=|Text2="_s);
+        Vind<QWidget>(venster, u"Text1"_s)->setAccessibleName(u"Een"_s);
+        Vind<QWidget>(venster, u"Text2"_s)->hide();
+        venster.Text3->setFocusPolicy(Qt::NoFocus);
+        QCOMPARE(Leesnamen(venster), u"Text1=Een"_s);
+    }
+
+    void thePictureOfAButton()
+    {
+        TestVenster venster;
+        ImageButton knop(u"knop-ok"_s, &venster);
+        knop.resize(knop.sizeHint());
+        QVERIFY(Toont(knop, u"knop-ok"_s));
+        QVERIFY(!Toont(knop, u"knop-opslaan"_s));
+        knop.setEnabled(false);
+        QVERIFY(!Toont(knop, u"knop-ok"_s));
+    }
+
+    void aTextOverSomeLines()
+    {
+        QLabel uitleg(u"een twee drie"_s);
+        const QSize regel = uitleg.sizeHint();
+        uitleg.resize(regel.width() / 2, 3 * regel.height());
+        QVERIFY(!ToontHeel(uitleg)); // on one line
+        uitleg.setWordWrap(true);
+        QVERIFY(ToontHeel(uitleg));
+        uitleg.resize(uitleg.width(), regel.height());
+        QVERIFY(!ToontHeel(uitleg));
+    }
+
     void theMenuOfARightClick()
     {
         TestVenster venster;

@@ -43,6 +43,7 @@ private slots:
         QCOMPARE(QFontInfo(form.Combo1->font()).family(), u"Liberation Mono"_s);
         QVERIFY(!form.Combo1->font().bold());
         QCOMPARE(TabVolgorde(form), u"Combo1"_s);
+        QCOMPARE(Leesnamen(form), u"Combo1=Scheikundige elementen"_s);
     }
 
     void thePictureLiesBehindAll()
@@ -121,6 +122,16 @@ private slots:
         QCOMPARE(Items(*form.Combo1), (QStringList{Goud, Tin})); // what is typed is never kept
         QTest::keyClick(&form, Qt::Key_Escape);
         QVERIFY(form.Unloaded());
+    }
+
+    void theBoxIsFilledUnderTheHourglass()
+    {
+        const Elementenbord bord;
+        ChemischForm form;
+        bool zandloper = false;
+        connect(form.Combo1->model(), &QAbstractItemModel::modelReset, this, [&] { zandloper = Zandloper(); });
+        form.VulElementen();
+        QVERIFY(zandloper && !Zandloper());
     }
 
     void aLibraryThatFails_data()

@@ -47,6 +47,7 @@ private slots:
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 190, 230));
         QCOMPARE(form.Text1->Text(), QString());
         QCOMPARE(form.Text1->palette().color(QPalette::Base), QColor(230, 230, 190));
+        QCOMPARE(form.Text1->palette().color(QPalette::Text), QColor(0, 0, 0));
         QCOMPARE(form.Text1->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOn);
         QCOMPARE(LetterVan(form), u"13"_s); // 9.75 points
         QCOMPARE(QFontInfo(form.Text1->font()).family(), u"Liberation Sans"_s);
@@ -54,9 +55,15 @@ private slots:
         QCOMPARE(Menu(*form.findChild<QMenu *>(u"Edit"_s)),
                  u"Tekstgrootte (8 Pixels|9 Pixels|x 10 Pixels|11 Pixels|12 Pixels|13 Pixels|14 Pixels)|Vette Tekst|"
                  "Schuinschrift"_s);
+        QStringList namen;
+        for (const QAction *item :
+             {form.FileSave, form.FileExit, form.TG.first(), form.TG.last(), form.EditBold, form.EditItalic})
+            namen += item->objectName();
+        QCOMPARE(namen.join(u' '), u"FileSave FileExit TG(8) TG(14) EditBold EditItalic"_s);
         QCOMPARE(Misplaatst(form, {{"Text1", 0, 0, 9000 - 210, 6000 - 840}}), QString());
         form.show();
         QCOMPARE(form.focusWidget(), form.Text1);
+        QCOMPARE(Leesnamen(form), u"Text1=Tekst"_s);
     }
 
     void theBoxFollowsTheWindow_data()
@@ -176,7 +183,9 @@ private slots:
         KladblokForm form;
         form.Text1->SetText(u"koe"_s);
         bord.Bank.Script.Teksten = {naam};
+        const Stand ervoor = bord.Nu();
         form.FileSave->trigger();
+        QCOMPARE(bord.Veranderd(ervoor), QString());
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Geef de naam voor deze woordlijst..."_s);
         QTEST(bord.Lijsten(), "bestanden");
@@ -271,6 +280,19 @@ private slots:
         QCOMPARE(bord.Lijsten(), bestanden);
         QTEST(bord.Bank.Inhoud(u"Woordlijsten/"_s + bestanden[0]), "inhoud");
         QVERIFY(!form.Unloaded());
+    }
+
+    void ofTwoListsTheOneAsTypedGoes()
+    {
+        Woordbord bord;
+        bord.Lijst(u"dieren"_s, "oud");
+        bord.Lijst(u"Dieren"_s, "ouder");
+        KladblokForm form;
+        form.Text1->SetText(u"koe"_s);
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        form.SaveKladblok(u"dieren"_s);
+        QCOMPARE(bord.Lijsten(), QStringList{u"Dieren.txt"_s});
+        QCOMPARE(bord.Lijst(u"Dieren"_s), QByteArray("koe\r\n"));
     }
 
     void aWriteThatFailsLeavesNoList()

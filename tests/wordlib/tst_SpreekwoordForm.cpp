@@ -87,6 +87,7 @@ private slots:
         const Naslagbord bord;
         SpreekwoordForm form;
         QCOMPARE(TabVolgorde(form), u"List1 OkKnop"_s);
+        QCOMPARE(Leesnamen(form), u"List1=Bibliotheek|OkKnop=Ok"_s);
     }
 
     void theMenu()
@@ -266,11 +267,14 @@ private slots:
         form.FileCripto[static_cast<size_t>(index)]->trigger();
         form.show();
         QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {}, Onder(*form.List1));
+        const QStringList gebleven{u"Alles goed"_s, u"Één is geen"_s}; // those of the proverbs, and not shown
         for (const int rij : {0, 1, index - 1}) {
             form.List1->SetListIndex(rij);
             form.List1_DblClick();
             QCOMPARE(form.Titel, form.List1->List(rij));
+            QCOMPARE(form.Betekenis, gebleven.value(rij));
         }
+        QVERIFY(!form.Unloaded());
         QCOMPARE(Gemeld(bord.Bank.Script), QString());
     }
 
