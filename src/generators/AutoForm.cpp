@@ -108,6 +108,7 @@ void AutoForm::AddKnop_Click()
     if (!woord.isEmpty()) {
         const QString tekst = Text1->Text();
         Text1->SetText(tekst.isEmpty() ? woord : tekst + u"\r\n"_s + woord);
+        Text1->moveCursor(QTextCursor::End); // the word comes in sight
     }
     Text2->clear(); // also of nothing but blanks
     Text2->setFocus();

@@ -153,6 +153,30 @@ private slots:
         QCOMPARE(TabVolgorde(blad.Form), u"Text2 AddKnop Combo1 Combo2 OkKnop CancelKnop ExportKnop Text1"_s);
     }
 
+    void theNamesForAScreenReader()
+    {
+        Blad blad;
+        QCOMPARE(Leesnamen(blad.Form),
+                 u"Text1=Woordenlijst|Text2=Woord invoer|AddKnop=Woord toevoegen|Combo1=Breedte|Combo2=Hoogte|"
+                 "OkKnop=Draw puzzel|CancelKnop=Annuleren|ExportKnop=Puzzel exporteren naar hoofdveld"_s);
+        QCOMPARE(blad.Form.picGrid->accessibleName(), u"Puzzelveld"_s);
+    }
+
+    void thePicturesOfTheButtons_data()
+    {
+        QTest::addColumn<QString>("plaatje");
+        Geval("AddKnop", "knop-toevoegen");
+        Geval("OkKnop", "knop-ok");
+        Geval("CancelKnop", "knop-annuleren");
+        Geval("ExportKnop", "knop-export");
+    }
+    void thePicturesOfTheButtons()
+    {
+        QFETCH(QString, plaatje);
+        Blad blad;
+        QVERIFY(Toont(*Vind<ImageButton>(blad.Form, QLatin1String(QTest::currentDataTag())), plaatje));
+    }
+
     void asItOpens()
     {
         Blad blad;
@@ -179,6 +203,7 @@ private slots:
                  "lijst. Voor het maken van een nieuwe puzzel klik dan linksboven op het menuitem "
                  "'Bewerken/Nieuwe puzzel'\n\nDe lange 'IJ' wordt tijdelijk vervangen door het vraagteken ? in het "
                  "linker puzzelveld."_s);
+        QVERIFY(ToontHeel(*form.Label3));
     }
 
     void itsColours()
@@ -230,9 +255,10 @@ private slots:
         Blad blad;
         AutoForm &form = blad.Form;
         MaakActief(form);
-        form.EditVoorbeeld->trigger();
+        VulIn(form, u"AAP"_s, u"10"_s, u"11"_s);
         form.Text2->setText(u"woord"_s);
         form.OkKnop_Click();
+        QCOMPARE(form.Text2->text(), u"woord"_s);
         form.OkKnop->setFocus();
         const Stand ervoor = blad.Scherm.Nu();
         const QString grid = WoordzoekerRaster;
@@ -241,6 +267,7 @@ private slots:
         QVERIFY(form.Text2->hasFocus());
         QCOMPARE(form.picGrid->Image(), Doek(305, 305, Achter));
         QCOMPARE(form.Label5->Caption(), u"Woord invoer (0)"_s);
+        QCOMPARE(form.Combo1->currentText() + u'x' + form.Combo2->currentText(), u"10x11"_s);
         QCOMPARE(WoordzoekerRaster, grid);
         QCOMPARE(blad.Scherm.Veranderd(ervoor), QString());
     }
@@ -301,6 +328,44 @@ private slots:
         QCOMPARE(form.Label5->Caption(), u"Woord invoer (0)"_s);
         QVERIFY(form.Text2->hasFocus());
         QVERIFY(blad.Gezien().isEmpty());
+    }
+
+    void theWordThatWasAddedIsInSight()
+    {
+        Blad blad;
+        AutoForm &form = blad.Form;
+        form.show();
+        form.Text1->SetText(u"AAP\r\n"_s.repeated(50));
+        form.Text2->setText(u"noot"_s);
+        form.AddKnop->click();
+        QTextCursor einde(form.Text1->document());
+        einde.movePosition(QTextCursor::End);
+        QVERIFY(form.Text1->viewport()->rect().contains(form.Text1->cursorRect(einde)));
+    }
+
+    void whatIsTypedDuringThePressCounts_data()
+    {
+        QTest::addColumn<QString>("gevolg");
+        Geval("AddKnop", "NOOT MIES");
+        Geval("OkKnop", "NOOT 110");
+        Geval("ExportKnop", "10x11");
+    }
+    void whatIsTypedDuringThePressCounts()
+    {
+        Blad blad;
+        AutoForm &form = blad.Form;
+        VulIn(form, u"AAP"_s, u"9"_s, u"9"_s);
+        auto *knop = Vind<ImageButton>(form, QLatin1String(QTest::currentDataTag()));
+        KlikMetDruk(*knop, [&] {
+            VulIn(form, u"NOOT"_s, u"10"_s, u"11"_s);
+            form.Text2->setText(u"mies"_s);
+        });
+        QString gevolg = form.Text1->Text().replace("\r\n"_L1, " "_L1);
+        if (knop == form.OkKnop)
+            gevolg = u"%1 %2"_s.arg(Woorden(form)).arg(WoordzoekerRaster.size());
+        if (knop == form.ExportKnop)
+            gevolg = u"%1x%2"_s.arg(BoardWidth).arg(BoardHeight);
+        QTEST(gevolg, "gevolg");
     }
 
     void theSizeOfTheLetters_data()
@@ -578,6 +643,7 @@ private slots:
         main.Pic->BoxFull(0, 0, 1e5, 1e5, qRgb(1, 2, 3));
         main.PicGroot->BoxFull(0, 0, 1e6, 1e6, qRgb(1, 2, 3));
         QVERIFY(!main.Line1->isHidden() && !main.Shape1->isHidden());
+        main.Pic->FontBold = false;
         PuzzelNaam = u"blijft"_s;
         WoordzoekerRaster = Letters(180);
         VulIn(blad.Form, u"Ijs\r\nRIJ\r\nwat?\r\nNijmegen"_s, u"12"_s, u"15"_s);
@@ -603,6 +669,16 @@ private slots:
                  u"BoardHeight BoardWidth Frame8 Label1 Label11 Label12 Line1 ListView1 Main Pic PicGroot PicO PicR "
                  "PuzzelType Shape1"_s); // not PuzzelGewijzigd, not the name
         QCOMPARE(WoordzoekerRaster, Letters(180));
+    }
+
+    void theExportLeavesWhetherThePuzzleIsChanged()
+    {
+        for (const bool gewijzigd : {false, true}) {
+            Blad blad;
+            PuzzelGewijzigd = gewijzigd;
+            blad.Form.ExportKnop->click();
+            QCOMPARE(PuzzelGewijzigd, gewijzigd);
+        }
     }
 
     void theExportedGridIsTheOneThatWasDrawn()
