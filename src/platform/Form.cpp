@@ -172,6 +172,10 @@ QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften, QWidget *
     for (const QString &opschrift : opschriften) {
         opties += Maak<QRadioButton>("", opschrift, ouder, opschrift);
         opties.last()->setObjectName(u"Option%1"_s.arg(opties.size()));
+        opties.last()->setFocusPolicy(Qt::ClickFocus);
+        connect(opties.last(), &QRadioButton::toggled, opties.last(), [optie = opties.last()](bool aan) {
+            optie->setFocusPolicy(aan ? Qt::StrongFocus : Qt::ClickFocus); // Tab goes to the chosen one alone
+        });
     }
     opties.first()->setChecked(true);
     return opties;

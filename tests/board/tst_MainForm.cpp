@@ -106,6 +106,16 @@ private slots:
             u"ListView1 DelKnop List1 ScrolLengte OkKnop List2 Combo1 List3 LoadKnop HelpKnop AboutKnop ExitKnop"_s);
     }
 
+    void theTabKeyGoesThroughTheSudokuPanel()
+    {
+        Bord bord;
+        bord.Begin(Sudoku, 9, 9);
+        bord.Venster.ToonPuzzel(u"Raster Atelier"_s);
+        const QString volgorde = TabVolgorde(bord.Venster);
+        QVERIFY2(volgorde.startsWith("StartKnop Option2 ListView1 "_L1),
+                 qPrintable(volgorde)); // the level that is chosen
+    }
+
     void texts()
     {
         Bord bord;
@@ -239,6 +249,9 @@ private slots:
         main.Option[2]->click();
         QVERIFY(!main.Option[1]->isChecked()); // one at a time
         QCOMPARE(main.StartKnop->accessibleName(), u"Nieuwe puzzel"_s);
+        QVERIFY(Toont(*main.StartKnop, u"knop-ok"_s));
+        QCOMPARE(main.Frame9->accessibleName(), u"Sudoku"_s);
+        QVERIFY(ToontHeel(*main.Label14));
         bord.Begin(Sudoku, 9, 9);
         main.ToonPuzzel(u"Raster Atelier"_s);
         QVERIFY(main.Option[2]->isChecked()); // another puzzle keeps the level

@@ -67,6 +67,19 @@ private slots:
         QCOMPARE(TestVenster::Gekozen(opties), 1);
     }
 
+    void theTabKeyGoesToTheChosenOption()
+    {
+        TestVenster venster;
+        const QList<QRadioButton *> opties = venster.MaakOpties({u"een"_s, u"twee"_s, u"drie"_s});
+        for (const int gekozen : {0, 2, 1, 0}) {
+            opties[gekozen]->setChecked(true);
+            for (int i = 0; i < 3; ++i) {
+                QCOMPARE(bool(opties[i]->focusPolicy() & Qt::TabFocus), i == gekozen);
+                QVERIFY(opties[i]->focusPolicy() & Qt::ClickFocus);
+            }
+        }
+    }
+
     void theListOfANumberBoxStandsAtItsText_data()
     {
         QTest::addColumn<int>("nu");
