@@ -90,6 +90,7 @@ void MaakSudoku()
     SudokuRaster raster;
     while (!Vul(raster))
         raster = {};
-    for (int cel = 0; cel < 81; ++cel)
-        SudokuOplossing[static_cast<size_t>(cel)] = raster[cel];
+    int cel = 0;
+    for (qint32 &cijfer : SudokuOplossing)
+        cijfer = raster[cel++];
 }
