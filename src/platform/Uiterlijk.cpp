@@ -14,7 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What Qt itself shows: the menu of every box one types in, and the dialog that asks for a file.
+/// What Qt itself shows: the menu of every box one types in, the dialog that asks for a file, and the help of the
+/// command line.
 class Nederlands : public QTranslator
 {
 public:
@@ -78,9 +79,20 @@ public:
             {"&No"_L1, u"&Nee"_s},
             {"OK"_L1, u"OK"_s},
             {"Cancel"_L1, u"Annuleren"_s}};
+        static const QHash<QLatin1String, QString> Opdrachtregel{
+            {"Usage: %1"_L1, u"Gebruik: %1"_s},
+            {"[options]"_L1, u"[keuzes]"_s},
+            {"Options:"_L1, u"Keuzes:"_s},
+            {"Displays help on commandline options."_L1, u"Toont deze uitleg."_s},
+            {"Displays help including Qt specific options."_L1, u"Toont deze uitleg met de keuzes van Qt erbij."_s},
+            {"Unknown option '%1'."_L1, u"Onbekende keuze '%1'."_s},
+            {"Unknown options: %1."_L1, u"Onbekende keuzes: %1."_s},
+            {"Missing value after '%1'."_L1, u"Achter '%1' ontbreekt de waarde."_s},
+            {"Unexpected value after '%1'."_L1, u"Achter '%1' hoort geen waarde."_s}};
         static const QHash<QLatin1String, const QHash<QLatin1String, QString> *> Bronnen{
             {"QWidgetTextControl"_L1, &Box},
             {"QLineEdit"_L1, &Box},
+            {"QCommandLineParser"_L1, &Opdrachtregel},
             {"QFileDialog"_L1, &Dialoog},
             {"QFileSystemModel"_L1, &Dialoog},
             {"QAbstractFileIconProvider"_L1, &Dialoog},

@@ -3,6 +3,7 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QCommandLineParser>
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QHeaderView>
@@ -322,6 +323,27 @@ private slots:
             box.close();
         });
         QCOMPARE(vlaggen, VlaggenVanEenDialoog);
+    }
+
+    void theCommandLineIsToldInDutch()
+    {
+        const auto fout = [](const QStringList &woorden) {
+            QCommandLineParser regel;
+            regel.addOption({u"map"_s, u"De map."_s, u"MAP"_s});
+            regel.addOption({u"stil"_s, u"Zonder tekst."_s});
+            return regel.parse(QStringList(u"programma"_s) + woorden) ? QString() : regel.errorText();
+        };
+        QCOMPARE(fout({u"--mop"_s}), u"Onbekende keuze 'mop'."_s);
+        QCOMPARE(fout({u"--mop"_s, u"--mep"_s}), u"Onbekende keuzes: mop, mep."_s);
+        QCOMPARE(fout({u"--map"_s}), u"Achter '--map' ontbreekt de waarde."_s);
+        QCOMPARE(fout({u"--stil=ja"_s}), u"Achter '--stil' hoort geen waarde."_s);
+        QCommandLineParser regel;
+        regel.addHelpOption();
+        const QStringList hulp = regel.helpText().split(u'\n', Qt::SkipEmptyParts);
+        QVERIFY2(hulp[0].startsWith(u"Gebruik: "_s) && hulp[0].endsWith(u" [keuzes]"_s), qPrintable(hulp[0]));
+        QCOMPARE(hulp[1], u"Keuzes:"_s);
+        QVERIFY2(hulp[2].endsWith(u"  Toont deze uitleg."_s), qPrintable(hulp[2]));
+        QVERIFY2(hulp[3].endsWith(u"  Toont deze uitleg met de keuzes van Qt erbij."_s), qPrintable(hulp[3]));
     }
 
     void aFileIsAskedForInDutch()
