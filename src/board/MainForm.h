@@ -37,6 +37,8 @@ public:
     void ToonPuzzel(const QString &programma);
     /// What all of these have but the name: an exported word search keeps the one that stands in the bar.
     void ToonBord(const QString &programma);
+    void ToonNaam();              ///< shows PuzzelNaam in the menu bar
+    QString GetoondeNaam() const; ///< the name that stands there
 
     // The entry list: MainFormLijst.cpp.
     void ListView1_ItemClick();

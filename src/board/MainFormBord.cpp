@@ -89,8 +89,19 @@ void MainForm::ToonSoort()
 
 void MainForm::ToonPuzzel(const QString &programma)
 {
-    Bestandsnaam->setText(PuzzelNaam);
+    ToonNaam();
     ToonBord(programma);
+}
+
+// In the text of an item "&&" is shown as "&"; a single one would only underline what stands behind it.
+void MainForm::ToonNaam()
+{
+    Bestandsnaam->setText(QString(PuzzelNaam).replace("&"_L1, "&&"_L1));
+}
+
+QString MainForm::GetoondeNaam() const
+{
+    return Bestandsnaam->text().replace("&&"_L1, "&"_L1);
 }
 
 void MainForm::ToonBord(const QString &programma)

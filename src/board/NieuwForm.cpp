@@ -93,7 +93,7 @@ void NieuwForm::OkKnop_Click()
         return;
     }
     PuzzelNaam = QString(naam).remove(u' ');
-    Main().Bestandsnaam->setText(PuzzelNaam);
+    Main().ToonNaam();
 
     int breedte = Getallen::NaarInt32(Combo1->currentText());
     int hoogte = Getallen::NaarInt32(Combo2->currentText());

@@ -34,7 +34,7 @@ SaveForm::SaveForm() : Form(u"SaveForm"_s, u"Puzzel opslaan"_s, 4800, 1560, RGB(
     Kleur(Text1, RGB(40, 0, 0), RGB(220, 220, 220));
     Bar->SetScaleMode(ScaleModes::Pixels);
     Bar->hide();
-    const QString naam = Main().Bestandsnaam->text();
+    const QString naam = Main().GetoondeNaam();
     Text1->setText(naam == "Puzzelnaam"_L1 ? QString() : naam);
     Text1->setFocus();
 

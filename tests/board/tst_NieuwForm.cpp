@@ -240,6 +240,17 @@ private slots:
         }
     }
 
+    void anAmpersandOfTheNameIsShown()
+    {
+        Bord bord;
+        NieuwForm form;
+        VulIn(form, u"vraag & antwoord && meer"_s, u"12"_s, u"14"_s);
+        form.OkKnop_Click();
+        QCOMPARE(PuzzelNaam, u"vraag&antwoord&&meer"_s);
+        QCOMPARE(bord.Venster.Bestandsnaam->iconText(), PuzzelNaam); // what is seen of its text
+        QCOMPARE(bord.Venster.GetoondeNaam(), PuzzelNaam);
+    }
+
     void theChangedFlagStaysAsItIs()
     {
         for (const bool gewijzigd : {false, true}) {

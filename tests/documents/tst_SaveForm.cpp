@@ -92,9 +92,10 @@ private slots:
         QCOMPARE(leeg.Label1->Caption(), u"0%"_s);
         QCOMPARE(leeg.Text1->palette().color(QPalette::Base), QColor(40, 0, 0));
         QCOMPARE(leeg.Text1->palette().color(QPalette::Text), QColor(220, 220, 220));
-        bord.Venster.Bestandsnaam->setText(u"vakantie"_s);
+        PuzzelNaam = u"zon & zee"_s;
+        bord.Venster.ToonNaam();
         SaveForm form;
-        QCOMPARE(form.Text1->text(), u"vakantie"_s);
+        QCOMPARE(form.Text1->text(), u"zon & zee"_s);
     }
 
     void theFourFiles()
