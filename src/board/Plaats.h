@@ -15,9 +15,9 @@ QString PlaatsTekst(int kolom, int rij, int vak);
 /// What the text of a place says.
 struct Plaats
 {
-    double Kolom = 0; ///< from 0
-    double Rij = 0;   ///< from 0
-    QChar Richting;   ///< the last character of the text: the letter of a direction, if it has one
+    double Kolom;   ///< from 0
+    double Rij;     ///< from 0
+    QChar Richting; ///< the last character of the text: the letter of a direction, if it has one
 };
 
 /// Reads a place by the roles of its characters: the first is the column, the third and fourth are the row, the last is

@@ -16,12 +16,12 @@ struct Richting
 };
 
 /// To the right, downward, diagonally to the right and down, diagonally to the left and down.
-inline constexpr std::array<Richting, 4> Richtingen{{
+inline constexpr auto Richtingen = std::to_array<Richting>({
     {u'H', 1, 0},
     {u'V', 0, 1},
     {u'R', 1, 1},
     {u'L', -1, 1},
-}};
+});
 
 /// @return nullptr for a letter that is no direction
 constexpr const Richting *RichtingVan(QChar letter)
