@@ -82,7 +82,8 @@ private slots:
         QVERIFY(SluitMain());
         QCOMPARE(start.Bank.Script.Gezien.size(), 1);
         QCOMPARE(start.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
-        QVERIFY(start.Bank.Script.Gezien[0].Tekst.contains(u"instellingen"_s));
+        const QString tekst = start.Bank.Script.Gezien[0].Tekst;
+        QVERIFY2(tekst.contains(u" bij het bewaren van de instellingen: "_s), qPrintable(tekst));
     }
 };
 

@@ -12,6 +12,7 @@
 #include "support/Schil.h"
 #include "support/Venster.h"
 #include "support/Verloop.h"
+#include "support/Verwacht.h"
 
 #include <QClipboard>
 #include <QDesktopServices>
@@ -102,6 +103,7 @@ private slots:
         Geval("ShowOrgineel", "ShowOrgineel", "ShowPuzzel", "ExitKnop knop-sluiten");
         Geval("ToolsConfig", "ToolsConfig", "ConfigForm",
               "CancelKnop knop-annuleren, Image1 instellingen, OkKnop knop-ok, ResetKnop knop-reset");
+        Geval("ToolsKladblok", "ToolsKladblok", "KladblokForm", "");
     }
     void menuItemsOpenTheirWindow()
     {
@@ -191,6 +193,7 @@ private slots:
         qputenv("USER", "tessel");
         Vind<QAction>(programma.Main(), item)->trigger();
         QCOMPARE(programma.Shell.Geopend.size(), 1);
+        QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty());
         const QString geopend = programma.Shell.Geopend[0].toString(QUrl::FullyDecoded);
         QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(doel)).match(geopend).hasMatch(),
                  qPrintable(geopend));
@@ -224,10 +227,8 @@ private slots:
     void theHelpButtonOpensTheManual()
     {
         Programma programma;
-        programma.Main().HelpKnop->click();
-        QCOMPARE(programma.Shell.Geopend.size(), 1);
-        QCOMPARE(programma.Shell.Geopend[0], QUrl::fromLocalFile(AppPath + u"/Data/help.pdf"_s));
-        QCOMPARE(programma.Scherm.Bank.TestKlok.Gewacht(), 0.2);
+        KlikMetDruk(*programma.Main().HelpKnop, [&] { QVERIFY(programma.Shell.Geopend.isEmpty()); });
+        QCOMPARE(programma.Shell.Geopend, QList<QUrl>{QUrl::fromLocalFile(AppPath + u"/Data/help.pdf"_s)});
     }
 
     void aSecondClickDuringThePressEffectRunsTheCommandTwice()
@@ -253,9 +254,10 @@ private slots:
     {
         Programma programma;
         Bestuurder bestuurder(u"AboutForm"_s, [](Form &form) {
+            QVERIFY(form.isModal());
             QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-sluiten, Image1 rasteratelier"_s);
         });
-        programma.Main().AboutKnop->click();
+        KlikMetDruk(*programma.Main().AboutKnop, [&] { QVERIFY(!QApplication::activeModalWidget()); });
         QVERIFY(bestuurder.Gezien());
     }
 
@@ -278,17 +280,17 @@ private slots:
         QVERIFY(main.Shape1->isVisible() && main.Line1->isVisible()); // neither is drawn into the board
         QVERIFY(Getoond(*main.Pic) != programma.Scherm.Pic());
         const Stand ervoor = programma.Scherm.Nu();
+        QGuiApplication::clipboard()->clear();
+        Verloop verloop([] { return QGuiApplication::clipboard()->image().isNull() ? u"leeg"_s : u"vol"_s; });
         main.ToolsKlemboard->trigger();
         const QImage klembord = QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32);
         QCOMPARE(klembord, programma.Scherm.Pic()); // at screen size, with its grid lines
         QCOMPARE(klembord.pixel(30, 15), qRgb(150, 150, 150));
         QCOMPARE(programma.Scherm.Veranderd(ervoor), QString());
-        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
-        const Bericht &bericht = programma.Scherm.Bank.Script.Gezien[0];
-        QCOMPARE(bericht.Tekst,
-                 u"Puzzel is gecopyeerd naar Clipboard en...\nbeschikbaar in diverse tekenprogramma's."_s);
-        QCOMPARE(bericht.Soort, Knoppen::Ok);
-        QCOMPARE(bericht.Plaatje, Icoon::Geen);
+        QCOMPARE(verloop.Stappen, QStringList{u"Rasteratelier: Puzzel is gecopyeerd naar Clipboard en...\n"
+                                              "beschikbaar in diverse tekenprogramma's. | vol"_s});
+        QCOMPARE(verloop.Gezien[0].Soort, Knoppen::Ok);
+        QCOMPARE(verloop.Gezien[0].Plaatje, Icoon::Geen);
     }
 
     void aFilippineCanBeCleared()
@@ -443,16 +445,30 @@ private slots:
             programma.Scherm.Klik(Qt::LeftButton, 0, 0);
             programma.Main().SoortPlaatsing->close();
             const Stand ervoor = programma.Scherm.Nu();
-            programma.Scherm.Bank.Script.Antwoorden = {antwoord};
+            Verloop verloop([&] { return programma.Scherm.Veranderd(ervoor); });
+            verloop.Antwoorden = {antwoord};
             programma.Main().SoortVakTekst[5]->trigger();
+            QCOMPARE(verloop.Stappen[0],
+                     u"Fill: Wil je alle lege vakjes opvullen met willekeurige letters? (ja of nee) |"_s);
+            QCOMPARE(verloop.Gezien.size(), 1);
             QCOMPARE(programma.Scherm.Veranderd(ervoor), antwoord == Antwoord::Ja ? u"Pic Shape1"_s : u"Shape1"_s);
             QVERIFY(programma.Main().Shape1->isHidden());
         }
-        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 2);
-        const Bericht &vraag = programma.Scherm.Bank.Script.Gezien[0];
-        QCOMPARE(vraag.Tekst, u"Wil je alle lege vakjes opvullen met willekeurige letters?"_s);
-        QCOMPARE(vraag.Titel, u"Fill"_s);
-        QCOMPARE(vraag.Soort, Knoppen::JaNee);
+    }
+
+    void theExitButtonIsPressedAndRestsBeforeTheEnd()
+    {
+        Programma programma;
+        MainForm &main = programma.Main();
+        QList<QPoint> plaatsen{main.ExitKnop->pos()};
+        KijkKlok klok([&] {
+            QVERIFY(main.isVisible());
+            plaatsen += main.ExitKnop->pos();
+        });
+        main.ExitKnop->click();
+        QVERIFY(!main.isVisible());
+        QCOMPARE(klok.Wachttijden, (QList<double>{0.2, 0.2}));
+        QCOMPARE(plaatsen, (QList<QPoint>{plaatsen[0], plaatsen[0] + QPoint(2, 2), plaatsen[0]}));
     }
 
     void theThreeWaysToEndSaveTheSettings_data()

@@ -64,7 +64,8 @@ private slots:
         }
         QVERIFY(tekst.contains(u"Rasteratelier.ini"_s));
         QCOMPARE(start.Instellingen(), inhoud);
-        QCOMPARE(OrgineelRood, qint16(230)); // nothing half-read
+        QCOMPARE(OrgineelRood, qint16(230));                                // nothing half-read
+        QCOMPARE(start.Venster.Pic->GetPixel(30, 15), qRgb(150, 150, 150)); // the board was there before
     }
 
     void aFileThatCannotBeOpenedIsWrittenAnew()

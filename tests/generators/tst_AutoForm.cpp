@@ -162,21 +162,6 @@ private slots:
         QCOMPARE(blad.Form.picGrid->accessibleName(), u"Puzzelveld"_s);
     }
 
-    void thePicturesOfTheButtons_data()
-    {
-        QTest::addColumn<QString>("plaatje");
-        Geval("AddKnop", "knop-toevoegen");
-        Geval("OkKnop", "knop-ok");
-        Geval("CancelKnop", "knop-annuleren");
-        Geval("ExportKnop", "knop-export");
-    }
-    void thePicturesOfTheButtons()
-    {
-        QFETCH(QString, plaatje);
-        Blad blad;
-        QVERIFY(Toont(*Vind<ImageButton>(blad.Form, QLatin1String(QTest::currentDataTag())), plaatje));
-    }
-
     void asItOpens()
     {
         Blad blad;

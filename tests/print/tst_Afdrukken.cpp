@@ -94,15 +94,6 @@ private slots:
         }
     }
 
-    void itsPictures()
-    {
-        const Printbord bord;
-        Afdrukken form;
-        QCOMPARE(form.Image1->Picture(), u"printer"_s);
-        QVERIFY(Toont(*form.CancelKnop, u"knop-annuleren-laag"_s));
-        QVERIFY(Toont(*form.PrintKnop, u"knop-afdrukken"_s));
-    }
-
     void theTabKeyGoesFromThePrinterOn()
     {
         Printbord bord;

@@ -2,7 +2,6 @@
 
 #include "platform/ImageBox.h"
 #include "platform/ImageButton.h"
-#include "platform/Plaatjes.h"
 #include "platform/Twips.h"
 #include "support/Testbank.h"
 
@@ -11,7 +10,6 @@
 #include <QDir>
 #include <QLabel>
 #include <QMenu>
-#include <QPainter>
 
 using namespace Qt::StringLiterals;
 
@@ -112,16 +110,6 @@ QString PlaatjesOp(const QWidget &venster)
     return plaatjes.join(u", "_s);
 }
 
-bool Toont(QWidget &control, const QString &plaatje)
-{
-    ImageBox beeld(plaatje, nullptr);
-    QPalette palet;
-    palet.setColor(QPalette::Window, control.palette().color(QPalette::Window));
-    beeld.setPalette(palet);
-    beeld.resize(control.size());
-    return Getoond(control) == Getoond(beeld);
-}
-
 static QString MetFocus()
 {
     const QWidget *control = QApplication::focusWidget();
@@ -152,14 +140,6 @@ QString Leesnamen(const QWidget &venster)
             !control->objectName().startsWith("qt_"_L1))
             namen += control->objectName() + u'=' + control->accessibleName();
     return namen.join(u'|');
-}
-
-bool Toont(QWidget &knop, const QString &plaatje)
-{
-    QImage beeld(knop.size(), QImage::Format_RGB32);
-    beeld.fill(knop.palette().color(QPalette::Window));
-    QPainter(&beeld).drawPixmap(0, 0, Plaatjes::Pixmap(plaatje, knop.size(), 1));
-    return Getoond(knop) == beeld;
 }
 
 bool ToontHeel(const QLabel &uitleg)

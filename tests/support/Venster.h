@@ -24,9 +24,6 @@ QString Misplaatst(const QWidget &venster, const QList<Plek> &tabel);
 /// The picture of each image button and each image of a window: "OkKnop knop-ok", with ", " between them.
 QString PlaatjesOp(const QWidget &venster);
 
-/// Whether what is seen of a control is the picture of that name, in the control's size.
-bool Toont(QWidget &control, const QString &plaatje);
-
 /// Shows a window and walks round it with the Tab key.
 /// @return the names of the controls that take the focus, in their order, from the one that has it when the window
 /// opens
@@ -35,9 +32,6 @@ QString TabVolgorde(QWidget &venster);
 /// What a screen reader says of the controls that the user does something with, in the order of their making,
 /// those of a frame with the frame: "OkKnop=Ok|CancelKnop=Annuleren".
 QString Leesnamen(const QWidget &venster);
-
-/// Whether a button without the focus shows this picture and nothing else. @param plaatje its name
-bool Toont(QWidget &knop, const QString &plaatje);
 
 /// Whether a text that is broken over lines shows whole in its place.
 bool ToontHeel(const QLabel &uitleg);

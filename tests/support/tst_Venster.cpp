@@ -176,17 +176,6 @@ private slots:
         QCOMPARE(Leesnamen(venster), u"Text1=Een"_s);
     }
 
-    void thePictureOfAButton()
-    {
-        TestVenster venster;
-        ImageButton knop(u"knop-ok"_s, &venster);
-        knop.resize(knop.sizeHint());
-        QVERIFY(Toont(knop, u"knop-ok"_s));
-        QVERIFY(!Toont(knop, u"knop-opslaan"_s));
-        knop.setEnabled(false);
-        QVERIFY(!Toont(knop, u"knop-ok"_s));
-    }
-
     void aTextOverSomeLines()
     {
         QLabel uitleg(u"een twee drie"_s);
