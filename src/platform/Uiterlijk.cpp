@@ -5,10 +5,13 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTranslator>
 #include <QWidget>
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -103,8 +106,9 @@ public:
     }
 };
 
-/// Fusion, but for two things of the menu bar. It marks a menu only once that is open, and so Alt would show nothing;
-/// and for the mark of a bar that is too narrow it reads a file, for which Qt loads every picture format there is.
+/// Fusion, but for three things. It marks a menu of the bar only once that is open, and so Alt would show nothing. For the
+/// mark of a bar that is too narrow it reads a file, for which Qt loads every picture format there is. And it draws an
+/// outline with a pen: where the scale of the screen is no whole number, a side between two pixels is lost.
 class Stijl : public QProxyStyle
 {
 public:
@@ -126,6 +130,22 @@ public:
         QStyleOptionMenuItem open = *menu;
         open.state |= State_Sunken;
         QProxyStyle::drawControl(deel, &open, painter, widget);
+    }
+
+    void drawPrimitive(PrimitiveElement deel, const QStyleOption *keuze, QPainter *painter,
+                       const QWidget *widget) const override
+    {
+        const double ratio = painter->deviceTransform().m11();
+        if (deel != PE_Frame || ratio == std::floor(ratio)) {
+            QProxyStyle::drawPrimitive(deel, keuze, painter, widget);
+            return;
+        }
+        const QRect &vlak = keuze->rect;
+        const QColor lijn = keuze->palette.window().color().darker(140).lighter(108); // as Fusion has it
+        for (const QRect &zijde :
+             {QRect(vlak.left(), vlak.top(), vlak.width(), 1), QRect(vlak.left(), vlak.bottom(), vlak.width(), 1),
+              QRect(vlak.left(), vlak.top(), 1, vlak.height()), QRect(vlak.right(), vlak.top(), 1, vlak.height())})
+            painter->fillRect(zijde, lijn);
     }
 };
 

@@ -221,6 +221,40 @@ private slots:
         }
     }
 
+    // Where a side falls between two pixels of the screen it has to be seen all the same.
+    void everyOutlineIsWholeAtAnyScale_data()
+    {
+        QTest::addColumn<double>("ratio");
+        for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
+            Geval(QByteArray::number(ratio), ratio);
+    }
+    void everyOutlineIsWholeAtAnyScale()
+    {
+        QFETCH(double, ratio);
+        Bord bord;
+        bord.Venster.Frame9->show();
+        QWidget &inhoud = *bord.Venster.Pic->parentWidget();
+        const QColor lijn = Getoond(*bord.Venster.Frame1).pixelColor(0, 10);
+        QImage beeld((QSizeF(inhoud.size()) * ratio).toSize(), QImage::Format_RGB32);
+        beeld.setDevicePixelRatio(ratio);
+        inhoud.render(&beeld);
+        const auto heeftLijn = [&](QPointF punt, QPointF dwars) { // across that side
+            for (int i = -1; i <= 2; ++i)
+                if (beeld.pixelColor((punt * ratio).toPoint() + (dwars * i).toPoint()) == lijn)
+                    return true;
+            return false;
+        };
+        for (int i = 1; i <= 10; ++i) {
+            const auto *frame = Vind<QFrame>(bord.Venster, u"Frame%1"_s.arg(i));
+            const QRectF vlak(frame->pos(), frame->size());
+            const QPointF midden = vlak.center();
+            QVERIFY2(heeftLijn({vlak.left(), midden.y()}, {1, 0}), qPrintable(frame->objectName() + u" links"_s));
+            QVERIFY2(heeftLijn({vlak.right(), midden.y()}, {-1, 0}), qPrintable(frame->objectName() + u" rechts"_s));
+            QVERIFY2(heeftLijn({midden.x(), vlak.top()}, {0, 1}), qPrintable(frame->objectName() + u" boven"_s));
+            QVERIFY2(heeftLijn({midden.x(), vlak.bottom()}, {0, -1}), qPrintable(frame->objectName() + u" onder"_s));
+        }
+    }
+
     void hiddenAtTheStart()
     {
         Bord bord;
