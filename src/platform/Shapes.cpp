@@ -1,8 +1,7 @@
 #include "platform/Shapes.h"
 
+#include "platform/Kader.h"
 #include "platform/Twips.h"
-
-#include <QPainter>
 
 Mark::Mark(QWidget *ouder) : QWidget(ouder)
 {
@@ -39,8 +38,5 @@ void RectMark::Toon(double links, double boven, double breedte, double hoogte)
 void RectMark::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    for (int i = 0; i < BorderWidth; ++i) {
-        painter.setPen(BorderColor);
-        painter.drawRect(rect().adjusted(i, i, -1 - i, -1 - i));
-    }
+    TekenKader(painter, rect(), BorderWidth, BorderColor);
 }

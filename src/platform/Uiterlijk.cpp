@@ -1,11 +1,11 @@
 #include "platform/Uiterlijk.h"
 
 #include "platform/Canvas.h"
+#include "platform/Kader.h"
 #include "platform/Plaatjes.h"
 
 #include <QApplication>
 #include <QIcon>
-#include <QPainter>
 #include <QProxyStyle>
 #include <QStyleOption>
 #include <QTranslator>
@@ -140,12 +140,8 @@ public:
             QProxyStyle::drawPrimitive(deel, keuze, painter, widget);
             return;
         }
-        const QRect &vlak = keuze->rect;
-        const QColor lijn = keuze->palette.window().color().darker(140).lighter(108); // as Fusion has it
-        for (const QRect &zijde :
-             {QRect(vlak.left(), vlak.top(), vlak.width(), 1), QRect(vlak.left(), vlak.bottom(), vlak.width(), 1),
-              QRect(vlak.left(), vlak.top(), 1, vlak.height()), QRect(vlak.right(), vlak.top(), 1, vlak.height())})
-            painter->fillRect(zijde, lijn);
+        TekenKader(*painter, keuze->rect, 1,
+                   keuze->palette.window().color().darker(140).lighter(108)); // as Fusion has it
     }
 };
 

@@ -147,6 +147,35 @@ private slots:
         QCOMPARE(Getoond(blad.Box), verwacht);
     }
 
+    void anOutlineIsWholeAtAnyScale_data()
+    {
+        QTest::addColumn<double>("ratio");
+        for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
+            Geval(QByteArray::number(ratio), ratio);
+    }
+    void anOutlineIsWholeAtAnyScale()
+    {
+        QFETCH(double, ratio);
+        MetTeken<RectMark> blad;
+        blad.Mark.BorderColor = Qt::red;
+        blad.Mark.BorderWidth = 2;
+        for (const int plaats : {15, 30, 45, 60}) { // where it falls between two pixels, too
+            blad.Mark.Toon(plaats, plaats, 450, 450);
+            QImage beeld((QSizeF(blad.Box.size()) * ratio).toSize(), QImage::Format_RGB32);
+            beeld.setDevicePixelRatio(ratio);
+            blad.Box.render(&beeld);
+            const QRect vlak = InktVlak(beeld, beeld.rect());
+            for (int y = vlak.top(); y <= vlak.bottom(); ++y)
+                for (int x = vlak.left(); x <= vlak.right(); ++x) {
+                    const int diepte = std::min({x - vlak.left(), vlak.right() - x, y - vlak.top(), vlak.bottom() - y});
+                    if (diepte < std::floor(2 * ratio))
+                        QCOMPARE(beeld.pixelColor(x, y), QColor(Qt::red));
+                    else if (diepte >= std::ceil(2 * ratio))
+                        QCOMPARE(beeld.pixelColor(x, y), QColor(Qt::white));
+                }
+        }
+    }
+
     void aNewOutlineIsThinAndBlack()
     {
         const MetTeken<RectMark> blad;
