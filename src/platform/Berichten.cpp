@@ -31,16 +31,9 @@ void Berichten::Gebruik(Berichten *berichten)
     vervanger = berichten;
 }
 
-/// The window that a box belongs to. Just after another box has closed none is active yet.
-static QWidget *Ouder()
-{
-    QWidget *modaal = QApplication::activeModalWidget();
-    return modaal ? modaal : QApplication::activeWindow();
-}
-
 Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel)
 {
-    QMessageBox box(Ouder());
+    QMessageBox box(Eigenaar());
     box.setWindowTitle(titel);
     AlsDialoog(box);
     box.setTextFormat(Qt::PlainText);
@@ -70,7 +63,7 @@ Antwoord Berichten::Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, co
 
 QString Berichten::VraagTekst(const QString &vraag, const QString &titel)
 {
-    QInputDialog box(Ouder());
+    QInputDialog box(Eigenaar());
     box.setWindowTitle(titel);
     AlsDialoog(box);
     box.setLabelText(vraag);
@@ -91,7 +84,7 @@ static QString Titel(const QString &titel)
 QString Berichten::VraagBestand(const QString &titel, const QString &voorstel, const QString &soort)
 {
     const QFileInfo bestand(voorstel);
-    QFileDialog dialoog(Ouder(), titel, bestand.path(), soort);
+    QFileDialog dialoog(Eigenaar(), titel, bestand.path(), soort);
     dialoog.setAcceptMode(QFileDialog::AcceptSave);
     dialoog.selectFile(bestand.fileName());
     if (const auto *lijst = dialoog.findChild<QTreeView *>()) { // not in the system's own dialog

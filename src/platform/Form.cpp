@@ -28,7 +28,7 @@ static constexpr int FrameHeight = 450;
 static constexpr int MenuHeight = 300;
 
 Form::Form(const QString &naam, const QString &titel, int breedte, int hoogte, QRgb achtergrond, bool menuBalk)
-    : QDialog(QApplication::activeWindow()), inhoud_(new QWidget)
+    : QDialog(Eigenaar()), inhoud_(new QWidget)
 {
     setObjectName(naam);
     setWindowTitle(titel);

@@ -106,9 +106,9 @@ public:
     }
 };
 
-/// Fusion, but for three things. It marks a menu of the bar only once that is open, and so Alt would show nothing. For the
-/// mark of a bar that is too narrow it reads a file, for which Qt loads every picture format there is. And it draws an
-/// outline with a pen: where the scale of the screen is no whole number, a side between two pixels is lost.
+/// Fusion, but for three things. It marks a menu of the bar only once that is open, and so Alt would show nothing. For
+/// the mark of a bar that is too narrow it reads a file, for which Qt loads every picture format there is. And it draws
+/// an outline with a pen: where the scale of the screen is no whole number, a side between two pixels is lost.
 class Stijl : public QProxyStyle
 {
 public:
@@ -164,4 +164,17 @@ void AlsDialoog(QWidget &venster)
 {
     venster.setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                            Qt::WindowCloseButtonHint);
+}
+
+// None is active just after a dialog has closed, or when the user has gone to another program meanwhile.
+QWidget *Eigenaar()
+{
+    if (QWidget *modaal = QApplication::activeModalWidget())
+        return modaal;
+    if (QWidget *actief = QApplication::activeWindow())
+        return actief;
+    for (QWidget *venster : QApplication::topLevelWidgets())
+        if (venster->isVisible() && venster->windowType() == Qt::Window)
+            return venster;
+    return nullptr;
 }

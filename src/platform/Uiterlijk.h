@@ -9,3 +9,6 @@ void StelUiterlijkIn();
 
 /// Gives a window the frame of a dialog: a title and a close button, nothing to minimise or maximise it.
 void AlsDialoog(QWidget &venster);
+
+/// The window that a new dialog belongs to, and stays in front of; nullptr when none is open.
+QWidget *Eigenaar();

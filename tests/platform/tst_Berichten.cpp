@@ -159,6 +159,19 @@ private slots:
         }
     }
 
+    void aBoxBelongsToTheWindowThatIsOpenAlsoWhileNoneIsActive()
+    {
+        QWidget venster;
+        venster.show();
+        QApplication::setActiveWindow(nullptr);
+        const QWidget *ouder = nullptr;
+        const EchtBericht bericht(u"Klaar"_s, Knoppen::Ok, Icoon::Geen, QString(), [&](QMessageBox &box) {
+            ouder = box.parentWidget();
+            EchtBericht::Klik(box, u"OK"_s);
+        });
+        QCOMPARE(ouder, &venster);
+    }
+
     void aMessageHasTheProgramsTitle()
     {
         bank_->Script.Antwoorden = {Antwoord::Ja, Antwoord::Nee};

@@ -388,6 +388,22 @@ private slots:
         QVERIFY(metEscape.Unloaded());
     }
 
+    void aFormBelongsToTheWindowThatIsOpenAlsoWhileNoneIsActive()
+    {
+        QCOMPARE(TestVenster().parentWidget(), nullptr);
+        QWidget hoofd, verborgen;
+        hoofd.show();
+        for (QWidget *actief : {&hoofd, static_cast<QWidget *>(nullptr)}) {
+            QApplication::setActiveWindow(actief);
+            QCOMPARE(TestVenster().parentWidget(), &hoofd);
+            TestVenster dialoog;
+            dialoog.setModal(true);
+            dialoog.show();
+            QApplication::setActiveWindow(actief);
+            QCOMPARE(TestVenster().parentWidget(), &dialoog);
+        }
+    }
+
     void toonOpensUntilTheFormIsClosed()
     {
         bool zichtbaar = false;

@@ -47,6 +47,15 @@ inline QVariantList Inhoud(const QWidget &control)
     return inhoud;
 }
 
+/// Whether something is the window's own, and not of a dialog that belongs to it.
+inline bool IsEigen(const MainForm &main, const QObject *kind)
+{
+    for (const QObject *ouder = kind; ouder != &main; ouder = ouder->parent())
+        if (qobject_cast<const QDialog *>(ouder))
+            return false;
+    return true;
+}
+
 inline Stand StandVan(const MainForm &main)
 {
     const LineMark &lijn = *main.Line1;
@@ -69,11 +78,12 @@ inline Stand StandVan(const MainForm &main)
                 {"Main", main.windowTitle()},
                 {"Line1.Punten", QVariantList{lijn.X1, lijn.Y1, lijn.X2, lijn.Y2}}};
     for (const QAction *item : main.findChildren<QAction *>())
-        if (!item->objectName().isEmpty())
+        if (!item->objectName().isEmpty() && IsEigen(main, item))
             stand[item->objectName()] = QVariantList{item->text(), item->isEnabled(), item->isVisible()};
     for (const QWidget *control : main.findChildren<QWidget *>()) {
         const QString naam = control->objectName();
-        if (naam.isEmpty() || naam.startsWith(QLatin1String("qt_")) || control == main.KlokLabel)
+        if (naam.isEmpty() || naam.startsWith(QLatin1String("qt_")) || control == main.KlokLabel ||
+            !IsEigen(main, control))
             continue;
         QVariantList waarden{control->isHidden(), control->isEnabled()};
         if (!control->isWindow()) // a menu is placed when it is shown
