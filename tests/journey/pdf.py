@@ -3,14 +3,16 @@ import re
 import subprocess
 
 from checks import check, equal, until_equal
+from desktop import until
 
 DIALOG = "Puzzel afdrukken (PDF-bestand)"
 FILES = "Afdrukken naar een PDF-bestand"
 FOOT = "https://www.rasteratelier.example/"
 
 
-def type_file(run, files, path, shot=None):
-    """Chooses a file that isn't there yet, in the dialog of files that is open; prints to it."""
+def type_file(run, files, path, shot=None, dialog=DIALOG):
+    """Chooses a file that isn't there yet, in the dialog of files that is open; prints to it. The dialog that ends with the
+    job has closed then."""
     run.desktop.key("ctrl+a")
     typed = str(path.with_suffix(""))
     run.desktop.type(typed)
@@ -18,8 +20,8 @@ def type_file(run, files, path, shot=None):
     if shot:
         run.desktop.shot(shot)
     run.desktop.key("Return")
-    run.program.until_closed(DIALOG)
-    check(path.exists(), f"{path} was not written")
+    run.program.until_closed(dialog)
+    until(f"{path} is written", path.exists)
 
 
 def tell(*command):

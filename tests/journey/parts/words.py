@@ -1,8 +1,10 @@
-"""The word tools on the real database: words searched, handed over and placed; a word list made, saved and loaded; a word
-found by its pattern."""
+"""The word tools on the real database: words searched, printed, handed over and placed; a word list made, saved and
+loaded; a word found by its pattern."""
 import pathlib
+import re
 import shutil
 
+import pdf
 from checks import check, equal, until_equal
 from desktop import until
 from puzzlefiles import write_puzzle
@@ -13,7 +15,7 @@ def walk(journey):
     write_puzzle(journey.puzzles, "Woorden", words=())
     run = journey.start()
     run.open_puzzle("Woorden")
-    search(run, database)
+    search(journey, run, database)
     place(run)
     swap(run, database)
     missing(run, database)
@@ -46,7 +48,7 @@ def found(run):
     return run.main.window.find("list", "Gevonden woorden")
 
 
-def search(run, database):
+def search(journey, run, database):
     run.program.menu("Bibliotheek", "Database doorzoeken", "menu-library")
     window = run.program.window("Database doorzoeken", "search")
     run.push(window, "Starten")
@@ -60,6 +62,7 @@ def search(run, database):
     window.find("label", f"Gevonden woorden ({len(wanted)})")
     run.desktop.shot("search-found")
     check(len(wanted) > 20, f"{len(wanted)} words begin with kaa?t")
+    print_list(journey, run, window, wanted)
     run.push(window, "Copy woorden t/m 20 letters")
     run.program.until_closed(window.name)
     short = [word for word in wanted if len(word) < 20]
@@ -68,6 +71,21 @@ def search(run, database):
     run.main.window.find("label", "kaart")
     run.main.window.find("label", "Lengte (5) letters")
     run.desktop.shot("handed-over")
+
+
+def print_list(journey, run, window, words):
+    bar = window.find("menu item", "Bestand")
+    bar.click()
+    bar.find("menu item", "Lijst afdrukken").click()
+    question = f"Het aantal pagina's is.. {round(len(words) / 240) + 1}, wil je verder gaan met afdrukken?"
+    run.message("Afdrukken", question, "Ja", "search-print")
+    path = journey.desktop.home / "Woorden.pdf"
+    pdf.type_file(run, run.program.window(pdf.FILES), path, dialog=pdf.FILES)
+    page, = pdf.pages(journey, path)
+    check("Database doorzoeken" in page, f"no title: {page!r}")
+    rows = [line.split() for line in page.splitlines() if re.match("[a-z]+(?: |$)", line.strip())]
+    equal("words of a row", {len(row) for row in rows[:-1]}, {4})
+    equal("words printed", sum(rows, []), sorted(words))
 
 
 def place(run):
