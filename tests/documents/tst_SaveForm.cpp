@@ -1,9 +1,11 @@
 #include "documents/SaveForm.h"
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
-#include "support/Bord.h"
+#include "platform/Schijf.h"
+#include "support/KijkBerichten.h"
 #include "support/Onbevoegd.h"
 #include "support/Venster.h"
+#include "support/Verwacht.h"
 
 #include <QBuffer>
 #include <QDir>
@@ -35,6 +37,35 @@ public:
     QList<double> Wachttijden;
     QList<QEventLoop::ProcessEventsFlags> Welke;
     QList<bool> Zandlopers;
+};
+
+/// A disk that tells which files come to their places and which go, without those that are there meanwhile.
+class VertelSchijf : public Schijf
+{
+public:
+    explicit VertelSchijf(std::function<void(const QString &)> vertel) : vertel_(std::move(vertel)) { Gebruik(this); }
+    ~VertelSchijf() override { Gebruik(nullptr); }
+    Q_DISABLE_COPY_MOVE(VertelSchijf)
+
+    bool Open(QFile &bestand, QIODevice::OpenMode hoe) override
+    {
+        vertel_({});
+        return Schijf::Open(bestand, hoe);
+    }
+    bool Verplaats(const QString &van, const QString &naar) override
+    {
+        vertel_(QFileInfo(naar).fileName());
+        return Schijf::Verplaats(van, naar);
+    }
+    bool Verwijder(const QString &pad) override
+    {
+        if (const QString naam = QFileInfo(pad).fileName(); !naam.startsWith(u'.'))
+            vertel_(naam + u" weg"_s);
+        return Schijf::Verwijder(pad);
+    }
+
+private:
+    std::function<void(const QString &)> vertel_;
 };
 
 class tst_SaveForm : public QObject
@@ -92,10 +123,12 @@ private slots:
         QCOMPARE(leeg.Label1->Caption(), u"0%"_s);
         QCOMPARE(leeg.Text1->palette().color(QPalette::Base), QColor(40, 0, 0));
         QCOMPARE(leeg.Text1->palette().color(QPalette::Text), QColor(220, 220, 220));
-        PuzzelNaam = u"zon & zee"_s;
-        bord.Venster.ToonNaam();
-        SaveForm form;
-        QCOMPARE(form.Text1->text(), u"zon & zee"_s);
+        for (const QString &naam : {u"vakantie"_s, u"puzzelnaam"_s, u" Reis "_s, u"Jan & Piet"_s}) {
+            PuzzelNaam = naam;
+            bord.Venster.ToonNaam();
+            SaveForm form;
+            QCOMPARE(form.Text1->text(), naam);
+        }
     }
 
     void theFourFiles()
@@ -138,12 +171,14 @@ private slots:
         SaveForm form;
         form.Text1->setText(naam);
         form.SaveKnop->setFocus();
-        form.SaveKnop_Click();
+        KijkBerichten berichten([&] { QCOMPARE(form.focusWidget(), form.SaveKnop); });
+        KlikMetDruk(*form.SaveKnop, [&] { QVERIFY(berichten.Gezien.isEmpty()); });
         QCOMPARE(form.focusWidget(), form.Text1);
-        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel ontbreekt!"_s);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Kritiek);
+        QCOMPARE(berichten.Gezien.size(), 1);
+        QCOMPARE(berichten.Gezien[0].Tekst, u"Naam Puzzel ontbreekt!"_s);
+        QCOMPARE(berichten.Gezien[0].Titel, u"Error"_s);
+        QCOMPARE(berichten.Gezien[0].Soort, Knoppen::Ok);
+        QCOMPARE(berichten.Gezien[0].Plaatje, Icoon::Kritiek);
         QVERIFY(!form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
@@ -155,6 +190,33 @@ private slots:
         Bewaar(u" Reis "_s);
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u" Reis 1.bmp"_s, u" Reis 2.bmp"_s, u" reis .lst"_s}));
         QCOMPARE(Fotos(bord), QStringList{u" reis .jpg"_s});
+    }
+
+    void theStepsOfASave()
+    {
+        Bord bord;
+        bord.Bank.Schrijf(u"Puzzels/Reis.lst"_s, "oud");
+        GebruikersNaam.clear();
+        SaveForm form;
+        form.Text1->setText(u"reis"_s);
+        const auto bezig = [&] { return Zandloper() && form.Text1->isHidden() && !form.Bar->isHidden(); };
+        KijkBerichten berichten([&] {
+            QCOMPARE(GebruikersNaam, HaalGebruiker()); // who it is, is asked first
+            QVERIFY(!Zandloper() && !form.Text1->isHidden() && form.Bar->isHidden());
+        });
+        berichten.Antwoorden = {Antwoord::Ja};
+        QStringList gedaan;
+        {
+            const VertelSchijf schijf([&](const QString &wat) {
+                QVERIFY(bezig()); // as soon as anything is written
+                if (!wat.isEmpty())
+                    gedaan += wat;
+            });
+            QString naam = form.Text1->text();
+            form.OpslaanPuzzel(naam);
+            QCOMPARE(naam, u"Reis"_s);
+        }
+        QCOMPARE(gedaan.join(u' '), u"reis1.bmp reis2.bmp Reis.lst mydummy.bmp Reis.jpg mydummy.bmp weg"_s);
     }
 
     void refusingToOverwriteCountsAsSaved()
@@ -239,11 +301,24 @@ private slots:
         Bewaar(u"reis"_s);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Fout bij opslaan als JPG!"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Rasteratelier"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::Ok);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 3);
         QVERIFY(Fotos(bord).isEmpty());
         QVERIFY(!PuzzelGewijzigd);
         QVERIFY(qAbs(bord.Bank.TestKlok.Gewacht() - 0.2) < 1e-6); // no progress
         QVERIFY(QGuiApplication::overrideCursor());               // the hourglass stays on
+    }
+
+    void aDummyBitmapOfAnotherSpellingIsSaid()
+    {
+        Bord bord;
+        bord.Bank.Schrijf(u"MyDummy.bmp"_s, "van een ander");
+        Bewaar(u"reis"_s);
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Fout bij opslaan als JPG!"_s);
+        QVERIFY(Fotos(bord).isEmpty());
     }
 
     void aMissingPictureFolderPassesInSilence()
@@ -367,7 +442,7 @@ private slots:
         PuzzelGewijzigd = true;
         SaveForm form;
         form.Text1->setText(u"reis"_s);
-        form.CancelKnop->click();
+        KlikMetDruk(*form.CancelKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
