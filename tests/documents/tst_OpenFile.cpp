@@ -4,8 +4,9 @@
 #include "documents/SaveForm.h"
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
-#include "support/Bord.h"
+#include "support/HaperendeSchijf.h"
 #include "support/Venster.h"
+#include "support/Verwacht.h"
 
 #include <QDir>
 
@@ -97,7 +98,7 @@ private slots:
         form.List1->SetListIndex(0);
         QCOMPARE(PuzzelNaam, u"Reis"_s);
         QVERIFY(form.DelKnop->isEnabled());
-        form.CancelKnop->click();
+        KlikMetDruk(*form.CancelKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
         QCOMPARE(PuzzelNaam, u"Reis"_s); // it stays so
         QCOMPARE(bord.Veranderd(ervoor), u"PuzzelNaam"_s);
@@ -199,7 +200,7 @@ private slots:
         SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
         PuzzelNaam = u"oud"_s;
         OpenFile form;
-        form.OkKnop_Click();
+        KlikMetDruk(*form.OkKnop, [] { QCOMPARE(PuzzelNaam, u"oud"_s); });
         QVERIFY(!form.Unloaded());
         QVERIFY(PuzzelNaam.isEmpty());
         QCOMPARE(BoardWidth, 16);
@@ -215,6 +216,7 @@ private slots:
         QTest::mouseClick(form.List1->viewport(), Qt::LeftButton, {}, midden);
         QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {}, midden);
         QVERIFY(form.Unloaded());
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.2); // as a press of the button
         QCOMPARE(BoardWidth, 9);
     }
 
@@ -242,6 +244,24 @@ private slots:
         QVERIFY(bord.Pic() == leeg.Pic()); // the canvas keeps what the set-up drew
         QVERIFY(bord.Groot() == leeg.Groot());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
+    void eachBitmapIsReadByItself_data()
+    {
+        QTest::addColumn<QString>("bitmap");
+        Geval("of the visible board", "Reis1.bmp");
+        Geval("of the large board", "Reis2.bmp");
+    }
+    void eachBitmapIsReadByItself()
+    {
+        QFETCH(QString, bitmap);
+        const QRgb kleur = qRgb(9, 9, 9);
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        SchrijfBeeld(bord, bitmap, QSize(1083, 1083), kleur);
+        Open(u"Reis"_s);
+        QCOMPARE(bord.Pic().pixelColor(1, 1), bitmap == "Reis1.bmp"_L1 ? QColor(kleur) : QColor(Qt::white));
+        QCOMPARE(bord.Groot().pixelColor(4, 4), bitmap == "Reis2.bmp"_L1 ? QColor(kleur) : QColor(Qt::white));
     }
 
     void truncatedBitmapsAreNoPictures()
@@ -390,10 +410,14 @@ private slots:
         OpenFile form;
         form.List1->SetListIndex(0);
         bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
-        form.DelKnop->click();
+        KlikMetDruk(*form.DelKnop, [&] { QVERIFY(bord.Bank.Script.Gezien.isEmpty()); });
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 6);
         QCOMPARE(form.List1->ListCount(), 2);
-        form.DelKnop->click();
+        {
+            const HaperendeSchijf schijf;
+            form.DelKnop->click();
+            QCOMPARE(schijf.Logboek.join(u'|'), u"Verwijder Boom.lst|Verwijder boom1.BMP|Verwijder BOOM2.bmp"_s);
+        }
         QCOMPARE(bord.Bank.Script.Gezien.size(), 2);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wilt je deze puzzel 'Boom' verwijderen?"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Delete"_s);
@@ -405,7 +429,33 @@ private slots:
         QCOMPARE(form.List1->ListIndex(), -1); // nothing is selected then
         form.DelKnop->click();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 2);     // and the next press stops at once
-        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 3 * 0.2); // with its effect
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 2 * 0.2); // with its effect
+    }
+
+    void aFileThatIsNotThereKeepsNoOtherFromGoing()
+    {
+        Bord bord;
+        for (const char *naam : {"Boom.lst", "Boom1.bmp", "Boom2.bmp"})
+            bord.Bank.Schrijf(u"Puzzels/"_s + QLatin1String(naam), "x");
+        for (const char *weg : {"Boom.lst", "Boom1.bmp"}) {
+            OpenFile form;
+            form.List1->SetListIndex(0);
+            QVERIFY(QFile::remove(bord.Bank.Map() + u"/Puzzels/"_s + QLatin1String(weg)));
+            bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+            form.DelKnop_Click();
+            QCOMPARE(form.List1->ListCount(), 0);
+            QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), QStringList());
+            for (const char *naam : {"Boom.lst", "Boom1.bmp", "Boom2.bmp"})
+                bord.Bank.Schrijf(u"Puzzels/"_s + QLatin1String(naam), "x");
+        }
+    }
+
+    void aNameThatBeginsWithADotIsShown()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u".Reis"_s, Zweeds, 9, 9);
+        OpenFile form;
+        QCOMPARE(Items(*form.List1), QStringList{u".Reis"_s});
     }
 };
 

@@ -24,11 +24,11 @@ private slots:
 
     void everyRowIsFiveLines()
     {
-        const QList<Rij> rijen{{u"  A-01 / 1-H "_s, u"dier, groot \"grijs\""_s, u"olifant"_s, u"-"_s},
+        const QList<Rij> rijen{{u"  A-01 / 1-H "_s, u" dier, groot \"grijs\""_s, u" olifant "_s, u" - "_s},
                                {u"B-02 / 18-V"_s, QString(), u"één€"_s, u"12"_s}};
         QCOMPARE(SchrijfPuzzelLijst(3, 9, 10, rijen),
                  QByteArray("Tessel Hoeksma Software \xAE 2018\r\n3\r\n9\r\n10\r\n" + Streep +
-                            "\r\nA-01 / 1-H\r\ndier, groot \"grijs\"\r\nolifant\r\n-\r\n" + Streep +
+                            "\r\nA-01 / 1-H\r\n dier, groot \"grijs\"\r\n olifant \r\n - \r\n" + Streep +
                             "\r\nB-02 / 18-V\r\n\r\n\xE9\xE9n\x80\r\n12\r\n" + Streep + "\r\n"));
     }
 
@@ -67,6 +67,8 @@ private slots:
               "A-01 / 1-H|a|b|c/e|f|vlag|-", true);
         Geval("quoted clue with a comma", Kop + "A-01 / 1-H\r\n\"rood, wit\"\r\nvlag\r\n-" + einde,
               "A-01 / 1-H|rood, wit|vlag|-", true);
+        Geval("blanks behind a field stay", Kop + "A-01 / 1-H \r\ndier \r\naap  \r\n- " + einde,
+              "A-01 / 1-H |dier |aap  |- ", true);
         Geval("leading blanks", Kop + "A-01 / 1-H\r\n   dier\r\naap\r\n-" + einde, alleenAap, true);
         Geval("cut in a row", Kop + aap + "B-01 / 2-H\r\nno", alleenAap, false);
         Geval("without the last separator", Kop + "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n", alleenAap, false);
