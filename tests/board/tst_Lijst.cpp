@@ -1,5 +1,5 @@
 #include "board/MainForm.h"
-#include "support/Bord.h"
+#include "support/Verwacht.h"
 
 #include <QPainter>
 #include <QSignalSpy>
@@ -91,6 +91,7 @@ private slots:
         Geval("Kruiswoord to the right", Kruiswoord, "A-19 / 289-H", "aap", van(225, 8325, 1125, 8325));
         Geval("Kruiswoord down", Kruiswoord, "A-01 / 1-V", "aap", van(225, 225, 225, 1125));
         Geval("one letter", Zweeds, "A-01 / 1-H", "a", van(225, 225, 225, 225));
+        Geval("no letter", Zweeds, "C-01 / 3-H", "", van(1125, 225, 675, 225)); // a cell back
         Geval("72 cells", Zweeds, "A-01 / 1-H", QString(72, u'a'), van(225, 225, 225 + 71 * 450, 225));
     }
     void theLineRunsFromFirstToLastCell()
@@ -284,7 +285,7 @@ private slots:
         QVERIFY(!bord.Venster.Line1->isHidden());
         const Stand ervoor = bord.Nu();
         bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
-        bord.Venster.DelKnop_Click();
+        KlikMetDruk(*bord.Venster.DelKnop, [&] { QVERIFY(bord.Bank.Script.Gezien.isEmpty()); });
         QCOMPARE(bord.Veranderd(ervoor), QString());
         bord.Venster.DelKnop_Click();
         QCOMPARE(bord.Veranderd(ervoor), u"Label11 Line1 ListView1"_s);

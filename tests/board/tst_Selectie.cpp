@@ -286,6 +286,7 @@ private slots:
         Bord bord;
         bord.Venster.Pic_MouseDown(Qt::RightButton, QPoint(0, 0));
         QCOMPARE(CurCell, 1);
+        QCOMPARE(bord.Venster.Label6->Caption(), u"Coordinaten"_s); // nothing has been pointed at
         QVERIFY(VakZwart[1]);
         QVERIFY(!VakZwart[0]);
         QCOMPARE(bord.Pic().pixel(15, 15), Donker);

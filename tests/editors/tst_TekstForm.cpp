@@ -154,12 +154,12 @@ private slots:
     void theCopyButtonTakesTheWordOfTheMainWindow()
     {
         Bord bord;
-        bord.Venster.CopyLabel->SetCaption(u"doetinchem"_s);
+        bord.Venster.CopyLabel->SetCaption(u"Den Haag "_s);
         TekstForm form;
         form.Text2->setText(u"eerder"_s);
         Klik(bord, *form.CopyKnop, [&] { QCOMPARE(form.Text2->text(), u"eerder"_s); });
-        QCOMPARE(form.Text2->text(), u"doetinchem"_s);
-        QCOMPARE(form.Label2->Caption(), u"Oplossing (10)"_s);
+        QCOMPARE(form.Text2->text(), u"Den Haag "_s); // as it stands there
+        QCOMPARE(form.Label2->Caption(), u"Oplossing (9)"_s);
         QVERIFY(!form.Unloaded());
     }
 
@@ -203,6 +203,8 @@ private slots:
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::Ok);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
         QVERIFY(!form.Unloaded());
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QCOMPARE(form.Text2->text(), oplossing);

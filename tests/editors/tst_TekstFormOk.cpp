@@ -78,12 +78,12 @@ private slots:
     {
         Bord bord;
         Borden verwacht(bord);
-        Plaats(bord, {2, 3, 0, u"Wijn"_s, u"Drank van druiven"_s});
+        Plaats(bord, {2, 3, 0, u"Wijn"_s, u" Drank van Druiven "_s});
         verwacht.Letter({2, 3}, u"W"_s, -45);
         verwacht.Letter({3, 3}, u"IJ"_s); // not moved as an I is: it is still one sign at that moment
         verwacht.Letter({4, 3}, u"N"_s);
         verwacht.Vergelijk(bord); // nothing on the large board
-        QCOMPARE(bord.Rij(0), u"C-04 / 51-H|Drank van druiven|wijn|-"_s);
+        QCOMPARE(bord.Rij(0), u"C-04 / 51-H| Drank van Druiven |wijn|-"_s);
         QCOMPARE(LaatsteOplossing, u"wijn"_s);
         QVERIFY(PuzzelGewijzigd);
     }
@@ -340,10 +340,12 @@ private slots:
         Bord bord;
         Plaats(bord, {0, 0, 0, u"aap"_s, u"dier"_s, u"0"_s});
         Plaats(bord, {0, 0, 0, u"aap"_s, u"dier"_s, u"een"_s});
+        Plaats(bord, {0, 0, 0, u"aap"_s, u" "_s}); // a blank is a clue
         PuzzelType = Woordzoeker;
         Plaats(bord, {0, 0, 0, u"aap"_s, QString(), u"0"_s});
         Plaats(bord, {0, 0, 0, u"aap"_s, QString(), u"een"_s});
-        QCOMPARE(bord.Venster.Label11->Caption(), u"4 Items"_s);
+        Plaats(bord, {0, 0, 0, u" "_s, QString()}); // and a solution
+        QCOMPARE(bord.Venster.Label11->Caption(), u"6 Items"_s);
     }
 
     void anInformationCellLeavesItsFontOnTheLargeBoard()
