@@ -19,6 +19,7 @@ private slots:
     void theCallsOfFinishing();
     void aNoteThatIsTakenForALeftOneIsMadeAnew();
     void aWriterThatRunsIsLeftAlone();
+    void aWriterThatMayRunIsLeftAlone();
     void aWriterThatDiesLeavesTheOldOrTheNew();
     void finishingMayDieOrFailAnywhere_data();
     void finishingMayDieOrFailAnywhere();
@@ -91,6 +92,20 @@ void tst_BewarenAfmaken::aWriterThatRunsIsLeftAlone()
     QCOMPARE(Namen().size(), 6);
     set.PlaatsAlles();
     QCOMPARE(Inhoud(), QByteArray("nieuw nieuw oud"));
+}
+
+// Where the file system cannot tell.
+void tst_BewarenAfmaken::aWriterThatMayRunIsLeftAlone()
+{
+    BestandenSet set;
+    set.Zet(Pad("a1.bmp"), {"nieuw"});
+    {
+        const HaperendeSchijf schijf(2); // the hold on its note
+        MaakAf(bank_->Map());
+    }
+    QCOMPARE(Namen().size(), 5);
+    set.PlaatsAlles();
+    QCOMPARE(Inhoud(), QByteArray("nieuw oud oud"));
 }
 
 void tst_BewarenAfmaken::aWriterThatDiesLeavesTheOldOrTheNew()

@@ -139,7 +139,10 @@ void tst_PictureFiles::aBitmapFileHasThirtyTwoBits()
     Files::SavePicture(BontBeeld().convertToFormat(static_cast<QImage::Format>(vorm)), Volledig("a.bmp"));
     const QByteArray bytes = bank_->Inhoud(u"a.bmp"_s);
     QVERIFY(bytes.startsWith("BM"));
+    QCOMPARE(int(qFromLittleEndian<quint16>(bytes.constData() + 26)), 1); // planes
     QCOMPARE(int(qFromLittleEndian<quint16>(bytes.constData() + 28)), 32);
+    for (const int plaats : {38, 42}) // 96 pixels to the inch
+        QCOMPARE(qFromLittleEndian<qint32>(bytes.constData() + plaats), 3780);
     const qsizetype begin = qFromLittleEndian<qint32>(bytes.constData() + 10);
     QCOMPARE(bytes.size(), begin + 13 * 4 * 7);
     QCOMPARE(qFromLittleEndian<qint32>(bytes.constData() + 2), qint32(bytes.size()));

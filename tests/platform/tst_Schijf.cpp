@@ -20,6 +20,7 @@ private slots:
     void aNewFileIsNotMadeThroughALink();
     void aFileIsHeldByOneOpeningAtATime();
     void aFileIsLetGoWhenItsProcessDies();
+    void aCallThatFailsIsTold();
     void aFolderIsBroughtToTheDisk();
     void whatIsMovedReplaces();
     void anotherDiskIsInUseForAsLongAsItLives();
@@ -71,6 +72,18 @@ void tst_Schijf::aFileIsLetGoWhenItsProcessDies()
     QFile bestand(Pad("a"));
     QVERIFY(Schijf::Huidig().Open(bestand, Schijf::Grijpend));
     QCOMPARE(Schijf::Huidig().Grijp(bestand), Schijf::Greep::Gekregen);
+}
+
+void tst_Schijf::aCallThatFailsIsTold()
+{
+    QFile geheugen(u"/proc/self/mem"_s); // its first bytes are nobody's
+    QByteArray inhoud("oud");
+    QVERIFY(Schijf::Huidig().Open(geheugen, Schijf::Lezend));
+    QVERIFY(!Schijf::Huidig().Lees(geheugen, 10, inhoud));
+    QCOMPARE(inhoud, QByteArray());
+    QFile dicht(Pad("a"));
+    QVERIFY(!Schijf::Huidig().Spoel(dicht));
+    QCOMPARE(Schijf::Huidig().Grijp(dicht), Schijf::Greep::Onmogelijk);
 }
 
 void tst_Schijf::aFolderIsBroughtToTheDisk()

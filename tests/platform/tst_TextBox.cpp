@@ -40,6 +40,7 @@ private slots:
     void whatStandsThereAlreadyIsNoChange_data();
     void whatStandsThereAlreadyIsNoChange();
     void readingTheLinesLaysNothingOutAgain();
+    void aHigherBoxHasLessToScroll();
 };
 
 static QString LangeTekst()
@@ -375,6 +376,17 @@ void tst_TextBox::readingTheLinesLaysNothingOutAgain()
     QVERIFY(box.LineCount() > 1);
     QCOMPARE(box.LineFromChar(0), 0);
     QCOMPARE(opmaak.size(), doorDeToets);
+}
+
+void tst_TextBox::aHigherBoxHasLessToScroll()
+{
+    OmschrijvingBox box;
+    box.SetText(u"a\r\n"_s.repeated(50));
+    box.show();
+    const int teRollen = box.verticalScrollBar()->maximum();
+    QVERIFY(teRollen > 240);
+    box.resize(123, 60 + 240);
+    QCOMPARE(box.verticalScrollBar()->maximum(), teRollen - 240);
 }
 
 RASTER_TEST(tst_TextBox)
