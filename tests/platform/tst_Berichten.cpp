@@ -401,6 +401,23 @@ private slots:
                                        u"Zoeken in:"_s}));
     }
 
+    void theDialogOfFilesBelongsToTheWindowAndShowsFilesOfTheKind()
+    {
+        QDialog venster;
+        venster.setModal(true);
+        venster.show();
+        QApplication::setActiveWindow(&venster);
+        const QWidget *ouder = nullptr;
+        QStringList soorten;
+        EchteVraag(bank_->Map() + u"/reis.pdf"_s, [&](QFileDialog &dialoog) {
+            ouder = dialoog.parentWidget();
+            soorten = dialoog.nameFilters();
+            dialoog.reject();
+        });
+        QCOMPARE(ouder, &venster);
+        QCOMPARE(soorten, QStringList{u"PDF-bestanden (*.pdf)"_s});
+    }
+
     void theListOfFilesHasRoomForAllThatItTells()
     {
         bank_->Schrijf(u"groot.pdf"_s, QByteArray(123456, 'x'));
