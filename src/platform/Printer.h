@@ -17,7 +17,7 @@ class Printer : public PagedCanvas
 public:
     /// @param wachtrij the system's name of the queue; empty for the printer that writes a PDF file
     explicit Printer(QString wachtrij);
-    ~Printer() override; ///< a document that has not ended is dropped
+    ~Printer() override; ///< a document that has not ended gives no PDF file
 
     QString DeviceName() const;
 
