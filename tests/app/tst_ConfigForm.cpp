@@ -302,6 +302,8 @@ private slots:
     {
         Ingesteld bord;
         bord.Klik(Qt::RightButton, 3, 4);
+        bord.InBewerking();
+        PuzzelGewijzigd = false;
         const Stand ervoor = bord.Nu();
         ConfigForm form;
         Verstel(form);
@@ -326,6 +328,7 @@ private slots:
     void cancelChangesNothing()
     {
         Ingesteld bord;
+        bord.InBewerking();
         const Stand ervoor = bord.Nu();
         ConfigForm form;
         Verstel(form);
@@ -342,13 +345,17 @@ private slots:
         QVERIFY(!standaard.isEmpty() && standaard != PaginaTekst);
         ConfigForm form;
         Verstel(form);
+        form.ResetKnop->setFocus();
+        const Stand ervoor = bord.Nu();
         QCOMPARE(KlikEnKijk(*form.ResetKnop, [&] { return Instelling() + u' ' + Getoond(form); }),
                  u"2 in "_s + IngesteldIs + u' ' + VersteldGetoond);
         QVERIFY(!form.Unloaded());
         QCOMPARE(Instelling(), u"230,250,190 1 'mijn pagina'"_s); // the colours at once, the text not
         QCOMPARE(Getoond(form), u"230=230 250=250 190=190 #e6fabe 1= 1 #e6fabe '"_s + standaard + u'\'');
+        QCOMPARE(form.focusWidget(), form.ResetKnop); // it stays
         form.CancelKnop->click();
         QCOMPARE(Instelling(), u"230,250,190 1 'mijn pagina'"_s);
+        QCOMPARE(bord.Veranderd(ervoor), u"KleurVakjes Orgineel"_s);
     }
 
     void resetAndOkGiveAllDefaults()

@@ -301,11 +301,14 @@ private slots:
         PictureBox &pic = *programma.Main().Pic;
         pic.PaintPicture(programma.Main().Vak1->Image(), QRectF(450, 450, 465, 465), QRectF(0, 0, 465, 465));
         pic.SetPixel(45, 45, qRgb(1, 2, 3));
+        programma.Main().PicGroot->BoxFull(0, 0, 1800, 1800, qRgb(150, 240, 174)); // which is left alone
+        const Stand ervoor = programma.Scherm.Nu();
         programma.Main().EditDeleteRaster->trigger();
         QCOMPARE(pic.GetPixel(90, 15), qRgb(255, 255, 255));
         QCOMPARE(pic.GetPixel(45, 45), qRgb(1, 2, 3));
         programma.Main().EditDeleteLetters->trigger();
         QVERIFY(pic.GetPixel(45, 45) != qRgb(1, 2, 3));
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Pic"_s);
     }
 
     void thePopUpOpensItsEditor_data()

@@ -5,6 +5,7 @@
 #include "platform/Bewaren.h"
 #include "support/HaperendeSchijf.h"
 #include "support/Onbevoegd.h"
+#include "support/Stand.h"
 
 #include <QDir>
 
@@ -31,6 +32,12 @@ private slots:
 
     void settingsAreReadAtTheStart()
     {
+        Stand zonder; // settings
+        {
+            const Start start;
+            LaadMain();
+            zonder = StandVan(start.Venster);
+        }
         Start start;
         const QByteArray bewaard = Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n";
         start.Bank.Schrijf(u"RasterAtelier.INI"_s, bewaard); // found ignoring case
@@ -40,6 +47,7 @@ private slots:
         QCOMPARE(OrgineelBlauw, qint16(3));
         QCOMPARE(KleurVakjes, quint8(2));
         QCOMPARE(PaginaTekst, u"mijn pagina"_s);
+        QCOMPARE(Verschil(zonder, StandVan(start.Venster)), u"KleurVakjes Orgineel PaginaTekst"_s);
         QCOMPARE(start.Bank.Inhoud(u"RasterAtelier.INI"_s), bewaard);
     }
 

@@ -205,6 +205,7 @@ private slots:
         FilippineForm form;
         form.Text1->setText(u"dier"_s);
         form.HScroll1->setValue(4);
+        form.Option[1]->setFocus();
         form.Option[1]->click();
         QVERIFY(!form.Text1->isEnabled() && !form.HScroll1->isEnabled());
         QCOMPARE(form.Text1->text(), u"n.v.t."_s);
@@ -217,6 +218,8 @@ private slots:
         QCOMPARE(form.Text1->palette().color(QPalette::Active, QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.Text1->palette().color(QPalette::Active, QPalette::Text), QColor(230, 230, 230));
         QCOMPARE(form.Text2->text(), u"aap"_s);
+        QCOMPARE(form.HScroll1->value(), 4);
+        QCOMPARE(form.focusWidget(), form.Option[1]); // it stays
     }
 
     void theCounterCountsCells_data()
@@ -349,7 +352,7 @@ private slots:
     {
         Filippinebord bord;
         bord.Venster.Pic->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = Zwart});
-        bord.Venster.VoegRijenToe({{u"01"_s, u"eerst"_s, u"woord"_s, u"-"_s}});
+        bord.InBewerking(); // it stays changed as well
         bord.Wijs(2, 6);
         VerwachtBord verwacht(bord);
         const Stand ervoor = EditorStand(bord);
@@ -392,6 +395,30 @@ private slots:
         QCOMPARE(bord.Rij(0), u"07| |aap|-"_s);
     }
 
+    void aClueIsTakenAsItIsTyped()
+    {
+        Filippinebord bord;
+        const QString omschrijving = u"Welk dier? "_s + QString(32000, u'x');
+        Plaats(bord, {{2, 6}, u"aap"_s, omschrijving});
+        QCOMPARE(bord.Venster.Rijen()[0].Omschrijving, omschrijving);
+    }
+
+    void whatIsTypedDuringTheEffectCounts()
+    {
+        Filippinebord bord;
+        VerwachtBord verwacht(bord);
+        bord.Wijs(2, 6);
+        FilippineForm form;
+        KijkKlok klok([&] { VulIn(form, {{2, 6}, u"aap"_s, u"dier"_s, 9}); });
+        form.OkKnop->click();
+        QVERIFY(form.Unloaded());
+        QCOMPARE(bord.Rij(0), u"07|dier|aap|-"_s);
+        verwacht.Nummer({2, 6}, 9);
+        verwacht.Letters({3, 6}, u"A A P"_s);
+        QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
     void whatIsMissingIsSaid_data()
     {
         QTest::addColumn<QString>("omschrijving");
@@ -430,6 +457,7 @@ private slots:
     void cancelChangesNothing()
     {
         Filippinebord bord;
+        bord.InBewerking();
         bord.Wijs(2, 6);
         const Stand ervoor = EditorStand(bord);
         FilippineForm form;

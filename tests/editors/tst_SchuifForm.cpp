@@ -108,12 +108,12 @@ private slots:
     void asTheyOpen()
     {
         Bord bord;
-        bord.Wijs(2, 6);
+        bord.Wijs(2, 18);
         const Stand ervoor = SchuifStand(bord);
         for (const Soortvenster &venster : Vensters()) {
             const auto form = venster.Maak();
             QCOMPARE(form->objectName(), venster.Naam);
-            QCOMPARE(form->windowTitle(), venster.Titel + u"C-07 / 99"_s);
+            QCOMPARE(form->windowTitle(), venster.Titel + u"C-19 / 291"_s);
             QCOMPARE(form->size(), QSize((4590 - 90) / 15, (2790 - 450) / 15));
             QCOMPARE(form->palette().color(QPalette::Window), QColor(230, 250, 190));
             QCOMPARE(form->HScroll1->minimum(), venster.Van);
@@ -246,6 +246,8 @@ private slots:
         Bord bord;
         bord.Wijs(2, 3);
         AndereLetters(bord);
+        bord.InBewerking();
+        PuzzelGewijzigd = false;
         const Stand ervoor = SchuifStand(bord);
         const QImage groot = bord.Groot();
         LetterForm form;
@@ -318,6 +320,8 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
+        bord.InBewerking();
+        PuzzelGewijzigd = false;
         const Stand ervoor = SchuifStand(bord);
         NummerForm form;
         Klik(bord, *form.OkKnop, [&] { QVERIFY(!form.Unloaded()); });
@@ -370,6 +374,7 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         for (const Soortvenster &venster : Vensters()) {
             const auto form = venster.Maak();
@@ -380,6 +385,26 @@ private slots:
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QCOMPARE(GekozenLetter, u"I"_s); // what was picked is kept
         QCOMPARE(GekozenNummer, 8);
+    }
+
+    void whatIsPickedDuringTheEffectIsPrinted()
+    {
+        Bord bord;
+        bord.Wijs(2, 3);
+        Verwacht verwacht(bord.Pic());
+        LetterForm letter;
+        NummerForm nummer;
+        {
+            KijkKlok klok([&] { letter.HScroll1->setValue(16); });
+            letter.OkKnop->click();
+        }
+        verwacht.Druk(u"Q"_s, QPoint(71, 97), Lettertype(u"Arial"_s, 12, true), Grijs);
+        QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
+        KijkKlok klok([&] { nummer.HScroll1->setValue(25); });
+        nummer.OkKnop->click();
+        QCOMPARE(Verschil(bord.Pic(),
+                          MetNummer(verwacht.Beeld, QRect(61, 91, 11, 9), u"25"_s, Lettertype(u"Arial"_s, 6, true))),
+                 QString());
     }
 
     void aCellBeyondTheBoardIsLost()

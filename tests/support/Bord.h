@@ -30,6 +30,16 @@ struct Bord
         TekenBord(breedte, hoogte);
     }
 
+    /// As in the midst of work: changed, with a row, the frame round a cell and the line of a word.
+    void InBewerking()
+    {
+        PuzzelGewijzigd = true;
+        Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-")}});
+        Venster.ToonAantal();
+        Venster.Shape1->show();
+        Venster.Line1->show();
+    }
+
     /// Moves the pointer to the middle of a cell, counted from 0.
     void Wijs(int kolom, int rij) { Venster.Pic_MouseMove(kolom * VakMaat + VakMaat / 2, rij * VakMaat + VakMaat / 2); }
 
