@@ -245,7 +245,8 @@ private slots:
         QFETCH(QPoint, begin);
         QFETCH(QPoint, weg);
         QFETCH(QPoint, plaats);
-        const Veld veld(vakjes, vakjes);
+        Veld veld(vakjes, vakjes);
+        veld.InBewerking();
         const auto ervoor = veld.Nu();
         ShowPuzzel form;
         form.HScroll->setValue(begin.x());
