@@ -157,7 +157,7 @@ static bool LigtRecht(const QString &raster, int breedte, const QString &woord)
 class Notities : public Canvas
 {
 public:
-    void Cls() override { Regels += u"Cls"_s; }
+    void Cls() override { Regels += u"Cls %1"_s.arg(ForeColor, 0, 16); }
     QStringList Regels;
 
 protected:
@@ -528,6 +528,24 @@ private slots:
         QCOMPARE(bank_->Inhoud(u"weer.txt"_s), bank_->Inhoud(u"zoeker.txt"_s));
     }
 
+    void aPuzzleThatCannotBeDrawnIsLoadedAllTheSame()
+    {
+        Zoeker bewaard(4, 3, {u"ab"_s});
+        bewaard.MakeMetZaad(8);
+        bewaard.Save(Pad());
+        Zoeker geladen(9, 9, {});
+        ControleerFout(
+            [&] { geladen.Load(Pad()); }, 4, u"WordSearch - Draw"_s,
+            u"The canvas specified is not a valid drawing object, please set, for example a picture box or form."_s);
+        PixelBox box;
+        geladen.Canvas = &box;
+        geladen.Draw();
+        bewaard.Canvas = &box;
+        const QImage beeld = box.Image();
+        bewaard.Draw();
+        QCOMPARE(beeld, box.Image());
+    }
+
     void aFileThatStopsTooEarlyIsRefused()
     {
         const QByteArrayList regels{"Naam", "3", "2", "2", "ab", "cd", "ABCDEF"};
@@ -598,7 +616,7 @@ private slots:
 
         // Four by three units on 160 by 120 pixels: a cell is 40 by 40.
         const QFontMetricsF maten(Lettertype(u"Arial"_s, 8.25, false));
-        QStringList verwacht{u"Cls"_s};
+        QStringList verwacht{u"Cls ff000000"_s}; // before the colour is set
         for (int i = 0; i < 6; ++i) {
             const double x = i % 3 + 1 - maten.horizontalAdvance(raster[i]) / 40 / 2;
             const double y = i / 3 + 1 - std::round(maten.ascent() + maten.descent()) / 40 / 2;
