@@ -41,6 +41,7 @@ private slots:
             QString());
         QVERIFY(!form.Label1->geometry().intersects(form.Image1->geometry()));
         QCOMPARE(TabVolgorde(form), u"CancelKnop"_s);
+        QCOMPARE(Leesnamen(form), (QStringList{u"CancelKnop=Sluiten"_s, u"Image1=Raster Atelier"_s}));
     }
 
     void theButtonClosesIt()

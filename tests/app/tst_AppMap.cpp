@@ -83,6 +83,16 @@ private:
     pid_t kind_ = -1;
 };
 
+/// The text of the failure that choosing a folder raises.
+static QString Klacht(const Machine &machine, const QString &gevraagd = {})
+{
+    try {
+        return machine.Kies(gevraagd);
+    } catch (const Fout &fout) {
+        return fout.tekst();
+    }
+}
+
 class tst_AppMap : public QObject
 {
     Q_OBJECT
@@ -92,13 +102,16 @@ private slots:
         Machine machine;
         QDir().mkpath(machine.Eigen + u"/Data"_s);
         QCOMPARE(machine.Kies(machine.Gevraagd), machine.Gevraagd);
+        QCOMPARE(machine.Kies(QDir::current().relativeFilePath(machine.Gevraagd)), machine.Gevraagd);
         QVERIFY(!QDir(machine.Gebruiker).exists());
     }
 
     void aFolderAskedForMustBeThere()
     {
         Machine machine;
-        QCOMPARE(FoutVan([&] { machine.Kies(machine.Gevraagd + u"/weg"_s); }), int(Fout::BestandNietGevonden));
+        const QString weg = machine.Gevraagd + u"/weg"_s;
+        QCOMPARE(FoutVan([&] { machine.Kies(weg); }), int(Fout::BestandNietGevonden));
+        QVERIFY2(Klacht(machine, weg).endsWith(u" (de map "_s + weg + u')'), qPrintable(Klacht(machine, weg)));
     }
 
     void theProgramsOwnFolderWithDataComesNext()
@@ -196,6 +209,8 @@ private slots:
                                       QFile::ReadOwner | QFile::WriteOwner));
         QVERIFY(QDir(machine.Installatie).removeRecursively());
         QCOMPARE(FoutVan([&] { machine.Kies(); }), int(Fout::BestandNietGevonden));
+        QVERIFY2(Klacht(machine).endsWith(u" (de bestanden van de installatie in "_s + machine.Installatie + u')'),
+                 qPrintable(Klacht(machine)));
         QVERIFY(!QDir(machine.Gebruiker).exists());
     }
 

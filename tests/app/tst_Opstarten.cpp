@@ -70,7 +70,8 @@ private slots:
         } catch (const Fout &fout) {
             tekst = fout.tekst();
         }
-        QVERIFY(tekst.contains(u"Rasteratelier.ini"_s));
+        const QString pad = start.Bank.Map() + u"/Rasteratelier.ini"_s;
+        QVERIFY2(tekst.endsWith(u" (het instellingenbestand "_s + pad + u')'), qPrintable(tekst));
         QCOMPARE(start.Instellingen(), inhoud);
         QCOMPARE(OrgineelRood, qint16(230));                                // nothing half-read
         QCOMPARE(start.Venster.Pic->GetPixel(30, 15), qRgb(150, 150, 150)); // the board was there before

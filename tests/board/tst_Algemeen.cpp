@@ -15,7 +15,7 @@ private slots:
     void startValues()
     {
         PuzzelType = PijlSoort = KleurVakjes = 7;
-        BoardWidth = BoardHeight = CurCol = CurRow = CurCell = 77;
+        BoardWidth = BoardHeight = CurCol = CurRow = CurCell = PosX = PosY = 77;
         OrgineelRood = OrgineelGroen = OrgineelBlauw = 77;
         PuzzelNaam = PaginaTekst = u"oud"_s;
         PuzzelGewijzigd = true;
@@ -27,6 +27,8 @@ private slots:
         QCOMPARE(CurCol, 0);
         QCOMPARE(CurRow, 0);
         QCOMPARE(CurCell, 0);
+        QCOMPARE(PosX, 0);
+        QCOMPARE(PosY, 0);
         QCOMPARE(PuzzelNaam, QString());
         QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(PijlSoort, quint8(1));

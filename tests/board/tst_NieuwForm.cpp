@@ -96,6 +96,11 @@ private slots:
         QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (12)"_s);
         QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (14)"_s);
         QCOMPARE(form.Label3->Caption(), u"Naam Puzzel"_s);
+        QCOMPARE(Leesnamen(form),
+                 (QStringList{u"CancelKnop=Annuleren"_s, u"Combo1=Vakjes Horizontaal"_s, u"Combo2=Vakjes Vertikaal"_s,
+                              u"Image1=Voorbeeld van de soort"_s, u"OkKnop=Ok"_s, u"Option1=Zweedse Puzzel"_s,
+                              u"Option2=Woordzoeker"_s, u"Option3=Kruiswoord Puzzel"_s, u"Option4=Sudoku Puzzel"_s,
+                              u"Option5=Filippine Puzzel"_s, u"Text1=Naam Puzzel"_s}));
         QCOMPARE(form.Text1->text(), QString());
         QCOMPARE(form.Image1->Picture(), u"soort-zweeds"_s);
         for (const QWidget *box : {static_cast<QWidget *>(form.Combo1), static_cast<QWidget *>(form.Combo2)})

@@ -156,7 +156,7 @@ private slots:
     void theNamesForAScreenReader()
     {
         Blad blad;
-        QCOMPARE(Leesnamen(blad.Form),
+        QCOMPARE(Leesnamen(blad.Form).join(u'|'),
                  u"Text1=Woordenlijst|Text2=Woord invoer|AddKnop=Woord toevoegen|Combo1=Breedte|Combo2=Hoogte|"
                  "OkKnop=Draw puzzel|CancelKnop=Annuleren|ExportKnop=Puzzel exporteren naar hoofdveld"_s);
         QCOMPARE(blad.Form.picGrid->accessibleName(), u"Puzzelveld"_s);

@@ -365,6 +365,17 @@ private slots:
 
     // --- closing ---
 
+    void itBelongsToTheWindowThatIsActive()
+    {
+        TestVenster eerste;
+        QCOMPARE(eerste.parentWidget(), nullptr);
+        eerste.show();
+        eerste.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&eerste));
+        const TestVenster tweede;
+        QCOMPARE(tweede.parentWidget(), &eerste);
+    }
+
     void unloadClosesForGood()
     {
         TestVenster venster;

@@ -211,6 +211,20 @@ private slots:
         QCOMPARE(box.Inkt(), QRect(0, 0, 5, 5));
     }
 
+    void whatIsStretchedIsSmooth()
+    {
+        QImage strepen(20, 10, QImage::Format_RGB32);
+        strepen.fill(Wit);
+        for (int x = 0; x < 20; x += 2)
+            QPainter(&strepen).fillRect(x, 0, 1, 10, Qt::black);
+        PixelBox box(30, 20);
+        box.PaintPicture(strepen, QRectF(5, 5, 10, 5), QRectF(0, 0, 300, 150));
+        for (int x = 5; x < 15; ++x) { // each of a black pixel and a white one
+            const int grijs = qRed(box.GetPixel(x, 7));
+            QVERIFY2(grijs > 100 && grijs < 155, qPrintable(QString::number(grijs)));
+        }
+    }
+
     void whatIsDrawnIsShownAtOnce()
     {
         PixelBox box(30, 20);

@@ -132,14 +132,14 @@ QString TabVolgorde(QWidget &venster)
     return namen.join(u' ');
 }
 
-QString Leesnamen(const QWidget &venster)
+QStringList Leesnamen(const QWidget &venster)
 {
     QStringList namen;
     for (const QWidget *control : venster.findChildren<QWidget *>())
-        if (control->focusPolicy() != Qt::NoFocus && !control->isHidden() && !control->objectName().isEmpty() &&
-            !control->objectName().startsWith("qt_"_L1))
+        if (!control->objectName().isEmpty() && !control->accessibleName().isEmpty())
             namen += control->objectName() + u'=' + control->accessibleName();
-    return namen.join(u'|');
+    namen.sort();
+    return namen;
 }
 
 bool ToontHeel(const QLabel &uitleg)

@@ -29,9 +29,8 @@ QString PlaatjesOp(const QWidget &venster);
 /// opens
 QString TabVolgorde(QWidget &venster);
 
-/// What a screen reader says of the controls that the user does something with, in the order of their making,
-/// those of a frame with the frame: "OkKnop=Ok|CancelKnop=Annuleren".
-QString Leesnamen(const QWidget &venster);
+/// What a screen reader calls each control that has a name of its own for it: "OkKnop=Ok", in the order of their names.
+QStringList Leesnamen(const QWidget &venster);
 
 /// Whether a text that is broken over lines shows whole in its place.
 bool ToontHeel(const QLabel &uitleg);
