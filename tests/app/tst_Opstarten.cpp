@@ -51,6 +51,16 @@ private slots:
         QCOMPARE(start.Bank.Inhoud(u"RasterAtelier.INI"_s), bewaard);
     }
 
+    void whatIsReadIsTakenAsItStands()
+    {
+        Start start;
+        start.Bank.Schrijf(u"Rasteratelier.ini"_s, Begin + "-5,300,32767\r\n9\r\n\"\"\r\n");
+        LaadMain();
+        QCOMPARE((std::array{OrgineelRood, OrgineelGroen, OrgineelBlauw}), (std::array<qint16, 3>{-5, 300, 32767}));
+        QCOMPARE(KleurVakjes, quint8(9));
+        QCOMPARE(PaginaTekst, QString());
+    }
+
     void aDamagedFileEndsTheStartAndStaysAsItIs_data()
     {
         QTest::addColumn<QByteArray>("inhoud");
