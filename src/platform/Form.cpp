@@ -17,6 +17,7 @@
 #include <QRadioButton>
 #include <QScreen>
 #include <QScrollArea>
+#include <QShowEvent>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -66,6 +67,17 @@ void Form::PasOpScherm()
     const QSize frame(Twips::NaarPixels(FrameWidth), Twips::NaarPixels(FrameHeight));
     setMaximumSize(maat);
     resize(maat.boundedTo(screen()->availableSize() - frame));
+}
+
+// A window comes in the middle, where a tall one would have its title above the screen.
+void Form::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    const int rand = Twips::NaarPixels(FrameWidth) / 2;
+    const QPoint eerste = screen()->availableGeometry().topLeft() + QPoint(rand, Twips::NaarPixels(FrameHeight) - rand);
+    move(std::max(x(), eerste.x()), std::max(y(), eerste.y()));
 }
 
 void Form::MaakRekbaar()

@@ -62,6 +62,8 @@ public:
     bool Unloaded() const { return unloaded_; }
 
 protected:
+    void showEvent(QShowEvent *event) override;
+
     /// A control on the form (or on another control), with its name and the Dutch name that a screen reader says.
     template <class Control, class... Args>
     Control *Maak(const char *naam, const QString &leesnaam, QWidget *ouder = nullptr, Args &&...args)

@@ -192,6 +192,13 @@ class Desktop:
         told = self.tell(["xprop", "-id", self.tell(["xdotool", "getactivewindow"]), "-notype", "_NET_FRAME_EXTENTS"])
         return [int(number) for number in re.findall(r"\d+", told)]
 
+    def active_is_on_screen(self):
+        """Whether all of the window with the focus is, with its frame."""
+        _, left, top, width, height = self.active_window()
+        before, behind, above, below = self.active_frame()
+        return (left >= before and left + width + behind <= self.width
+                and top >= above and top + height + below <= self.height)
+
     def move_active(self, left, top):
         """Moves the window with the focus."""
         self.xdotool("getactivewindow", "windowmove", "--sync", left, top)

@@ -139,6 +139,21 @@ private slots:
         QCOMPARE(venster.Knop->parentWidget()->size(), QSize(59910 / 15, 59250 / 15)); // it scrolls
     }
 
+    void theTitleOfATallWindowIsOnTheScreen()
+    {
+        const QRect scherm = QGuiApplication::primaryScreen()->availableGeometry();
+        TestVenster hoog(60000, 60000, true);
+        TestVenster laag;
+        hoog.PasOpScherm();
+        hoog.show();
+        laag.show();
+        QCOMPARE(hoog.pos(), scherm.topLeft() + QPoint(3, 27));
+        QDialog dialoog; // comes in the middle
+        dialoog.setFixedSize(laag.size());
+        dialoog.show();
+        QCOMPARE(laag.pos(), dialoog.pos());
+    }
+
     void aControlHasItsNames()
     {
         TestVenster venster;

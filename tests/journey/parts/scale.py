@@ -31,16 +31,15 @@ def walk(journey):
 def lacking(desktop, window, factor):
     """What keeps the main window from being whole, as texts."""
     wrong = [f"a scroll bar at {bar.box()}" for bar in window.all("scroll bar") if bar.name != OWN_BAR]
-    _, left, top, width, height = desktop.active_window()
+    _, _, _, width, height = desktop.active_window()
     menu = window.find("menu bar", "").box()[3]
     lacks = round(MAIN_SIZE[0] * factor) - width, round(MAIN_SIZE[1] * factor) + menu - height
     if max(lacks) > 0:
         wrong.append(f"the window of {width}x{height} lacks {lacks[0]}x{lacks[1]} pixels")
     if min(lacks) < -8:
         wrong.append(f"the window of {width}x{height} is too large by {-lacks[0]}x{-lacks[1]} pixels")
-    before, behind, above, below = desktop.active_frame()
-    if left < before or top < above or left + width + behind > SCREEN[0] or top + height + below > SCREEN[1]:
-        wrong.append(f"the window at {left},{top} isn't on the screen with its frame")
+    if not desktop.active_is_on_screen():
+        wrong.append("the window isn't on the screen with its frame")
     return wrong + outside(window)
 
 
