@@ -37,16 +37,9 @@ void Label::SetForeColor(QRgb kleur)
     setPalette(palet);
 }
 
-void Label::setVisible(bool zichtbaar)
-{
-    QLabel::setVisible(zichtbaar);
-    if (zichtbaar)
-        Pas();
-}
-
 void Label::Pas()
 {
-    if (!AutoSize || (isHidden() && testAttribute(Qt::WA_WState_ExplicitShowHide)))
+    if (!AutoSize)
         return;
     const QFontMetricsF maten(font());
     double breedte = 0;

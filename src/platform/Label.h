@@ -18,9 +18,6 @@ public:
     void SetBackColor(QRgb kleur);
     void SetForeColor(QRgb kleur);
 
-    /// One that was hidden is measured when it is shown.
-    void setVisible(bool zichtbaar) override;
-
 private:
     void Pas();
 };

@@ -117,21 +117,6 @@ private slots:
         QCOMPARE(label.font().pixelSize(), 40);
     }
 
-    void aHiddenOneIsMeasuredWhenItIsShown()
-    {
-        QWidget venster;
-        Label label(u"kort"_s, &venster);
-        label.hide();
-        const QSize klein = label.size();
-        label.SetFont(Lettertype(u"Arial"_s, 30, false));
-        label.SetCaption(u"een langer opschrift"_s);
-        QCOMPARE(label.size(), klein);
-        label.show();
-        Label zichtbaar(label.Caption(), nullptr);
-        zichtbaar.SetFont(label.font());
-        QCOMPARE(label.size(), zichtbaar.size());
-    }
-
     void markupIsShownAsItIs_data()
     {
         QTest::addColumn<QString>("caption");

@@ -87,7 +87,7 @@ private slots:
         const Naslagbord bord;
         SpreekwoordForm form;
         QCOMPARE(TabVolgorde(form), u"List1 OkKnop"_s);
-        QCOMPARE(Leesnamen(form).join(u'|'), u"List1=Bibliotheek|OkKnop=Ok"_s);
+        QCOMPARE(Leesnamen(form).join(u'|'), u"List1=Bibliotheek|List2=Betekenissen|OkKnop=Ok"_s);
     }
 
     void theMenu()
