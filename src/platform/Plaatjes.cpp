@@ -70,8 +70,7 @@ void SchermPlaatje::Teken(QPainter &painter, const QWidget &widget)
     if (naam_.isEmpty())
         return;
     const double ratio = widget.devicePixelRatioF();
-    if (pixmap_.isNull() || pixmap_.devicePixelRatio() != ratio ||
-        pixmap_.deviceIndependentSize() != QSizeF(widget.size()))
+    if (pixmap_.size() != widget.size() * ratio || pixmap_.devicePixelRatio() != ratio)
         pixmap_ = Plaatjes::Pixmap(naam_, widget.size(), ratio);
     painter.drawPixmap(0, 0, pixmap_);
 }

@@ -75,9 +75,10 @@ static void ZoekRegels(const QByteArray &inhoud, const std::string &key)
         EIS(Gevonden([&](auto v) { ZoekWisselingen(inhoud, alsBytes, v); }) == Naslag::Wisselingen(regels, key));
     const qsizetype cellen = pattern.size() - pattern.count("IJ");
     EIS(Gevonden([&](auto v) { ZoekOntbrekende(inhoud, pattern, cellen, v); }) ==
-        Naslag::Ontbrekende(regels, pattern.toStdString(), static_cast<size_t>(cellen)));
+        Naslag::Ontbrekende(Naslag::InHoofdletters(regels), pattern.toStdString(), static_cast<size_t>(cellen)));
     QStringList paneel;
-    for (const std::string &woord : Naslag::Paneel(regels, key.size()))
+    std::map<size_t, Naslag::Lijst> inCellen = Naslag::Paneel(regels);
+    for (const std::string &woord : inCellen[key.size()])
         paneel += Files::NaarTekst(QByteArray::fromStdString(woord));
     EIS(ZoekLengte(inhoud, std::ssize(key)) == paneel);
 }
