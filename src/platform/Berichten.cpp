@@ -3,7 +3,6 @@
 #include "platform/BeginVan.h"
 #include "platform/Uiterlijk.h"
 
-#include <QApplication>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGridLayout>

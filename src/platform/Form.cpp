@@ -10,7 +10,6 @@
 #include "platform/WachtBij.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -103,21 +102,15 @@ int Form::Height() const
 
 void Form::Voer(const QString &naam, const std::function<void()> &handler)
 {
-    const auto meld = [&naam](const Fout &fout) {
-        const QString tekst = fout.tekst();
-        const QString punt = tekst.endsWith(u'.') ? QString() : u"."_s; // a component's text is a sentence already
-        MsgBox(u"Fout %1 bij %2: %3%4"_s.arg(fout.nummer()).arg(naam, tekst, punt), Knoppen::Ok, Icoon::Kritiek);
-    };
     try {
         handler();
     } catch (const Afgebroken &) {
         // closed while it waited: nothing to say
-    } catch (const Fout &fout) {
-        meld(fout);
-    } catch (const std::bad_alloc &) {
-        meld(Fout(Fout::GeheugenVol));
-    } catch (const std::exception &fout) {
-        meld(Fout(Fout::OngeldigArgument, QString::fromLocal8Bit(fout.what())));
+    } catch (const std::exception &exception) {
+        const Fout fout = Fout::Van(exception);
+        const QString tekst = fout.tekst();
+        const QString punt = tekst.endsWith(u'.') ? QString() : u"."_s; // a component's text is a sentence already
+        MsgBox(u"Fout %1 bij %2: %3%4"_s.arg(fout.nummer()).arg(naam, tekst, punt), Knoppen::Ok, Icoon::Kritiek);
     }
 }
 
@@ -182,10 +175,11 @@ QList<QRadioButton *> Form::MaakOpties(const QStringList &opschriften, QWidget *
 {
     QList<QRadioButton *> opties;
     for (const QString &opschrift : opschriften) {
-        opties += Maak<QRadioButton>("", opschrift, ouder, opschrift);
-        opties.last()->setObjectName(u"Option%1"_s.arg(opties.size()));
-        opties.last()->setFocusPolicy(Qt::ClickFocus);
-        connect(opties.last(), &QRadioButton::toggled, opties.last(), [optie = opties.last()](bool aan) {
+        auto *optie = Maak<QRadioButton>("", opschrift, ouder, opschrift);
+        opties += optie;
+        optie->setObjectName(u"Option%1"_s.arg(opties.size()));
+        optie->setFocusPolicy(Qt::ClickFocus);
+        connect(optie, &QRadioButton::toggled, optie, [optie](bool aan) {
             optie->setFocusPolicy(aan ? Qt::StrongFocus : Qt::ClickFocus); // Tab goes to the chosen one alone
         });
     }
