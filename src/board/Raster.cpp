@@ -118,7 +118,7 @@ int BordNummer()
 
 void TekenBord(int breedte, int hoogte)
 {
-    ++bordNummer;
     TekenRaster(breedte, hoogte);
     TekenGroot(breedte, hoogte);
+    ++bordNummer;
 }

@@ -157,11 +157,13 @@ private slots:
         Bord bord;
         bord.Venster.Pic->BoxFull(15, 15, 400, 400, Zwart);
         const Stand ervoor = bord.Nu();
+        const int nummer = BordNummer();
         QCOMPARE(FoutVan([&] { ControleerBord(breedte, hoogte); }), fout);
         QCOMPARE(FoutVan([&] { TekenRaster(breedte, hoogte); }), fout);
         QCOMPARE(FoutVan([&] { TekenGroot(breedte, hoogte); }), fout);
         QCOMPARE(FoutVan([&] { TekenBord(breedte, hoogte); }), fout);
         QCOMPARE(bord.Veranderd(ervoor), QString());
+        QCOMPARE(BordNummer(), nummer); // what works on the one that is there goes on
     }
 
     // Each of the four pictures can be the one that is too large: here its hidden part leaves no room to grow.
