@@ -7,50 +7,34 @@
 #include "platform/Screen.h"
 #include "platform/Toeval.h"
 
-// All in pixels: a cell is 30, its letter stands 11 to the right and 7 down.
-//
-//      x-5    x          x+12
-//       |     +--+        |
-//  y+8  |-----|/\|--------|    the line that is looked at
-static bool IsLeeg(const PictureBox &pic, int x, int y)
+/// Looks at a line of pixels through the middle of the cell, from 6 up to 23; a cell is 30.
+static bool IsLeeg(const PictureBox &pic, int kolom, int rij)
 {
-    for (int i = x - 5; i <= x + 12; ++i)
-        if (pic.GetPixel(i, y + 8) != RGB(255, 255, 255))
+    constexpr int Cell = 30;
+    for (int x = 6; x <= 23; ++x)
+        if (pic.GetPixel(kolom * Cell + x, rij * Cell + 15) != RGB(255, 255, 255))
             return false;
     return true;
 }
 
-static void DrukLetter(PictureBox &pic, int x, int y)
+static void DrukLetter(PictureBox &pic, int kolom, int rij)
 {
     Toeval::Randomize();
-    const int n = static_cast<int>(Toeval::Rnd() * 26);
-    constexpr int IndexI = 8, IndexW = 22;
-    int verschuiving = 0;
-    if (n == IndexW)
-        verschuiving = -3;
-    else if (n == IndexI)
-        verschuiving = 4;
-    pic.PrintOp(x + verschuiving, y, QString(QChar(65 + n)));
+    const QChar letter(u'A' + static_cast<int>(Toeval::Rnd() * 26));
+    pic.PrintOp(kolom * VakMaat + LetterX + LetterVerschuiving(letter), rij * VakMaat + LetterY, letter);
 }
 
 void VulLegeVakjes()
 {
-    constexpr int Cell = 30;
+    const Screen::Bezig bezig;
     PictureBox &pic = *Main().Pic;
-    Screen::MousePointer(Screen::Hourglass);
     pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
     const int bord = BordNummer();
-    int x = 11;
-    for (int kolom = 1; kolom <= BoardWidth && BordNummer() == bord; ++kolom, x += Cell) {
-        int y = 7;
-        for (int rij = 1; rij <= BoardHeight && BordNummer() == bord; ++rij, y += Cell) {
-            if (IsLeeg(pic, x, y)) {
-                pic.SetScaleMode(ScaleModes::Pixels);
-                DrukLetter(pic, x, y);
-                pic.SetScaleMode(ScaleModes::Twips);
-            }
+    for (int kolom = 0; kolom < BoardWidth && BordNummer() == bord; ++kolom) {
+        for (int rij = 0; rij < BoardHeight && BordNummer() == bord; ++rij) {
+            if (IsLeeg(pic, kolom, rij))
+                DrukLetter(pic, kolom, rij);
             Wachten(0.01);
         }
     }
-    Screen::MousePointer(Screen::Own);
 }

@@ -12,9 +12,14 @@ static constexpr int RasterRed = 150;
 static constexpr int AnswerRed = 240; ///< of Vak1, a cell of a horizontal answer
 static constexpr int SearchRed = 174; ///< of Vak2, a cell of the vertical search word
 
+void PlakTegel(PictureBox &doel, const QImage &tegel, int x, int y)
+{
+    doel.PaintPicture(tegel, QRectF(x, y, TegelMaat, TegelMaat), QRectF(0, 0, TegelMaat, TegelMaat));
+}
+
 void VerwijderRaster(PictureBox &doel)
 {
-    Screen::MousePointer(Screen::Hourglass);
+    const Screen::Bezig bezig;
     const int bord = BordNummer();
     for (int x = 0; x <= doel.width() && BordNummer() == bord; ++x) {
         for (int y = 0; y <= doel.height(); ++y)
@@ -22,7 +27,6 @@ void VerwijderRaster(PictureBox &doel)
                 doel.SetPixel(x, y, RGB(255, 255, 255));
         QCoreApplication::processEvents();
     }
-    Screen::MousePointer(Screen::Own);
 }
 
 /// The picture that a cell is to have, by the pixel at 5, 5 of it; nullptr when it is no answer cell.
@@ -41,14 +45,12 @@ static const PictureBox *LeegVak(const PictureBox &doel, int x, int y)
 void VerwijderLetters(PictureBox &doel)
 {
     constexpr int Cell = 30;
-    Screen::MousePointer(Screen::Hourglass);
+    const Screen::Bezig bezig;
     const int bord = BordNummer();
     for (int kolom = 0; kolom < 16 && BordNummer() == bord; ++kolom) {
         for (int rij = 0; rij < 19; ++rij)
             if (const PictureBox *vak = LeegVak(doel, kolom * Cell, rij * Cell))
-                doel.PaintPicture(vak->Image(), QRectF(kolom * VakMaat, rij * VakMaat, TegelMaat, TegelMaat),
-                                  QRectF(0, 0, TegelMaat, TegelMaat));
+                PlakTegel(doel, vak->Image(), kolom * VakMaat, rij * VakMaat);
         Wachten(0.2);
     }
-    Screen::MousePointer(Screen::Own);
 }

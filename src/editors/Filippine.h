@@ -4,6 +4,9 @@
 
 inline constexpr int TegelMaat = 465; ///< an answer cell, twips: it shares its edges with its neighbours
 
+/// Paints an answer cell, with its top left at a place in twips.
+void PlakTegel(PictureBox &doel, const QImage &tegel, int x, int y);
+
 // What turns the finished board of a Filippine into the blank puzzle. Both can be done more than once and cannot be
 // undone. Events run meanwhile; both end when another board appears. The two kinds of answer cell are told apart by the
 // red component of their background alone.

@@ -95,16 +95,11 @@ void FilippineForm::CancelKnop_Click()
     Sluit(CancelKnop);
 }
 
-static void PlakTegel(const QImage &tegel, int x, int y)
-{
-    Main().Pic->PaintPicture(tegel, QRectF(x, y, TegelMaat, TegelMaat), QRectF(0, 0, TegelMaat, TegelMaat));
-}
-
 /// Places a word, a tile and a letter a cell, with each "ij" as "?". Twips.
 static void PlaatsLetters(const QString &woord, const QImage &tegel, int x, int y, QPoint stap)
 {
     for (const QChar teken : Hoofdletters(woord)) {
-        PlakTegel(tegel, x, y);
+        PlakTegel(*Main().Pic, tegel, x, y);
         Main().Pic->PrintOp(x + 150 + LetterVerschuiving(teken), y + LetterY, LetterVan(teken));
         x += stap.x();
         y += stap.y();
@@ -118,7 +113,7 @@ void FilippineForm::PlaatsZoekwoord() const
 
 void FilippineForm::PlaatsAntwoord()
 {
-    PlakTegel(PicZwart->Image(), CurCol * VakMaat, CurRow * VakMaat);
+    PlakTegel(*Main().Pic, PicZwart->Image(), CurCol * VakMaat, CurRow * VakMaat);
     PlaatsLetters(Text2->text(), Main().Vak1->Image(), (CurCol + 1) * VakMaat, CurRow * VakMaat, {VakMaat, 0});
     Text2->setText(ZonderCode(Text2->text()));
     VoegFilippineRegelToe(Text1->text(), Text2->text());

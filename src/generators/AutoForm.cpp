@@ -179,8 +179,8 @@ void AutoForm::TekenLetters()
     const qsizetype aantal = std::min<qsizetype>(WoordzoekerRaster.size(), qsizetype{BoardWidth} * BoardHeight);
     for (int i = 0; i < aantal; ++i) {
         const QChar letter = WoordzoekerRaster[i];
-        const int x = 165 + i % BoardWidth * VakMaat;
-        const int y = 105 + i / BoardWidth * VakMaat;
+        const int x = LetterX + i % BoardWidth * VakMaat;
+        const int y = LetterY + i / BoardWidth * VakMaat;
         pic.PrintOp(x + LetterVerschuiving(letter), y, letter == Code ? QString(LangeIJ) : QString(letter));
     }
 }
