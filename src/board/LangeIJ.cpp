@@ -21,10 +21,10 @@ QString LetterVan(QChar teken)
 
 qsizetype AantalVakjes(const QString &oplossing)
 {
-    return Hoofdletters(oplossing).replace("IJ"_L1, "?"_L1).size();
+    return AantalLetters(Hoofdletters(oplossing));
 }
 
-qsizetype AantalLetters(QString woord)
+qsizetype AantalLetters(const QString &woord)
 {
-    return woord.replace("IJ"_L1, "Y"_L1).size();
+    return woord.size() - woord.count("IJ"_L1);
 }

@@ -14,4 +14,4 @@ QString LetterVan(QChar teken);
 /// How many cells a word of the entry list takes: in capitals, with each "IJ" as one.
 qsizetype AantalVakjes(const QString &oplossing);
 /// How many letters a word of the word panel has: each "IJ" is one, in capitals only.
-qsizetype AantalLetters(QString woord);
+qsizetype AantalLetters(const QString &woord);
