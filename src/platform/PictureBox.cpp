@@ -9,9 +9,12 @@
 #include <QPainter>
 
 #include <algorithm>
+
+#ifdef Q_OS_LINUX
 #include <cstdint>
 #include <sys/mman.h>
 #include <unistd.h>
+#endif
 
 using namespace Qt::StringLiterals;
 
@@ -53,14 +56,16 @@ QSize PictureBox::MaatInPixels() const
 }
 
 /// Asks for the memory of a new picture in large pages, which are there in half the time. It does as well without them.
-static void VraagGrotePaginas(QImage &beeld)
+static void VraagGrotePaginas([[maybe_unused]] QImage &beeld)
 {
+#ifdef Q_OS_LINUX
     const auto pagina = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
     const auto begin = reinterpret_cast<std::uintptr_t>(beeld.bits());
     const std::uintptr_t eerste = (begin + pagina - 1) / pagina * pagina;
     const std::uintptr_t einde = begin + static_cast<std::uintptr_t>(beeld.sizeInBytes());
     if (eerste < einde)
         madvise(reinterpret_cast<void *>(eerste), einde - eerste, MADV_HUGEPAGE);
+#endif
 }
 
 QImage &PictureBox::Beeld() const
