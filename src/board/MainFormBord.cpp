@@ -52,8 +52,7 @@ void MainForm::MaakBord()
     Zet(KlokLabel, 7020, 180);
 
     Label1->SetBackColor(RGB(150, 150, 150));
-    Label2->SetFont(
-        Lettertype(u"Arial"_s, 30, false)); // it takes the size that its text has then, or it would be cut off
+    Label2->SetFont(Lettertype(u"Arial"_s, 30, false)); // and takes the size of its text: else that would be cut off
     Label2->SetBackColor(RGB(230, 230, 0));
     Label2->hide();
     KlokLabel->setAlignment(Qt::AlignRight); // its texts would be cut off on the other side

@@ -126,6 +126,7 @@ void VakForm::CancelKnop_Click()
 void VakForm::PlakTegel()
 {
     constexpr int TileSize = 645;
+    // By KleurVakjes; the first is that of the drawing. The settings window shows a sample of each.
     static const std::array<QLatin1String, 3> Kleuren{"#e5f8c2"_L1, "#c0e5e0"_L1, "#f49a95"_L1};
     const int tegel = (Label2->Caption().toInt() - 1) * TileSize;
     if (KleurVakjes < 1 || KleurVakjes > Kleuren.size())

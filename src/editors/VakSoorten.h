@@ -5,7 +5,8 @@
 #include <array>
 #include <optional>
 
-// The eight kinds of information cell: which arrows leave it, and whether it is split between two clues.
+// The eight kinds of information cell: which arrows leave it, and whether it is split between two clues. This is the
+// sheet and the preview; on the visible board a kind is a tile of the drawing "vakjes", with its arrows in it.
 //
 //        +--------+            +--------+
 //        |  clue  |> 1         | clue 1 |> 5: both arrows,

@@ -4,6 +4,7 @@
 
 /// Draws an outline within a rectangle, of bars: with a pen a side that falls between two pixels is lost, where the
 /// scale of the screen is no whole number.
+/// @param dikte how thick the bars are, in the painter's units
 inline void TekenKader(QPainter &painter, const QRect &vlak, int dikte, const QColor &kleur)
 {
     for (const QRect &zijde :

@@ -17,8 +17,8 @@ ListView::ListView(const QList<Column> &columns, QWidget *ouder) : RowChoice(oud
     for (int i = 0; i < columnCount(); ++i) {
         kop.text = columns[i].Caption;
         headerItem()->setText(i, kop.text);
-        headerItem()->setSizeHint(
-            i, style()->sizeFromContents(QStyle::CT_HeaderSection, &kop, {}, header())); // else in bold
+        // Of its own account the header measures a caption in bold.
+        headerItem()->setSizeHint(i, style()->sizeFromContents(QStyle::CT_HeaderSection, &kop, {}, header()));
         setColumnWidth(i, Twips::NaarPixels(columns[i].Width));
     }
 }

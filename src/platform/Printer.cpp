@@ -77,6 +77,7 @@ private:
     void BeginPdf(const QString &titel);
     void BeginAfdruk(const QString &wachtrij, const QString &titel);
 
+    // In this order: the painter ends before its device goes, and that before what it writes to.
     QString pad_;
     QBuffer inhoud_; ///< of the PDF file
 

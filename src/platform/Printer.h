@@ -2,8 +2,6 @@
 
 #include "platform/PagedCanvas.h"
 
-#include <QStringList>
-
 #include <memory>
 
 class QPagedPaintDevice;

@@ -2,6 +2,8 @@
 
 #include "platform/Printer.h"
 
+#include <QStringList>
+
 /// The system's print queues. One object is in use at a time; tests put their own in its place.
 class Wachtrijen
 {
