@@ -125,6 +125,7 @@ static void KeyInNotepad(benchmark::State &state)
     }
 }
 BENCHMARK(KeyInNotepad)->Unit(benchmark::kMillisecond)->Iterations(40); // the line stays one of some eighty signs
+
 static void OpenViewerOfTheLargestBoard(benchmark::State &state)
 {
     for (auto _ : state) {

@@ -13,4 +13,5 @@ struct Instellingen
 
 /// Reads the five lines of a settings file. Raises Fout when it is damaged.
 Instellingen LeesInstellingen(const QByteArray &inhoud);
+/// These five lines.
 QByteArray SchrijfInstellingen(const Instellingen &instellingen);

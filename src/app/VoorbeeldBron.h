@@ -11,8 +11,8 @@
 //     maat|COLUMNS|ROWS           a Zweeds puzzle, then:
 //       vak|A-01|KIND|clue          its lines separated by "\"
 //       woord|A-01|H or V|solution|clue
-//     kruiswoord|COLUMNS|ROWS     then the same words; cells without a letter are black, the numbers follow by
-//     themselves woordzoeker|COLUMNS|ROWS    a word search, then:
+//     kruiswoord|COLUMNS|ROWS     then the same words; cells without a letter are black, the numbers are made
+//     woordzoeker|COLUMNS|ROWS    a word search, then:
 //       woord|word
 //     sudoku|LEVEL                Gemakkelijk, Normaal or Moeilijk, and nothing more
 //     filippine|BLANK|J-01|word   the name of the blank puzzle, where the search word begins and which it is, then for

@@ -4,6 +4,7 @@
 #include "board/MainForm.h"
 #include "board/NieuwForm.h"
 #include "documents/HtmlExport.h"
+#include "documents/PuzzelMap.h"
 #include "documents/SaveForm.h"
 #include "editors/Filippine.h"
 #include "editors/FilippineForm.h"
@@ -163,7 +164,7 @@ void Bewaar(const QString &naam)
     SaveForm bewaar;
     bewaar.Text1->setText(naam);
     bewaar.SaveKnop_Click();
-    MoetBestaan(Files::Pad(AppPath, {u"Puzzels"_s, naam + u".lst"_s}));
+    MoetBestaan(PuzzelPad(naam + u".lst"_s));
 }
 
 void Maak(const Puzzel &puzzel)

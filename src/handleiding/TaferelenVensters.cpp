@@ -3,7 +3,6 @@
 
 #include "app/AboutForm.h"
 #include "app/ConfigForm.h"
-#include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "documents/OpenFile.h"
 #include "documents/SaveForm.h"

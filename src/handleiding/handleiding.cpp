@@ -1,8 +1,8 @@
 // Makes a manual as a PDF file.
 //
-//   handleiding TITEL BEELDMAP DOEL BRON...   of texts in Markdown, in UTF-8, one behind the other; the pictures that
-//   they
-//                                             name are files in BEELDMAP
+//   handleiding TITEL BEELDMAP DOEL BRON...
+//
+// The sources are texts in Markdown, in UTF-8, one behind the other; the pictures that they name are files in BEELDMAP.
 
 #include "handleiding/HandleidingPdf.h"
 

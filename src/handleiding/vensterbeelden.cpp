@@ -1,8 +1,8 @@
 // Takes the pictures of a manual, of the windows of the program as they are.
 //
-//   vensterbeelden APPMAP BEELDMAP   with the data of the folder APPMAP, which stay as they are; the pictures are put
-//   in
-//                                    BEELDMAP
+//   vensterbeelden APPMAP BEELDMAP
+//
+// They show the data of the folder APPMAP, which stay as they are, and are put in BEELDMAP.
 
 #include "handleiding/Fotograaf.h"
 #include "handleiding/Taferelen.h"

@@ -4,7 +4,6 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QMouseEvent>
-#include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 

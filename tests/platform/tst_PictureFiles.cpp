@@ -3,7 +3,6 @@
 #include "support/Testbank.h"
 
 #include <QBuffer>
-#include <QFile>
 #include <QFileInfo>
 #include <QtEndian>
 
