@@ -42,6 +42,7 @@ private slots:
         QVERIFY(!form.Label1->geometry().intersects(form.Image1->geometry()));
         QCOMPARE(TabVolgorde(form), u"CancelKnop"_s);
         QCOMPARE(Leesnamen(form), (QStringList{u"CancelKnop=Sluiten"_s, u"Image1=Raster Atelier"_s}));
+        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-sluiten, Image1 rasteratelier"_s);
     }
 
     void theButtonClosesIt()

@@ -155,6 +155,8 @@ private slots:
         QCOMPARE(form.Label5->Caption(), u"Reset alle gemaakte wijzigingen"_s);
         QCOMPARE(form.Label6->Caption(), u"Kleur vakjes zichtbaar puzzelveld"_s);
         QCOMPARE(form.Label8->Caption(), u"Tekst op alle afdrukpagina's"_s);
+        QCOMPARE(PlaatjesOp(form),
+                 u"CancelKnop knop-annuleren, Image1 instellingen, OkKnop knop-ok, ResetKnop knop-reset"_s);
         for (const QWidget *control : form.findChildren<QWidget *>())
             QCOMPARE(control->toolTip(), control == form.OkKnop ? u" Wijzigingen Opslaan "_s : QString());
         QCOMPARE(form.Text1->palette().color(QPalette::Base), QColor(0, 0, 30));

@@ -10,7 +10,6 @@
 #include "support/Bestuurder.h"
 #include "support/Bord.h"
 #include "support/Schil.h"
-#include "support/Venster.h"
 #include "support/Verloop.h"
 #include "support/Verwacht.h"
 
@@ -20,7 +19,6 @@
 #include <QGuiApplication>
 #include <QMenuBar>
 #include <QRegularExpression>
-#include <QSignalSpy>
 
 #include <numeric>
 
@@ -68,52 +66,31 @@ private slots:
         QCOMPARE(uit.join(u' '), u"EditDeleteRaster EditDeleteLetters"_s); // the kind of the puzzle enables these two
     }
 
-    void thePicturesOfTheMainWindow()
-    {
-        Programma programma;
-        QCOMPARE(
-            PlaatjesOp(programma.Main()),
-            u"AboutKnop knop-over, DelKnop knop-wissen, ExitKnop knop-stop, HelpKnop knop-help, Image1 woordenboek, "
-            "LoadKnop knop-laden, LogoPic logo, OkKnop knop-zoeken, StartKnop knop-ok"_s);
-    }
-
     void menuItemsOpenTheirWindow_data()
     {
         QTest::addColumn<QString>("item");
         QTest::addColumn<QString>("venster");
-        QTest::addColumn<QString>("plaatjes");
-        Geval("FileNew", "FileNew", "NieuwForm", "CancelKnop knop-annuleren, Image1 soort-zweeds, OkKnop knop-ok");
-        Geval("FileOpen", "FileOpen", "OpenFile",
-              "CancelKnop knop-annuleren, DelKnop knop-wissen, Image1 map-open, OkKnop knop-ok");
-        Geval("FileSave", "FileSave", "SaveForm", "CancelKnop knop-annuleren-laag, SaveKnop knop-opslaan");
-        Geval("FilePrint", "FilePrint", "Afdrukken",
-              "CancelKnop knop-annuleren-laag, Image1 printer, PrintKnop knop-afdrukken");
-        Geval("BiebInternZoeken", "BiebInternZoeken", "ZoekForm", "ExportKnop knop-export, Image1 database");
-        Geval("BiebWoordzoeker", "BiebWoordzoeker", "FormMain",
-              "ExportKnop knop-export, Image1 wisseling, OkKnop knop-ok");
-        Geval("BiebOntbrekendeLetters", "BiebOntbrekendeLetters", "MissingForm",
-              "CancelKnop knop-annuleren, ExportKnop knop-export, OkKnop knop-ok");
-        Geval("BiebSpreekwoorden", "BiebSpreekwoorden", "SpreekwoordForm", "OkKnop knop-ok");
-        Geval("BiebChemisch", "BiebChemisch", "ChemischForm", "Picture scheikunde");
-        Geval("ToolsAdd", "ToolsAdd", "AddForm",
-              "AddKnop knop-toevoegen, CancelKnop knop-annuleren, DelKnop knop-delete, Image1 woordlijst, NieuwKnop "
-              "knop-nieuw, SaveKnop knop-opslaan");
-        Geval("ToolsAutoWoordzoeker", "ToolsAutoWoordzoeker", "AutoForm",
-              "AddKnop knop-toevoegen, CancelKnop knop-annuleren, ExportKnop knop-export, OkKnop knop-ok");
-        Geval("ShowOrgineel", "ShowOrgineel", "ShowPuzzel", "ExitKnop knop-sluiten");
-        Geval("ToolsConfig", "ToolsConfig", "ConfigForm",
-              "CancelKnop knop-annuleren, Image1 instellingen, OkKnop knop-ok, ResetKnop knop-reset");
-        Geval("ToolsKladblok", "ToolsKladblok", "KladblokForm", "");
+        Geval("FileNew", "FileNew", "NieuwForm");
+        Geval("FileOpen", "FileOpen", "OpenFile");
+        Geval("FileSave", "FileSave", "SaveForm");
+        Geval("FilePrint", "FilePrint", "Afdrukken");
+        Geval("BiebInternZoeken", "BiebInternZoeken", "ZoekForm");
+        Geval("BiebWoordzoeker", "BiebWoordzoeker", "FormMain");
+        Geval("BiebOntbrekendeLetters", "BiebOntbrekendeLetters", "MissingForm");
+        Geval("BiebSpreekwoorden", "BiebSpreekwoorden", "SpreekwoordForm");
+        Geval("BiebChemisch", "BiebChemisch", "ChemischForm");
+        Geval("ToolsAdd", "ToolsAdd", "AddForm");
+        Geval("ToolsAutoWoordzoeker", "ToolsAutoWoordzoeker", "AutoForm");
+        Geval("ShowOrgineel", "ShowOrgineel", "ShowPuzzel");
+        Geval("ToolsConfig", "ToolsConfig", "ConfigForm");
+        Geval("ToolsKladblok", "ToolsKladblok", "KladblokForm");
     }
     void menuItemsOpenTheirWindow()
     {
         QFETCH(QString, item);
         QFETCH(QString, venster);
         Programma programma;
-        Bestuurder bestuurder(venster, [](Form &form) {
-            QVERIFY(form.isModal());
-            QTEST(PlaatjesOp(form), "plaatjes");
-        });
+        Bestuurder bestuurder(venster, [](Form &form) { QVERIFY(form.isModal()); });
         Vind<QAction>(programma.Main(), item)->trigger();
         QVERIFY(bestuurder.Gezien());
     }
@@ -253,10 +230,7 @@ private slots:
     void theAboutButtonOpensItsWindow()
     {
         Programma programma;
-        Bestuurder bestuurder(u"AboutForm"_s, [](Form &form) {
-            QVERIFY(form.isModal());
-            QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-sluiten, Image1 rasteratelier"_s);
-        });
+        Bestuurder bestuurder(u"AboutForm"_s, [](Form &form) { QVERIFY(form.isModal()); });
         KlikMetDruk(*programma.Main().AboutKnop, [&] { QVERIFY(!QApplication::activeModalWidget()); });
         QVERIFY(bestuurder.Gezien());
     }
@@ -315,11 +289,10 @@ private slots:
     {
         QTest::addColumn<int>("index");
         QTest::addColumn<QString>("venster");
-        QTest::addColumn<QString>("plaatjes");
-        Geval("1", 1, "VakForm", "CancelKnop knop-annuleren, OkKnop knop-ok");
-        Geval("2", 2, "TekstForm", "CancelKnop knop-annuleren, CopyKnop knop-kopie, Image1 richting-h, OkKnop knop-ok");
-        Geval("3", 3, "LetterForm", "CancelKnop knop-annuleren, OkKnop knop-ok");
-        Geval("7", 7, "NummerForm", "CancelKnop knop-annuleren, OkKnop knop-ok");
+        Geval("1", 1, "VakForm");
+        Geval("2", 2, "TekstForm");
+        Geval("3", 3, "LetterForm");
+        Geval("7", 7, "NummerForm");
     }
     void thePopUpOpensItsEditor()
     {
@@ -334,7 +307,6 @@ private slots:
         Bestuurder bestuurder(venster, [&](Form &form) {
             kader = programma.Main().Shape1->isVisible();
             QVERIFY(form.windowTitle().endsWith(u"D-05 / 68"_s));
-            QTEST(PlaatjesOp(form), "plaatjes");
         });
         programma.Main().SoortVakTekst[static_cast<std::size_t>(index)]->trigger();
         QVERIFY(bestuurder.Gezien());
@@ -350,7 +322,6 @@ private slots:
         Bestuurder bestuurder(u"FilippineForm"_s, [&](Form &form) {
             kader = programma.Main().Shape1->isVisible();
             QVERIFY(form.windowTitle().endsWith(u" 05"_s));
-            QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren, OkKnop knop-ok"_s);
         });
         programma.Scherm.Klik(Qt::LeftButton, 3, 4);
         QVERIFY(bestuurder.Gezien());

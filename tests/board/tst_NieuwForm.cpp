@@ -102,7 +102,7 @@ private slots:
                               u"Option2=Woordzoeker"_s, u"Option3=Kruiswoord Puzzel"_s, u"Option4=Sudoku Puzzel"_s,
                               u"Option5=Filippine Puzzel"_s, u"Text1=Naam Puzzel"_s}));
         QCOMPARE(form.Text1->text(), QString());
-        QCOMPARE(form.Image1->Picture(), u"soort-zweeds"_s);
+        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren, Image1 soort-zweeds, OkKnop knop-ok"_s);
         for (const QWidget *box : {static_cast<QWidget *>(form.Combo1), static_cast<QWidget *>(form.Combo2)})
             QCOMPARE(box->palette().color(QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.Text1->palette().color(QPalette::Base), QColor(0, 30, 0));

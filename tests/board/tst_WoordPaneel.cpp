@@ -1,6 +1,5 @@
 #include "board/WoordPaden.h"
 #include "support/Onbevoegd.h"
-#include "support/Venster.h"
 #include "support/Verloop.h"
 #include "support/Woordbord.h"
 
@@ -29,13 +28,6 @@ class tst_WoordPaneel : public QObject
 {
     Q_OBJECT
 private slots:
-    void thePicturesOfThePanel()
-    {
-        Woordbord bord;
-        QCOMPARE(PlaatjesOp(*bord.Venster.Frame2), u"Image1 woordenboek, OkKnop knop-zoeken"_s);
-        QCOMPARE(PlaatjesOp(*bord.Venster.Frame3), u"LoadKnop knop-laden"_s);
-    }
-
     void aLengthIsChosenAndNotTyped()
     {
         Woordbord bord;

@@ -33,7 +33,7 @@ class tst_OpenFile : public QObject
     static void Open(const QString &naam)
     {
         OpenFile form;
-        form.List1->SetListIndex(static_cast<int>(Items(*form.List1).indexOf(naam)));
+        form.List1->SetListIndex(static_cast<int>(form.List1->Items().indexOf(naam)));
         form.OkKnop->click();
         QVERIFY(form.Unloaded());
     }
@@ -70,13 +70,15 @@ private slots:
         QCOMPARE(form.windowTitle(), u"Puzzel openen"_s);
         QCOMPARE(form.size(), QSize((5160 - 90) / 15, (4395 - 450) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(190, 240, 240));
-        QCOMPARE(Items(*form.List1).join(u' '), u"appel Boom Zee"_s); // bitmaps without a list are not shown
+        QCOMPARE(form.List1->Items().join(u' '), u"appel Boom Zee"_s); // bitmaps without a list are not shown
         QCOMPARE(form.List1->palette().color(QPalette::Base), QColor(30, 0, 0));
         QCOMPARE(form.List1->palette().color(QPalette::Text), QColor(250, 250, 250));
         QCOMPARE(form.Label2->Caption(), u"Selecteer d.m.v. de linker lijst een puzzel die je wilt openen."_s);
         QCOMPARE(form.DelKnop->toolTip(), u" Puzzel verwijderen "_s);
         QVERIFY(!form.DelKnop->isEnabled());
         QCOMPARE(form.List1->ListIndex(), -1);
+        QCOMPARE(PlaatjesOp(form),
+                 u"CancelKnop knop-annuleren, DelKnop knop-wissen, Image1 map-open, OkKnop knop-ok"_s);
     }
 
     void aPuzzleThatCannotBeOpenedIsNotShown()
@@ -85,7 +87,7 @@ private slots:
         for (const char *naam : {"Wie?", "a:b", "regel\nregel", "goed"})
             SchrijfPuzzel(bord, QLatin1String(naam), Zweeds, 9, 9);
         OpenFile form;
-        QCOMPARE(Items(*form.List1), QStringList{u"goed"_s});
+        QCOMPARE(form.List1->Items(), QStringList{u"goed"_s});
     }
 
     void choosingANameTakesItAtOnce()
@@ -424,7 +426,7 @@ private slots:
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).join(u' '), u"Boom3.bmp Zee.lst Zee1.bmp"_s);
         QVERIFY(foto.exists());
-        QCOMPARE(Items(*form.List1), QStringList{u"Zee"_s});
+        QCOMPARE(form.List1->Items(), QStringList{u"Zee"_s});
         QVERIFY(!form.Unloaded());
         QCOMPARE(form.List1->ListIndex(), -1); // nothing is selected then
         form.DelKnop->click();
@@ -455,7 +457,7 @@ private slots:
         Bord bord;
         SchrijfPuzzel(bord, u".Reis"_s, Zweeds, 9, 9);
         OpenFile form;
-        QCOMPARE(Items(*form.List1), QStringList{u".Reis"_s});
+        QCOMPARE(form.List1->Items(), QStringList{u".Reis"_s});
     }
 };
 

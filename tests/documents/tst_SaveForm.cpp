@@ -123,6 +123,7 @@ private slots:
         QCOMPARE(leeg.Label1->Caption(), u"0%"_s);
         QCOMPARE(leeg.Text1->palette().color(QPalette::Base), QColor(40, 0, 0));
         QCOMPARE(leeg.Text1->palette().color(QPalette::Text), QColor(220, 220, 220));
+        QCOMPARE(PlaatjesOp(leeg), u"CancelKnop knop-annuleren-laag, SaveKnop knop-opslaan"_s);
         for (const QString &naam : {u"vakantie"_s, u"puzzelnaam"_s, u" Reis "_s, u"Jan & Piet"_s}) {
             PuzzelNaam = naam;
             bord.Venster.ToonNaam();

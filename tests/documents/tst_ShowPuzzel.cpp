@@ -126,6 +126,7 @@ private slots:
         QCOMPARE(form.VScroll->accessibleName(), u"Omhoog en omlaag"_s);
         QCOMPARE(form.HScroll->accessibleName(), u"Naar links en naar rechts"_s);
         QCOMPARE(form.ExitKnop->accessibleName(), u"Sluiten"_s);
+        QCOMPARE(PlaatjesOp(form), u"ExitKnop knop-sluiten"_s);
     }
 
     void itTellsTheSizesAndHowFarThePictureGoes_data()

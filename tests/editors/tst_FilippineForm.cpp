@@ -144,6 +144,7 @@ private slots:
         QCOMPARE(form.Text2->accessibleName(), u"Oplossing"_s);
         QCOMPARE(form.PicZwart->accessibleName(), u"Voorbeeld van het vaknummer"_s);
         QCOMPARE(form.HScroll1->accessibleName(), u"Vaknummer"_s);
+        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren, OkKnop knop-ok"_s);
         for (QRadioButton *optie : form.Option)
             QCOMPARE(Getoond(*optie).pixel(219, 19), qRgb(220, 250, 210)); // the ground of the window
         for (const LineBox *box : {form.Text1, form.Text2}) {

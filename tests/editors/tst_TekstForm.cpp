@@ -69,6 +69,8 @@ private slots:
         QCOMPARE(form.Check1->text(), u"Oplossing omgekeerd"_s);
         QVERIFY(!form.Check1->isChecked());
         QCOMPARE(form.CopyKnop->toolTip(), u" Copy tekst vanaf hoofdscherm "_s);
+        QCOMPARE(PlaatjesOp(form),
+                 u"CancelKnop knop-annuleren, CopyKnop knop-kopie, Image1 richting-h, OkKnop knop-ok"_s);
         for (const QWidget *box : std::initializer_list<QWidget *>{form.Text1, form.Text2, form.Combo1}) {
             QCOMPARE(box->palette().color(QPalette::Active, QPalette::Base), QColor(30, 0, 0));
             QCOMPARE(box->palette().color(QPalette::Active, QPalette::Text), QColor(230, 230, 230));

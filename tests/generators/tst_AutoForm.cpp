@@ -189,7 +189,8 @@ private slots:
                  "lijst. Voor het maken van een nieuwe puzzel klik dan linksboven op het menuitem "
                  "'Bewerken/Nieuwe puzzel'\n\nDe lange 'IJ' wordt tijdelijk vervangen door het vraagteken ? in het "
                  "linker puzzelveld."_s);
-        QVERIFY(ToontHeel(*form.Label3));
+        QCOMPARE(PlaatjesOp(form), u"AddKnop knop-toevoegen, CancelKnop knop-annuleren, ExportKnop knop-export, OkKnop "
+                                   "knop-ok"_s);
     }
 
     void itsColours()

@@ -119,6 +119,7 @@ private slots:
         QCOMPARE(form.Check2->text(), u"Tevens oplossing afdrukken"_s);
         QCOMPARE(form.Label1->Caption(), u"Printerkeuze"_s);
         QCOMPARE(form.Combo2->palette().color(QPalette::Base), QColor(240, 210, 210));
+        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren-laag, Image1 printer, PrintKnop knop-afdrukken"_s);
         QCOMPARE(form.Combo2->palette().color(QPalette::Text), QColor(0, 0, 0));
         QCOMPARE(form.Label2->palette().color(QPalette::Window), QColor(150, 180, 180));
         QVERIFY(form.Line1->isHidden());

@@ -142,19 +142,6 @@ QStringList Leesnamen(const QWidget &venster)
     return namen;
 }
 
-bool ToontHeel(const QLabel &uitleg)
-{
-    return uitleg.wordWrap() && uitleg.heightForWidth(uitleg.width()) <= uitleg.height();
-}
-
-QStringList Items(const ListBox &lijst)
-{
-    QStringList items;
-    for (int i = 0; i < lijst.ListCount(); ++i)
-        items += lijst.List(i);
-    return items;
-}
-
 QStringList Items(const QComboBox &combo)
 {
     QStringList items;

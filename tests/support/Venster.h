@@ -1,9 +1,6 @@
 #pragma once
 
-#include "platform/ListBox.h"
-
 #include <QComboBox>
-#include <QLabel>
 #include <QList>
 #include <QString>
 #include <QWidget>
@@ -32,11 +29,7 @@ QString TabVolgorde(QWidget &venster);
 /// What a screen reader calls each control that has a name of its own for it: "OkKnop=Ok", in the order of their names.
 QStringList Leesnamen(const QWidget &venster);
 
-/// Whether a text that is broken over lines shows whole in its place.
-bool ToontHeel(const QLabel &uitleg);
-
 /// All that can be chosen, from top to bottom.
-QStringList Items(const ListBox &lijst);
 QStringList Items(const QComboBox &combo);
 
 /// Opens the menu of a control as a right click does, and chooses an item if one is given.

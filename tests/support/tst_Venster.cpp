@@ -175,18 +175,6 @@ private slots:
         QCOMPARE(Leesnamen(venster), (QStringList{u"Text1=Een"_s, u"Text2=Twee"_s}));
     }
 
-    void aTextOverSomeLines()
-    {
-        QLabel uitleg(u"een twee drie"_s);
-        const QSize regel = uitleg.sizeHint();
-        uitleg.resize(regel.width() / 2, 3 * regel.height());
-        QVERIFY(!ToontHeel(uitleg)); // on one line
-        uitleg.setWordWrap(true);
-        QVERIFY(ToontHeel(uitleg));
-        uitleg.resize(uitleg.width(), regel.height());
-        QVERIFY(!ToontHeel(uitleg));
-    }
-
     void theMenuOfARightClick()
     {
         TestVenster venster;

@@ -80,6 +80,7 @@ private slots:
         QVERIFY(form.List1->isVisible() && form.Label1->isVisible() && form.OkKnop->isVisible());
         QVERIFY(!form.List2->isVisible());
         QCOMPARE(form.Label1->Caption(), u"Dubbelklik op een item is de betekenis."_s);
+        QCOMPARE(PlaatjesOp(form), u"OkKnop knop-ok"_s);
     }
 
     void theTabKeyGoesFromTheListOn()
