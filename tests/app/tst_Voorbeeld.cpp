@@ -1,3 +1,4 @@
+#include "support/InhoudVan.h"
 #include "support/PdfLezer.h"
 #include "support/Testbank.h"
 
@@ -22,11 +23,7 @@ public:
     Werkplaats() { QDir(map_.path()).mkdir(u"Puzzels"_s); }
     QString Map() const { return map_.path(); }
     QStringList Puzzels() const { return QDir(Map() + u"/Puzzels"_s).entryList(QDir::Files, QDir::Name); }
-    QByteArray Inhoud(const QString &naam) const
-    {
-        QFile bestand(Map() + u'/' + naam);
-        return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
-    }
+    QByteArray Inhoud(const QString &naam) const { return InhoudVan(Map() + u'/' + naam); }
     Afloop Voer(const QString &wat, const QByteArray &beschrijving) const
     {
         QFile bron(Map() + u"/bron.txt"_s);

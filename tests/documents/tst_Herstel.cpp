@@ -8,12 +8,13 @@
 #include "platform/PictureFiles.h"
 #include "support/Bord.h"
 #include "support/HaperendeSchijf.h"
+#include "support/InhoudVan.h"
 #include "support/Onbevoegd.h"
+#include "support/TrageSchijf.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QLockFile>
-#include <QThread>
 
 using namespace Qt::StringLiterals;
 
@@ -115,55 +116,21 @@ public:
             for (const QString &naam : QDir(map).entryList(QDir::Files | QDir::Hidden)) {
                 const auto oud = std::find_if(bestanden.begin(), bestanden.end(),
                                               [&naam](const auto &bestand) { return bestand.first == naam; });
-                if (oud == bestanden.end() || Inhoud(map + naam) != oud->second)
+                if (oud == bestanden.end() || InhoudVan(map + naam) != oud->second)
                     return false;
             }
         return true;
     }
 
 private:
-    static QByteArray Inhoud(const QString &pad)
-    {
-        QFile bestand(pad);
-        return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
-    }
     void Neem(const QString &map)
     {
         inhoud_.append({map, {}});
         for (const QString &naam : QDir(map).entryList(QDir::Files | QDir::Hidden))
-            inhoud_.last().second.append({naam, Inhoud(map + naam)});
+            inhoud_.last().second.append({naam, InhoudVan(map + naam)});
     }
 
     QList<std::pair<QString, QList<std::pair<QString, QByteArray>>>> inhoud_;
-};
-
-/// A disk that, when the bitmap for the JPEG has come to its place, dawdles, while a second program does something.
-class TrageSchijf : public Schijf
-{
-public:
-    explicit TrageSchijf(std::function<void()> tweede) : tweede_(std::move(tweede)) { Gebruik(this); }
-    ~TrageSchijf() override { Gebruik(nullptr); }
-    Q_DISABLE_COPY_MOVE(TrageSchijf)
-
-    bool Verplaats(const QString &van, const QString &naar) override
-    {
-        const bool gelukt = Schijf::Verplaats(van, naar);
-        if (kind_ < 0 && naar.endsWith("/mydummy.bmp"_L1)) {
-            kind_ = fork();
-            if (kind_ == 0) {
-                Gebruik(nullptr);
-                tweede_();
-                _exit(0);
-            }
-            QThread::msleep(300);
-        }
-        return gelukt;
-    }
-    void WachtOpKind() const { waitpid(kind_, nullptr, 0); }
-
-private:
-    std::function<void()> tweede_;
-    pid_t kind_ = -1;
 };
 
 class tst_Herstel : public QObject
@@ -334,12 +301,12 @@ private slots:
     void twoProgramsMakeTheirOwnJpegs()
     {
         TweePuzzels puzzels;
-        TrageSchijf schijf([&] {
+        TrageSchijf schijf(u"/mydummy.bmp"_s, [&] {
             puzzels.Teken(2, 3, 0, QLatin1String(TweePuzzels::OudeRij));
             MaakPuzzelJpeg(u"Kind"_s);
         });
         QVERIFY(MaakPuzzelJpeg(u"Ouder"_s));
-        schijf.WachtOpKind();
+        schijf.WachtOpAnder();
         QCOMPARE(QImage(puzzels.Fotos() + u"Ouder.jpg"_s).size(), puzzels.NieuwGroot.size());
         QCOMPARE(QImage(puzzels.Fotos() + u"Kind.jpg"_s).size(), puzzels.OudGroot.size());
         QVERIFY(puzzels.Scherm.Bank.Bestanden({}).isEmpty());

@@ -1,6 +1,7 @@
 #include "Adressen.h"
 
 #include "documents/HtmlMod.h"
+#include "support/InhoudVan.h"
 #include "support/Testbank.h"
 
 #include <QDir>
@@ -15,15 +16,9 @@ struct Invoer
     QList<Rij> Rijen;
 };
 
-static QByteArray Inhoud(const QString &pad)
-{
-    QFile bestand(pad);
-    return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
-}
-
 static Invoer LeesInvoer(const QString &geval)
 {
-    QStringList regels = QString::fromUtf8(Inhoud(geval + u"/invoer.txt"_s)).chopped(1).split(u'\n');
+    QStringList regels = QString::fromUtf8(InhoudVan(geval + u"/invoer.txt"_s)).chopped(1).split(u'\n');
     Invoer invoer{quint8(regels.takeFirst().toUInt()), regels.takeFirst(), {}};
     for (const QString &regel : regels) {
         const QStringList velden = regel.split(u'|');
@@ -35,7 +30,7 @@ static Invoer LeesInvoer(const QString &geval)
 /// The page that a case expects; the build says what stands in the place of the two words between "@".
 static QByteArray Verwacht(const QString &geval)
 {
-    return Inhoud(geval + u"/pagina.html"_s)
+    return InhoudVan(geval + u"/pagina.html"_s)
         .replace("@PROJECT_VERSION@", Versie.toLatin1())
         .replace("@RASTERATELIER_UITGEVER@", Adressen::Uitgever.toLatin1());
 }

@@ -2,9 +2,9 @@
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
 #include "platform/Schijf.h"
-#include "support/KijkBerichten.h"
 #include "support/Onbevoegd.h"
 #include "support/Venster.h"
+#include "support/Verloop.h"
 #include "support/Verwacht.h"
 
 #include <QBuffer>
@@ -172,14 +172,11 @@ private slots:
         SaveForm form;
         form.Text1->setText(naam);
         form.SaveKnop->setFocus();
-        KijkBerichten berichten([&] { QCOMPARE(form.focusWidget(), form.SaveKnop); });
-        KlikMetDruk(*form.SaveKnop, [&] { QVERIFY(berichten.Gezien.isEmpty()); });
+        Verloop verloop([&] { return form.focusWidget()->objectName(); });
+        KlikMetDruk(*form.SaveKnop, [&] { QVERIFY(verloop.Stappen.isEmpty()); });
         QCOMPARE(form.focusWidget(), form.Text1);
-        QCOMPARE(berichten.Gezien.size(), 1);
-        QCOMPARE(berichten.Gezien[0].Tekst, u"Naam Puzzel ontbreekt!"_s);
-        QCOMPARE(berichten.Gezien[0].Titel, u"Error"_s);
-        QCOMPARE(berichten.Gezien[0].Soort, Knoppen::Ok);
-        QCOMPARE(berichten.Gezien[0].Plaatje, Icoon::Kritiek);
+        QCOMPARE(verloop.Stappen, QStringList{u"Error: Naam Puzzel ontbreekt! (kritiek) | SaveKnop"_s});
+        QCOMPARE(verloop.Gezien[0].Soort, Knoppen::Ok);
         QVERIFY(!form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
@@ -200,16 +197,13 @@ private slots:
         GebruikersNaam.clear();
         SaveForm form;
         form.Text1->setText(u"reis"_s);
-        const auto bezig = [&] { return Zandloper() && form.Text1->isHidden() && !form.Bar->isHidden(); };
-        KijkBerichten berichten([&] {
-            QCOMPARE(GebruikersNaam, HaalGebruiker()); // who it is, is asked first
-            QVERIFY(!Zandloper() && !form.Text1->isHidden() && form.Bar->isHidden());
-        });
-        berichten.Antwoorden = {Antwoord::Ja};
+        const auto balk = [&] { return form.Text1->isHidden() && !form.Bar->isHidden() ? u"balk"_s : QString(); };
+        Verloop verloop([&] { return GebruikersNaam + balk(); });
+        verloop.Antwoorden = {Antwoord::Ja};
         QStringList gedaan;
         {
             const VertelSchijf schijf([&](const QString &wat) {
-                QVERIFY(bezig()); // as soon as anything is written
+                QVERIFY(Zandloper() && !balk().isEmpty()); // as soon as anything is written
                 if (!wat.isEmpty())
                     gedaan += wat;
             });
@@ -217,6 +211,8 @@ private slots:
             form.OpslaanPuzzel(naam);
             QCOMPARE(naam, u"Reis"_s);
         }
+        QCOMPARE(verloop.Stappen[0], u"Exist: Naam puzzel bestaat al, overschrijven? (ja of nee) | "_s +
+                                         HaalGebruiker()); // who it is, is asked first
         QCOMPARE(gedaan.join(u' '), u"reis1.bmp reis2.bmp Reis.lst mydummy.bmp Reis.jpg mydummy.bmp weg"_s);
     }
 

@@ -14,6 +14,7 @@
 #include "generators/AutoForm.h"
 #include "print/Afdrukken.h"
 #include "support/Bord.h"
+#include "support/InhoudVan.h"
 #include "support/PdfLezer.h"
 #include "wordlib/AddForm.h"
 #include "wordlib/ChemischForm.h"
@@ -33,12 +34,6 @@
 
 using namespace Qt::StringLiterals;
 
-static QByteArray LeesBytes(const QString &pad)
-{
-    QFile bestand(pad);
-    return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
-}
-
 /// A manual that the build made, beside the texts that it was made of.
 struct Handleiding
 {
@@ -46,7 +41,7 @@ struct Handleiding
     {
         const QDir map(QStringLiteral(TEKSTEN "/") + naam);
         for (const QString &bestand : map.entryList({u"*.md"_s}, QDir::Files, QDir::Name))
-            Markdown += QString::fromUtf8(LeesBytes(map.filePath(bestand))) + u'\n';
+            Markdown += QString::fromUtf8(InhoudVan(map.filePath(bestand))) + u'\n';
         for (int blad = 1; blad <= Pdf.Paginas(); ++blad)
             Bladen += Pdf.Regels(blad);
     }
@@ -225,7 +220,7 @@ private slots:
         QStringList getoond, genomen;
         for (const QString &naam : {u"help"_s, u"Woordlijst Importeren"_s})
             getoond += Handleiding::Van(naam).InTekst(u"!\\[.*\\]\\((.*)\\.png\\)"_s);
-        for (const QByteArray &regel : LeesBytes(QStringLiteral(BEELDEN "/beelden.txt")).split('\n'))
+        for (const QByteArray &regel : InhoudVan(QStringLiteral(BEELDEN "/beelden.txt")).split('\n'))
             if (!regel.isEmpty())
                 genomen += QString::fromUtf8(regel.split(' ')[0]);
         getoond.removeDuplicates();
@@ -246,9 +241,9 @@ private slots:
         const Verloop eerste(QStringLiteral(VENSTERBEELDEN), argumenten);
         QVERIFY2(eerste.Code == 0, qPrintable(eerste.Tekst));
         QCOMPARE(Bestanden(QStringLiteral(PROGRAMMA)), ervoor);
-        const QByteArray genomen = LeesBytes(lijst.fileName());
+        const QByteArray genomen = InhoudVan(lijst.fileName());
         QVERIFY(genomen.count('\n') > 20);
-        QCOMPARE(genomen, LeesBytes(QStringLiteral(BEELDEN "/beelden.txt")));
+        QCOMPARE(genomen, InhoudVan(QStringLiteral(BEELDEN "/beelden.txt")));
         QCOMPARE(QDir(map.path()).entryList({u"*.png"_s}).size(), genomen.count('\n'));
 
         QVERIFY(lijst.open(QIODevice::ReadWrite));

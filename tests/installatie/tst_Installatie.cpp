@@ -1,6 +1,7 @@
 #include "installatie/InstallatieBestanden.h"
 
 #include "platform/CodePage.h"
+#include "support/InhoudVan.h"
 #include "support/Testbank.h"
 
 #include <QDir>
@@ -12,12 +13,6 @@
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-static QByteArray Lees(const QString &pad)
-{
-    QFile bestand(pad);
-    return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
-}
 
 /// How a run of the program ended, and what it said.
 struct Afloop
@@ -130,14 +125,14 @@ private slots:
 
     void theWordDatabaseIsMadeOfItsSource()
     {
-        const QByteArray bestand = Lees(QStringLiteral(GEMAAKT "/Data/nederlands.lib"));
+        const QByteArray bestand = InhoudVan(QStringLiteral(GEMAAKT "/Data/nederlands.lib"));
         QVERIFY(!bestand.isEmpty());
-        QVERIFY(bestand == MaakWoorden(Lees(QStringLiteral(WOORDEN))));
+        QVERIFY(bestand == MaakWoorden(InhoudVan(QStringLiteral(WOORDEN))));
     }
 
     void theWordDatabaseHoldsPlainWordsOnly()
     {
-        const QStringList woorden = Regels(Lees(QStringLiteral(GEMAAKT "/Data/nederlands.lib")));
+        const QStringList woorden = Regels(InhoudVan(QStringLiteral(GEMAAKT "/Data/nederlands.lib")));
         const auto isGewoon = [](QChar teken) { return teken >= u'a' && teken <= u'z'; };
         QSet<QString> gezien;
         QSet<QChar> letters;
@@ -154,7 +149,7 @@ private slots:
     {
         if (QLatin1String(WOORDEN) != QLatin1String(WDUTCH))
             QSKIP("made of another list of words");
-        const QStringList woorden = Regels(Lees(QStringLiteral(GEMAAKT "/Data/nederlands.lib")));
+        const QStringList woorden = Regels(InhoudVan(QStringLiteral(GEMAAKT "/Data/nederlands.lib")));
         QVERIFY2(woorden.size() > 300000, qPrintable(QString::number(woorden.size())));
         const QSet<QString> alle(woorden.begin(), woorden.end());
         for (const QString &woord :
@@ -164,7 +159,7 @@ private slots:
 
     void theLicenceOfTheWordsLiesBesideThem()
     {
-        const QByteArray licentie = Lees(QStringLiteral(GEMAAKT "/Data/nederlands-licentie.txt"));
+        const QByteArray licentie = InhoudVan(QStringLiteral(GEMAAKT "/Data/nederlands-licentie.txt"));
         const bool isEigen = QLatin1String(WOORDEN) == QLatin1String(WDUTCH);
         QCOMPARE(licentie.contains("Copyright:") && licentie.contains("(c) 1996 Nederlandstalige Tex Gebruikersgroep"),
                  isEigen);
@@ -190,7 +185,7 @@ private slots:
         static const QRegularExpression onderwerp(u"\\A[A-Z][a-z]+\\.txt\\z"_s),
             vorm(u"\\A[^,\"\\s]([^,\"]*[^,\"\\s])?\\z"_s);
         QVERIFY(onderwerp.match(naam).hasMatch());
-        const QByteArray bron = Lees(QStringLiteral(LIJSTEN "/") + naam);
+        const QByteArray bron = InhoudVan(QStringLiteral(LIJSTEN "/") + naam);
         QVERIFY(bron.isValidUtf8() && bron.endsWith('\n') && !bron.contains('\r'));
         const QStringList woorden = QString::fromUtf8(bron).chopped(1).split(u'\n');
         QVERIFY2(woorden.size() >= 40 && woorden.size() <= 200, qPrintable(QString::number(woorden.size())));
@@ -208,9 +203,9 @@ private slots:
     void aListIsMadeOfItsSource()
     {
         QFETCH(QString, naam);
-        const QStringList regels = Regels(Lees(QStringLiteral(GEMAAKT "/Woordlijsten/") + naam));
+        const QStringList regels = Regels(InhoudVan(QStringLiteral(GEMAAKT "/Woordlijsten/") + naam));
         QStringList woorden =
-            QString::fromUtf8(Lees(QStringLiteral(LIJSTEN "/") + naam)).toUpper().split(u'\n', Qt::SkipEmptyParts);
+            QString::fromUtf8(InhoudVan(QStringLiteral(LIJSTEN "/") + naam)).toUpper().split(u'\n', Qt::SkipEmptyParts);
         std::stable_sort(woorden.begin(), woorden.end(),
                          [](const QString &a, const QString &b) { return Kaal(a) < Kaal(b); });
         QCOMPARE(regels, woorden);

@@ -1,6 +1,5 @@
 #include "platform/BewaarTest.h"
-
-#include <QThread>
+#include "support/TrageSchijf.h"
 
 using namespace Qt::StringLiterals;
 
@@ -190,38 +189,9 @@ void tst_Bewaren::twoSetsAtOnce()
     QCOMPARE(Namen().size(), 3);
 }
 
-/// A disk that dawdles when the first name has been changed, while another process does something.
-class TrageSchijf : public Schijf
-{
-public:
-    explicit TrageSchijf(std::function<void()> ander) : ander_(std::move(ander)) { Gebruik(this); }
-    ~TrageSchijf() override { Gebruik(nullptr); }
-    Q_DISABLE_COPY_MOVE(TrageSchijf)
-
-    bool Verplaats(const QString &van, const QString &naar) override
-    {
-        const bool gelukt = Schijf::Verplaats(van, naar);
-        if (kind_ < 0) {
-            kind_ = fork();
-            if (kind_ == 0) {
-                Gebruik(nullptr);
-                ander_();
-                _exit(0);
-            }
-            QThread::msleep(300);
-        }
-        return gelukt;
-    }
-    void WachtOpAnder() const { waitpid(kind_, nullptr, 0); }
-
-private:
-    std::function<void()> ander_;
-    pid_t kind_ = -1;
-};
-
 void tst_Bewaren::twoSetsThatArePlacedAtOnceAreEachWhole()
 {
-    const TrageSchijf schijf([&] {
+    const TrageSchijf schijf({}, [&] {
         BestandenSet set;
         set.Zet(Pad("a1.bmp"), {"ander"});
         set.Zet(Pad("a2.bmp"), {"ander"});
@@ -236,7 +206,7 @@ void tst_Bewaren::twoSetsThatArePlacedAtOnceAreEachWhole()
 
 void tst_Bewaren::whoeverComesNextWaitsForTheNamesToBeChanged()
 {
-    const TrageSchijf schijf([&] {
+    const TrageSchijf schijf({}, [&] {
         MaakAf(bank_->Map());
         bank_->Schrijf(u"gezien"_s, Inhoud());
     });

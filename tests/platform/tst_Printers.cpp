@@ -1,50 +1,21 @@
-#include "platform/Printers.h"
+#include "support/ProefWachtrijen.h"
 #include "support/Testbank.h"
 
 #include <optional>
 
 using namespace Qt::StringLiterals;
 
-/// Queues of a test's own, which count how often they are asked for.
-class Proefrijen : public Wachtrijen
-{
-public:
-    Proefrijen() { Gebruik(this); }
-    ~Proefrijen() override { Gebruik(nullptr); }
-    Q_DISABLE_COPY_MOVE(Proefrijen)
-
-    QStringList Namen() override
-    {
-        ++Gevraagd;
-        return Rijen;
-    }
-    QString Standaard() override
-    {
-        ++Gevraagd;
-        return Eerste;
-    }
-
-    QStringList Rijen;
-    QString Eerste;
-    int Gevraagd = 0;
-};
-
 class tst_Printers : public QObject
 {
     Q_OBJECT
 private slots:
-    void init()
-    {
-        rijen_.emplace();
-        rijen_->Rijen = {u"Zolder"_s, u"Balie"_s, u"Archief"_s};
-        rijen_->Eerste = u"Balie"_s;
-    }
+    void init() { rijen_.emplace(QStringList{u"Zolder"_s, u"Balie"_s, u"Archief"_s}, u"Balie"_s); }
     void cleanup() { rijen_.reset(); }
 
     void thePdfPrinterIsTheLast()
     {
         QCOMPARE(Printers::Lijst(), (QStringList{u"Zolder"_s, u"Balie"_s, u"Archief"_s, u"PDF-bestand"_s}));
-        rijen_->Rijen.clear();
+        rijen_->Alle.clear();
         QCOMPARE(Printers::Lijst(), QStringList{u"PDF-bestand"_s});
     }
 
@@ -100,7 +71,7 @@ private slots:
     {
         Printers::Lijst();
         Printers::Kies(2);
-        rijen_->Rijen.removeLast();
+        rijen_->Alle.removeLast();
         QCOMPARE(Printers::Huidig().DeviceName(), u"Archief"_s);
         Printers::Lijst();
         QCOMPARE(Printers::Huidig().DeviceName(), u"Balie"_s);
@@ -122,7 +93,7 @@ private slots:
     }
 
 private:
-    std::optional<Proefrijen> rijen_;
+    std::optional<ProefWachtrijen> rijen_;
 };
 
 int main(int argc, char *argv[])

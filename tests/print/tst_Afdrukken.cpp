@@ -1,10 +1,10 @@
 #include "platform/Getallen.h"
 #include "platform/Plaatjes.h"
-#include "platform/Printers.h"
 #include "print/Afdrukken.h"
 #include "support/Bestuurder.h"
 #include "support/Onbevoegd.h"
 #include "support/PdfLezer.h"
+#include "support/ProefWachtrijen.h"
 #include "support/Venster.h"
 #include "support/Verwacht.h"
 
@@ -15,22 +15,6 @@
 
 using namespace Qt::StringLiterals;
 
-/// Print queues as a test wants them, as long as it lives.
-class ProefWachtrijen : public Wachtrijen
-{
-public:
-    explicit ProefWachtrijen(const QStringList &namen, const QString &standaard = {}) : Alle(namen), Eerste(standaard)
-    {
-        Gebruik(this);
-    }
-    ~ProefWachtrijen() override { Gebruik(nullptr); }
-    QStringList Namen() override { return Alle; }
-    QString Standaard() override { return Eerste; }
-
-    QStringList Alle;
-    QString Eerste;
-};
-
 /// The dialog on a machine with two queues.
 struct Printbord : Bord
 {
@@ -40,7 +24,7 @@ struct Printbord : Bord
 /// The dialog on a machine without queues, which prints to this file.
 struct Pdfbord : Bord
 {
-    ProefWachtrijen Rijen{{}};
+    ProefWachtrijen Rijen;
     QString Pad = Bank.Map() + u"/puzzel.pdf"_s;
 
     Pdfbord() { Bank.Script.Bestanden = {Pad}; }
@@ -119,7 +103,6 @@ private slots:
         QCOMPARE(form.Check2->text(), u"Tevens oplossing afdrukken"_s);
         QCOMPARE(form.Label1->Caption(), u"Printerkeuze"_s);
         QCOMPARE(form.Combo2->palette().color(QPalette::Base), QColor(240, 210, 210));
-        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren-laag, Image1 printer, PrintKnop knop-afdrukken"_s);
         QCOMPARE(form.Combo2->palette().color(QPalette::Text), QColor(0, 0, 0));
         QCOMPARE(form.Label2->palette().color(QPalette::Window), QColor(150, 180, 180));
         QVERIFY(form.Line1->isHidden());
@@ -136,6 +119,7 @@ private slots:
         QCOMPARE(form.Picture1->accessibleName(), u"Voorbeeld"_s);
         QCOMPARE(form.CancelKnop->accessibleName(), u"Annuleren"_s);
         QCOMPARE(form.PrintKnop->accessibleName(), u"Afdrukken"_s);
+        QCOMPARE(PlaatjesOp(form), u"CancelKnop knop-annuleren-laag, Image1 printer, PrintKnop knop-afdrukken"_s);
     }
 
     void eachKindHasItsTitleAndItsSheet_data()
@@ -198,7 +182,7 @@ private slots:
     void withoutAnyQueueThereIsThePdfFile()
     {
         Bord bord;
-        const ProefWachtrijen geen({});
+        const ProefWachtrijen geen;
         Afdrukken form;
         QCOMPARE(Items(*form.Combo2), QStringList{u"PDF-bestand"_s});
         QCOMPARE(form.Combo2->currentText(), u"PDF-bestand"_s);

@@ -3,6 +3,7 @@
 #include "platform/Screen.h"
 #include "platform/Toeval.h"
 #include "platform/Uiterlijk.h"
+#include "support/InhoudVan.h"
 
 #include <QApplication>
 #include <QDir>
@@ -73,8 +74,7 @@ QString Testbank::Thuis() const
 
 QByteArray Testbank::Inhoud(const QString &naam) const
 {
-    QFile bestand(Map() + u'/' + naam);
-    return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
+    return InhoudVan(Map() + u'/' + naam);
 }
 
 void Testbank::Schrijf(const QString &naam, const QByteArray &inhoud) const

@@ -1,11 +1,9 @@
 #pragma once
 
-#include <QByteArray>
-#include <QFile>
+#include "support/InhoudVan.h"
 
 /// The word database of the built program. Empty when it isn't there.
 inline QByteArray EchteWoorden()
 {
-    QFile database(QStringLiteral(DATABASE));
-    return database.open(QIODevice::ReadOnly) ? database.readAll() : QByteArray();
+    return InhoudVan(QStringLiteral(DATABASE));
 }

@@ -1,6 +1,6 @@
-#include "platform/Printers.h"
 #include "support/Drukrol.h"
 #include "support/Onbevoegd.h"
+#include "support/ProefWachtrijen.h"
 #include "support/Woordbord.h"
 #include "wordlib/DrukLijst.h"
 #include "wordlib/ZoekForm.h"
@@ -40,7 +40,7 @@ static QStringList Hoort(int aantal)
 }
 
 /// The search window on a machine without queues.
-struct Zoekdruk : Woordbord, Wachtrijen
+struct Zoekdruk : Woordbord
 {
     Zoekdruk()
     {
@@ -48,13 +48,9 @@ struct Zoekdruk : Woordbord, Wachtrijen
         for (int i = 0; i < 1000; ++i)
             woorden += QByteArray("aa") + char('a' + i / 100) + char('a' + i / 10 % 10) + char('a' + i % 10);
         Database(Regels(Opvulling(woorden) + woorden));
-        Gebruik(this);
     }
-    ~Zoekdruk() override { Gebruik(nullptr); }
-    Q_DISABLE_COPY_MOVE(Zoekdruk)
-    QStringList Namen() override { return {}; }
-    QString Standaard() override { return {}; }
 
+    ProefWachtrijen Rijen;
     QString Pad = Bank.Map() + u"/lijst.pdf"_s;
 };
 

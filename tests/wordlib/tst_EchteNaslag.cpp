@@ -2,11 +2,10 @@
 // together.
 
 #include "platform/Alfabet.h"
-#include "platform/CodePage.h"
+#include "support/InhoudVan.h"
 #include "support/Testbank.h"
 #include "wordlib/Naslagwerk.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 
@@ -14,8 +13,7 @@ using namespace Qt::StringLiterals;
 
 static QByteArray Inhoud(const QString &naam)
 {
-    QFile bestand(QStringLiteral(DATA "/") + naam + u".lib"_s);
-    return bestand.open(QIODevice::ReadOnly) ? bestand.readAll() : QByteArray();
+    return InhoudVan(QStringLiteral(DATA "/") + naam + u".lib"_s);
 }
 
 static QStringList Bron(const QString &naam)
