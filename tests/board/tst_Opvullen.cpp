@@ -11,7 +11,7 @@
 using namespace Qt::StringLiterals;
 
 /// What the fill asked of the random generator and of the clock, in its order.
-static QStringList Verloop;
+static QStringList Stappen;
 /// The letters that the generator gives, one after the other and round again.
 static QString Letters;
 static qsizetype Gegeven;
@@ -19,11 +19,11 @@ static qsizetype Gegeven;
 // This program has a random generator of its own, linked in place of the real one.
 void Toeval::Randomize()
 {
-    Verloop += u"Randomize"_s;
+    Stappen += u"Randomize"_s;
 }
 double Toeval::Rnd()
 {
-    Verloop += u"Rnd"_s;
+    Stappen += u"Rnd"_s;
     const QChar letter = Letters[Gegeven++ % Letters.size()];
     return (letter.unicode() - u'A' + (Gegeven % 2 == 0 ? 0.001 : 0.999)) /
            26; // from edge to edge of the letter's part
@@ -32,12 +32,12 @@ void Toeval::Zaad(std::uint32_t) {}
 void Toeval::ZonderZaad() {}
 
 /// Notes each wait, and what is seen meanwhile.
-class KijkKlok : public DirecteKlok
+class VulKlok : public DirecteKlok
 {
 public:
     void Slaap(double seconden, QEventLoop::ProcessEventsFlags welke) override
     {
-        Verloop += u"%1 s"_s.arg(seconden, 0, 'g', 3);
+        Stappen += u"%1 s"_s.arg(seconden, 0, 'g', 3);
         Zandloper = Zandloper && ::Zandloper();
         InTwips = InTwips && Main().Pic->ScaleMode() == ScaleModes::Twips;
         Welke = welke;
@@ -72,7 +72,7 @@ private slots:
     {
         Letters = u"QWERTYUIOPASDFGHJKLZXCVBNM"_s;
         Gegeven = 0;
-        Verloop.clear();
+        Stappen.clear();
     }
 
     void everyEmptyCellGetsALetter_data()
@@ -162,20 +162,20 @@ private slots:
             for (int rij = 0; rij < 9; ++rij)
                 bord.Venster.Pic->SetPixel(kolom * 30 + pixel.x(), rij * 30 + pixel.y(), kleur);
         VulLegeVakjes();
-        QCOMPARE(Verloop.count(u"Rnd"_s), vol ? 0 : 81);
+        QCOMPARE(Stappen.count(u"Rnd"_s), vol ? 0 : 81);
     }
 
     void eachLetterBeginsANewSeries()
     {
         Bord bord;
         bord.Begin(Woordzoeker, 9, 10);
-        KijkKlok klok;
+        VulKlok klok;
         Klok::Gebruik(&klok);
         VulLegeVakjes();
         QStringList verwacht;
         for (int cel = 0; cel < 90; ++cel)
             verwacht += {u"Randomize"_s, u"Rnd"_s, u"0.01 s"_s};
-        QCOMPARE(Verloop, verwacht);
+        QCOMPARE(Stappen, verwacht);
     }
 
     void aFilledCellTakesItsTimeToo()
@@ -185,21 +185,21 @@ private slots:
         VulLegeVakjes();
         bord.Klik(Qt::RightButton, 0, 1);
         bord.Klik(Qt::RightButton, 0, 1); // one cell is empty again
-        KijkKlok klok;
+        VulKlok klok;
         Klok::Gebruik(&klok);
-        Verloop.clear();
+        Stappen.clear();
         VulLegeVakjes();
         QStringList verwacht(81, u"0.01 s"_s);
         verwacht.insert(1, u"Randomize"_s);
         verwacht.insert(2, u"Rnd"_s);
-        QCOMPARE(Verloop, verwacht);
+        QCOMPARE(Stappen, verwacht);
     }
 
     void theFillCanBeSeenAsItRuns()
     {
         Bord bord;
         bord.Begin(Woordzoeker, 9, 9);
-        KijkKlok klok;
+        VulKlok klok;
         Klok::Gebruik(&klok);
         VulLegeVakjes();
         QVERIFY(klok.Zandloper);

@@ -1,21 +1,13 @@
 #include "board/MainForm.h"
 #include "board/Soorten.h"
-#include "support/Bord.h"
+#include "support/Verwacht.h"
 
 #include <QMouseEvent>
-#include <QPainter>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
 
 static const QRgb Donker = qRgb(60, 60, 60);
-
-/// The picture with a rectangle of it in one colour.
-static QImage Met(QImage beeld, QRect vlak, QRgb kleur)
-{
-    QPainter(&beeld).fillRect(vlak, QColor(kleur));
-    return beeld;
-}
 
 class tst_Selectie : public QObject
 {
@@ -149,12 +141,13 @@ private slots:
         QCOMPARE(bord.Veranderd(ervoor), u"Shape1 SoortPlaatsing"_s); // the pop-up is open
         bord.Venster.SoortPlaatsing->close();
         QCOMPARE(bord.Veranderd(ervoor), u"Shape1"_s);
-        QImage verwacht = Met(leeg, QRect(61, 151, 30, 30), qRgb(0, 200, 0));
-        QPainter(&verwacht).drawImage(63, 153, leeg, 63, 153, 26, 26); // two pixels thick
-        QCOMPARE(Getoond(*bord.Venster.Pic), verwacht);
+        Verwacht verwacht(leeg);
+        verwacht.Vul(QRect(61, 151, 30, 30), qRgb(0, 200, 0));
+        verwacht.Plak(leeg.copy(63, 153, 26, 26), QPoint(63, 153)); // two pixels thick
+        QCOMPARE(Getoond(*bord.Venster.Pic), verwacht.Beeld);
         bord.Venster.Shape1->BorderColor = Qt::black;
         bord.Klik(Qt::LeftButton, 2, 5); // each click sets it
-        QCOMPARE(Getoond(*bord.Venster.Pic), verwacht);
+        QCOMPARE(Getoond(*bord.Venster.Pic), verwacht.Beeld);
         bord.Venster.SoortPlaatsing->close();
     }
 

@@ -154,6 +154,32 @@ private slots:
         QCOMPARE(laag.pos(), dialoog.pos());
     }
 
+    void itBelongsToTheWindowThatIsActive()
+    {
+        TestVenster eerste;
+        eerste.show();
+        eerste.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&eerste));
+        const TestVenster tweede;
+        QCOMPARE(tweede.parentWidget(), &eerste);
+    }
+
+    void aFormBelongsToTheWindowThatIsOpenAlsoWhileNoneIsActive()
+    {
+        QCOMPARE(TestVenster().parentWidget(), nullptr);
+        QWidget hoofd;
+        hoofd.show();
+        for (QWidget *actief : {&hoofd, static_cast<QWidget *>(nullptr)}) {
+            QApplication::setActiveWindow(actief);
+            QCOMPARE(TestVenster().parentWidget(), &hoofd);
+            TestVenster dialoog;
+            dialoog.setModal(true);
+            dialoog.show();
+            QApplication::setActiveWindow(actief);
+            QCOMPARE(TestVenster().parentWidget(), &dialoog);
+        }
+    }
+
     void aControlHasItsNames()
     {
         TestVenster venster;
@@ -380,17 +406,6 @@ private slots:
 
     // --- closing ---
 
-    void itBelongsToTheWindowThatIsActive()
-    {
-        TestVenster eerste;
-        QCOMPARE(eerste.parentWidget(), nullptr);
-        eerste.show();
-        eerste.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&eerste));
-        const TestVenster tweede;
-        QCOMPARE(tweede.parentWidget(), &eerste);
-    }
-
     void unloadClosesForGood()
     {
         TestVenster venster;
@@ -412,22 +427,6 @@ private slots:
         QTest::keyClick(&metEscape, Qt::Key_Escape);
         QVERIFY(!metEscape.isVisible());
         QVERIFY(metEscape.Unloaded());
-    }
-
-    void aFormBelongsToTheWindowThatIsOpenAlsoWhileNoneIsActive()
-    {
-        QCOMPARE(TestVenster().parentWidget(), nullptr);
-        QWidget hoofd, verborgen;
-        hoofd.show();
-        for (QWidget *actief : {&hoofd, static_cast<QWidget *>(nullptr)}) {
-            QApplication::setActiveWindow(actief);
-            QCOMPARE(TestVenster().parentWidget(), &hoofd);
-            TestVenster dialoog;
-            dialoog.setModal(true);
-            dialoog.show();
-            QApplication::setActiveWindow(actief);
-            QCOMPARE(TestVenster().parentWidget(), &dialoog);
-        }
     }
 
     void toonOpensUntilTheFormIsClosed()

@@ -1,6 +1,5 @@
 #include "platform/Twips.h"
-
-#include <QTest>
+#include "support/Testbank.h"
 
 class tst_Twips : public QObject
 {
@@ -10,15 +9,15 @@ private slots:
     {
         QTest::addColumn<double>("twips");
         QTest::addColumn<int>("pixels");
-        QTest::newRow("none") << 0.0 << 0;
-        QTest::newRow("a pixel") << 15.0 << 1;
-        QTest::newRow("a cell") << 450.0 << 30;
-        QTest::newRow("below a half") << 457.0 << 30;
-        QTest::newRow("a half") << 457.5 << 31;
-        QTest::newRow("above a half") << 458.0 << 31;
-        QTest::newRow("half below zero") << -7.5 << -1;
-        QTest::newRow("nearly half below zero") << -7.0 << 0;
-        QTest::newRow("below zero") << -30.0 << -2;
+        Geval("none", 0.0, 0);
+        Geval("a pixel", 15.0, 1);
+        Geval("a cell", 450.0, 30);
+        Geval("below a half", 457.0, 30);
+        Geval("a half", 457.5, 31);
+        Geval("above a half", 458.0, 31);
+        Geval("half below zero", -7.5, -1);
+        Geval("nearly half below zero", -7.0, 0);
+        Geval("below zero", -30.0, -2);
     }
     void toTheNearestPixel()
     {
