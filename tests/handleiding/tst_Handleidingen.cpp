@@ -13,6 +13,7 @@
 #include "editors/VakForm.h"
 #include "generators/AutoForm.h"
 #include "print/Afdrukken.h"
+#include "support/Afloop.h"
 #include "support/Bord.h"
 #include "support/InhoudVan.h"
 #include "support/PdfLezer.h"
@@ -27,7 +28,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QMenuBar>
-#include <QProcess>
 #include <QRegularExpression>
 
 #include <map>
@@ -83,22 +83,6 @@ struct Handleiding
     PdfLezer Pdf;
     QString Markdown;
     QList<QStringList> Bladen; ///< the lines of each page
-};
-
-/// How a run of a program ended, and what it said.
-struct Verloop
-{
-    Verloop(const QString &programma, const QStringList &argumenten)
-    {
-        QProcess proces;
-        proces.setProcessChannelMode(QProcess::MergedChannels);
-        proces.start(programma, argumenten);
-        if (proces.waitForFinished(60000) && proces.exitStatus() == QProcess::NormalExit)
-            Code = proces.exitCode();
-        Tekst = QString::fromUtf8(proces.readAll());
-    }
-    int Code = -1;
-    QString Tekst;
 };
 
 /// The files below a folder with their sizes and their times.
@@ -238,8 +222,8 @@ private slots:
         lijst.close();
         const QStringList ervoor = Bestanden(QStringLiteral(PROGRAMMA));
         const QStringList argumenten{QStringLiteral(PROGRAMMA), map.path()};
-        const Verloop eerste(QStringLiteral(VENSTERBEELDEN), argumenten);
-        QVERIFY2(eerste.Code == 0, qPrintable(eerste.Tekst));
+        const Afloop eerste(QStringLiteral(VENSTERBEELDEN), argumenten);
+        QVERIFY2(eerste.Code == 0, qPrintable(eerste.Tekst()));
         QCOMPARE(Bestanden(QStringLiteral(PROGRAMMA)), ervoor);
         const QByteArray genomen = InhoudVan(lijst.fileName());
         QVERIFY(genomen.count('\n') > 20);
@@ -250,7 +234,7 @@ private slots:
         const QDateTime toen(QDate(2020, 1, 1), QTime(12, 0));
         QVERIFY(lijst.setFileTime(toen, QFileDevice::FileModificationTime));
         lijst.close();
-        QCOMPARE(Verloop(QStringLiteral(VENSTERBEELDEN), argumenten).Code, 0);
+        QCOMPARE(Afloop(QStringLiteral(VENSTERBEELDEN), argumenten).Code, 0);
         QCOMPARE(QFileInfo(lijst.fileName()).lastModified(), toen); // nothing that is made of it is made anew
     }
 
@@ -258,22 +242,22 @@ private slots:
     {
         const QTemporaryDir map;
         const QString vensterbeelden = QStringLiteral(VENSTERBEELDEN), handleiding = QStringLiteral(HANDLEIDING);
-        const Verloop geenMap(vensterbeelden, {});
+        const Afloop geenMap(vensterbeelden, {});
         QCOMPARE(geenMap.Code, 1);
-        QVERIFY2(geenMap.Tekst.contains("vensterbeelden APPMAP BEELDMAP"_L1), qPrintable(geenMap.Tekst));
-        const Verloop zonderDatabase(vensterbeelden, {map.path(), map.path()});
+        QVERIFY2(geenMap.Tekst().contains("vensterbeelden APPMAP BEELDMAP"_L1), qPrintable(geenMap.Tekst()));
+        const Afloop zonderDatabase(vensterbeelden, {map.path(), map.path()});
         QCOMPARE(zonderDatabase.Code, 1);
-        QVERIFY2(zonderDatabase.Tekst.contains("Kan database niet vinden"_L1), qPrintable(zonderDatabase.Tekst));
+        QVERIFY2(zonderDatabase.Tekst().contains("Kan database niet vinden"_L1), qPrintable(zonderDatabase.Tekst()));
         QVERIFY(!QFile::exists(map.filePath(u"beelden.txt"_s)));
-        const Verloop geenBron(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s)});
+        const Afloop geenBron(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s)});
         QCOMPARE(geenBron.Code, 1);
-        QVERIFY2(geenBron.Tekst.contains("handleiding TITEL BEELDMAP"_L1), qPrintable(geenBron.Tekst));
+        QVERIFY2(geenBron.Tekst().contains("handleiding TITEL BEELDMAP"_L1), qPrintable(geenBron.Tekst()));
         QFile bron(map.filePath(u"bron.md"_s));
         QVERIFY(bron.open(QIODevice::WriteOnly) && bron.write("# Een\n\n![Weg](weg.png)\n") > 0);
         bron.close();
-        const Verloop geenBeeld(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s), bron.fileName()});
+        const Afloop geenBeeld(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s), bron.fileName()});
         QCOMPARE(geenBeeld.Code, 1);
-        QVERIFY2(geenBeeld.Tekst.contains("weg.png"_L1), qPrintable(geenBeeld.Tekst));
+        QVERIFY2(geenBeeld.Tekst().contains("weg.png"_L1), qPrintable(geenBeeld.Tekst()));
         QVERIFY(!QFile::exists(map.filePath(u"x.pdf"_s)));
     }
 

@@ -1,33 +1,18 @@
 #include "installatie/InstallatieBestanden.h"
 
 #include "platform/CodePage.h"
+#include "support/Afloop.h"
 #include "support/InhoudVan.h"
 #include "support/Testbank.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
-
-/// How a run of the program ended, and what it said.
-struct Afloop
-{
-    int Code;
-    QByteArray Uit, Fouten;
-};
-
-static Afloop Voer(const QStringList &argumenten)
-{
-    QProcess programma;
-    programma.start(QStringLiteral(INSTALLATIE), argumenten);
-    const bool klaar = programma.waitForFinished() && programma.exitStatus() == QProcess::NormalExit;
-    return {klaar ? programma.exitCode() : -1, programma.readAllStandardOutput(), programma.readAllStandardError()};
-}
 
 /// The lines of a file that was made, without their ends; none when a line doesn't end in CR LF.
 static QStringList Regels(const QByteArray &bestand)
@@ -74,7 +59,7 @@ private slots:
         bank.Schrijf(u"één bron.txt"_s, bron);
         bank.Schrijf(u"doel.txt"_s, "old");
         const QString doel = bank.Map() + u"/doel.txt"_s;
-        const Afloop afloop = Voer({wat, bank.Map() + u"/één bron.txt"_s, doel});
+        const Afloop afloop(QStringLiteral(INSTALLATIE), {wat, bank.Map() + u"/één bron.txt"_s, doel});
         QCOMPARE(afloop.Fouten, QByteArray());
         QCOMPARE(afloop.Code, 0);
         QCOMPARE(afloop.Uit, doel.toUtf8() + ": " + QByteArray::number(inhoud.count('\n')) + " lines\n");
@@ -116,7 +101,7 @@ private slots:
         bank.Schrijf(u"latijn.txt"_s, "rat\ncaf\xE9\n");
         bank.Schrijf(u"cijfers.txt"_s, "rat\n4\xC3\xA9\n");
         bank.Schrijf(u"blanks.txt"_s, "rat \n");
-        const Afloop afloop = Voer(argumenten.replaceInStrings(u"@"_s, bank.Map()));
+        const Afloop afloop(QStringLiteral(INSTALLATIE), argumenten.replaceInStrings(u"@"_s, bank.Map()));
         QCOMPARE(QString::fromUtf8(afloop.Fouten), u"installatie: "_s + fout.replace(u'@', bank.Map()) + u'\n');
         QCOMPARE(afloop.Code, code);
         QCOMPARE(afloop.Uit, QByteArray());
