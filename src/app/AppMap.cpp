@@ -1,5 +1,6 @@
 #include "app/AppMap.h"
 
+#include "platform/Beurt.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
 #include "platform/Schijf.h"
@@ -7,7 +8,6 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFileInfo>
-#include <QLockFile>
 
 using namespace Qt::StringLiterals;
 
@@ -46,8 +46,8 @@ static void VulMap(const QString &gebruiker, const QString &installatie)
 {
     constexpr int Geduld = 35000; // milliseconds; a turn that was never given back counts as left after 30 seconds
     const QFileInfo plaats(gebruiker);
-    QLockFile beurt(BeurtPad(gebruiker));
-    if (!QDir().mkpath(plaats.path()) || !beurt.tryLock(Geduld))
+    Beurt beurt(BeurtPad(gebruiker));
+    if (!QDir().mkpath(plaats.path()) || !beurt.Neem(Geduld))
         throw Fout(Fout::GeenToegang, gebruiker);
     if (QDir(gebruiker).exists())
         return;

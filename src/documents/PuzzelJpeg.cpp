@@ -2,12 +2,12 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "platform/Beurt.h"
 #include "platform/Bewaren.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
 #include "platform/PictureFiles.h"
 
-#include <QLockFile>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -28,8 +28,8 @@ QString FotoMap()
 
 bool MaakPuzzelJpeg(const QString &naam)
 {
-    QLockFile beurt(BeurtPad());
-    if (!beurt.tryLock(Geduld))
+    Beurt beurt(BeurtPad());
+    if (!beurt.Neem(Geduld))
         return false;
     const QString tussen = Files::Pad(AppPath, {TussenNaam});
     negeer([&] {
@@ -49,7 +49,7 @@ void RuimTussenBeeldOp()
     const QString tussen = Files::Pad(AppPath, {TussenNaam});
     if (!Files::FileExists(tussen) && !Files::FileExists(BeurtPad()))
         return;
-    QLockFile beurt(BeurtPad());
-    if (beurt.tryLock(0))
+    Beurt beurt(BeurtPad());
+    if (beurt.Neem(0))
         negeer([&] { Files::Kill(tussen); });
 }

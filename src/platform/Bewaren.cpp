@@ -1,5 +1,6 @@
 #include "platform/Bewaren.h"
 
+#include "platform/Beurt.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
 #include "platform/Schijf.h"
@@ -7,7 +8,6 @@
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QRandomGenerator>
 #include <QRegularExpression>
 
@@ -144,9 +144,9 @@ void BestandenSet::PlaatsAlles()
 {
     if (delen_.isEmpty())
         return;
-    QLockFile beurt(BeurtPad(map_));
+    Beurt beurt(BeurtPad(map_));
     if (delen_.size() > 1 || delen_.first().Spelling != delen_.first().Naam) { // else one step does it
-        beurt.tryLock(Geduld); // who does not get its turn goes on all the same: what is saved is not lost for that
+        beurt.Neem(Geduld); // who does not get its turn goes on all the same: what is saved is not lost for that
         SchrijfNota();
     }
     QString mislukt;
@@ -197,8 +197,8 @@ void MaakAf(const QString &map)
         QRegularExpression::anchoredPattern(u"\\.rasteratelier-[0-9a-f]{16}(-[0-9]+)?"_s));
     const QStringList namen =
         QDir(map).entryList({u".rasteratelier*"_s}, QDir::Files | QDir::Hidden | QDir::NoSymLinks, QDir::Name);
-    QLockFile beurt(BeurtPad(map));
-    if (namen.isEmpty() || !beurt.tryLock(Geduld))
+    Beurt beurt(BeurtPad(map));
+    if (namen.isEmpty() || !beurt.Neem(Geduld))
         return;
     for (const QString &naam : namen) { // a note comes before its files
         const qsizetype lengte = Voorvoegsel.size() + Digits;

@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QDirIterator>
+#include <QElapsedTimer>
 #include <QLockFile>
 #include <QThread>
 
@@ -222,6 +223,17 @@ private slots:
         QCOMPARE(QDir(machine.Gebruiker + u"/Puzzels"_s).entryList(QDir::AllEntries | QDir::NoDotAndDotDot),
                  QStringList{u"Kennismaking.lst"_s});
         QVERIFY(!QDir(machine.Gebruiker + u".nieuw~"_s).exists());
+    }
+
+    void aTurnThatCannotBeHadFails()
+    {
+        Machine machine;
+        QVERIFY(QDir().mkpath(machine.Gebruiker + u".slot"_s));
+        QElapsedTimer wachttijd;
+        wachttijd.start();
+        QCOMPARE(FoutVan([&] { machine.Kies(); }), int(Fout::GeenToegang));
+        QVERIFY2(wachttijd.elapsed() < 5000, qPrintable(QString::number(wachttijd.elapsed())));
+        QVERIFY(!QDir(machine.Gebruiker).exists());
     }
 
     void aFolderThatCannotBeMadeFails()

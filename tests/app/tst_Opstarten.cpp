@@ -8,6 +8,9 @@
 #include "support/Stand.h"
 
 #include <QDir>
+#include <QElapsedTimer>
+
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -132,6 +135,23 @@ private slots:
         Start start;
         QVERIFY(QDir(start.Bank.Map()).mkdir(u"Rasteratelier.ini"_s));
         LaadMain();
+        QCOMPARE(OrgineelRood, qint16(230));
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
+    // Whoever opens a pipe waits for somebody at its other end.
+    void aStartDoesNotWaitForAPipe()
+    {
+        Start start;
+        const QString map = start.Bank.Map();
+        for (const char *naam : {"/Rasteratelier.ini", "/.mydummy.slot", "/Puzzels/.rasteratelier.slot"})
+            QCOMPARE(mkfifo(QFile::encodeName(map + QLatin1String(naam)).constData(), 0600), 0);
+        start.Bank.Schrijf(u"mydummy.bmp"_s, "rest");
+        start.Bank.Schrijf(u"Puzzels/.rasteratelier-0123456789abcdef"_s, "rest");
+        QElapsedTimer wachttijd;
+        wachttijd.start();
+        LaadMain();
+        QVERIFY2(wachttijd.elapsed() < 1500, qPrintable(QString::number(wachttijd.elapsed())));
         QCOMPARE(OrgineelRood, qint16(230));
         QVERIFY(start.Bank.Script.Gezien.isEmpty());
     }
