@@ -5,6 +5,7 @@
 #include "platform/Schijf.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -30,16 +31,21 @@ static void ControleerNaam(const QString &naam)
         throw Fout(Fout::OngeldigeNaam, naam.left(60).simplified());
 }
 
+/// The spelling of a name in a folder; of several always the same one, the first by the alphabet. The folder may hold
+/// ten thousands of names: they are not sorted for it.
 static QString EigenSpelling(const QString &map, const QString &naam)
 {
-    const QDir folder(map);
-    if (folder.exists(naam))
+    if (QFileInfo::exists(map + u'/' + naam))
         return naam;
-    const QStringList namen = folder.entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
-    for (const QString &andere : namen)
-        if (andere.compare(naam, Qt::CaseInsensitive) == 0)
-            return andere;
-    return naam;
+    QString eigen;
+    QDirIterator lus(map, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    while (lus.hasNext()) {
+        lus.next();
+        const QString andere = lus.fileName();
+        if (andere.compare(naam, Qt::CaseInsensitive) == 0 && (eigen.isEmpty() || andere < eigen))
+            eigen = andere;
+    }
+    return eigen.isEmpty() ? naam : eigen;
 }
 
 QString Pad(const QString &map, const QStringList &namen)

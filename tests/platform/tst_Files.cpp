@@ -8,6 +8,7 @@
 #include <csignal>
 #include <optional>
 #include <sys/resource.h>
+#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -206,6 +207,14 @@ void tst_Files::whatIsNoFileCannotBeRead()
 {
     QCOMPARE(FoutVan([&] { Files::Lees(Volledig("er niet")); }), int{Fout::BestandNietGevonden});
     QCOMPARE(FoutVan([&] { Files::Lees(Volledig("Puzzels")); }), int{Fout::BestandNietGevonden});
+    // Reading these would never end.
+    QCOMPARE(mkfifo(QFile::encodeName(Volledig("pijp")).constData(), 0600), 0);
+    QVERIFY(QFile::link(u"/dev/zero"_s, Volledig("toestel")));
+    for (const char *naam : {"pijp", "toestel"}) {
+        QCOMPARE(FoutVan([&] { Files::Lees(Volledig(naam)); }), int{Fout::BestandNietGevonden});
+        QCOMPARE(FoutVan([&] { Files::LeesBegin(Volledig(naam), 10); }), int{Fout::BestandNietGevonden});
+    }
+    QCOMPARE(Files::Lijst(Map(), u"p*"_s), QStringList());
 }
 
 void tst_Files::aFileThatIsTooLargeIsNotTakenIn()
