@@ -27,7 +27,8 @@ TextBox::TextBox(QWidget *ouder) : QTextEdit(ouder), barWidth_(verticalScrollBar
 
 QString TextBox::Text() const
 {
-    return toPlainText().replace(u'\n', "\r\n"_L1);
+    QString tekst = document()->toRawText(); // toPlainText makes a blank of a hard space
+    return tekst.replace(QChar::ParagraphSeparator, "\r\n"_L1).replace(QChar::LineSeparator, "\r\n"_L1);
 }
 
 // The beginning of a text that fits in that many characters, all that the box takes for a line end made into CR LF.

@@ -21,6 +21,7 @@ private slots:
     void aLineEndIsTwoCharacters();
     void everyLineEndIsMadeTheSame_data();
     void everyLineEndIsMadeTheSame();
+    void aHardSpaceStays();
     void anIndexOutsideTheTextIsTheNearestOne();
     void aTextWrapsBetweenWordsAtTheWidth();
     void aLongWordIsBroken();
@@ -118,6 +119,16 @@ void tst_TextBox::everyLineEndIsMadeTheSame()
     box.SetText(tekst);
     QCOMPARE(box.Text(), u"a\r\nb\r\n"_s);
     QCOMPARE(box.LineCount(), 3);
+}
+
+void tst_TextBox::aHardSpaceStays()
+{
+    OmschrijvingBox box;
+    box.SetText(u"de\u00A0hond\r\n\u00A0"_s);
+    QCOMPARE(box.Text(), u"de\u00A0hond\r\n\u00A0"_s);
+    const QSignalSpy veranderd(&box, &QTextEdit::textChanged);
+    box.SetText(box.Text());
+    QCOMPARE(veranderd.size(), 0);
 }
 
 void tst_TextBox::anIndexOutsideTheTextIsTheNearestOne()
