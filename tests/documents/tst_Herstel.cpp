@@ -336,6 +336,20 @@ private slots:
         QCOMPARE(puzzels.Scherm.Bank.Inhoud(u"mydummy.bmp"_s), QByteArray("van een ander"));
     }
 
+    void theStartFinishesInEveryFolder()
+    {
+        const TweePuzzels puzzels;
+        const QString map = puzzels.Scherm.Bank.Map(), html = map + u"/Html"_s, beelden = html + u"/Images"_s;
+        QVERIFY(QDir().mkpath(beelden));
+        const auto rest = [](const QString &in) { return in + u"/.rasteratelier-0123456789abcdef-1"_s; };
+        const QStringList mappen{map, puzzels.Puzzels(), puzzels.Fotos(), html, beelden};
+        for (const QString &in : mappen)
+            QVERIFY(QFile(rest(in)).open(QIODevice::WriteOnly));
+        HerstelBestanden();
+        for (const QString &in : mappen)
+            QVERIFY2(!QFile::exists(rest(in)), qPrintable(in));
+    }
+
     void theBitmapOfAKilledProgramIsRemoved()
     {
         TweePuzzels puzzels;
