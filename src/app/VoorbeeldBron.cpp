@@ -3,8 +3,10 @@
 #include "board/Algemeen.h"
 #include "board/LangeIJ.h"
 #include "board/Plaats.h"
+#include "platform/CodePage.h"
 #include "platform/Fout.h"
 #include "platform/Teksten.h"
+#include "platform/Velden.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -95,6 +97,15 @@ void LegLetters(const Regel &regel, qsizetype veld, Cel cel, bool horizontaal, P
     }
 }
 
+/// A text of the entry list has to come back out of the puzzle file, where a comma ends a field.
+void EisVeld(const Regel &regel, qsizetype veld)
+{
+    const QByteArray bytes = Files::NaarBytes(regel.Velden[veld]);
+    Files::VeldLezer lezer(bytes);
+    if (lezer.Tekst() != regel.Velden[veld] || !lezer.Einde())
+        regel.WeigerVeld(veld, u"komt zo niet terug uit het puzzelbestand"_s);
+}
+
 Woord LeesWoord(const Regel &regel, Puzzel &puzzel)
 {
     regel.Eis(u"woord|PLAATS|H of V|OPLOSSING|OMSCHRIJVING"_s);
@@ -103,6 +114,8 @@ Woord LeesWoord(const Regel &regel, Puzzel &puzzel)
         regel.WeigerVeld(2, u"is geen richting: H of V"_s);
     if (woord.Oplossing.trimmed().isEmpty() || woord.Omschrijving.isEmpty())
         regel.Weiger(u"de oplossing of de omschrijving ontbreekt"_s);
+    EisVeld(regel, 3);
+    EisVeld(regel, 4);
     LegLetters(regel, 3, woord.Waar, woord.Horizontaal, puzzel);
     return woord;
 }
@@ -123,6 +136,7 @@ Woord LeesAntwoord(const Regel &regel, Puzzel &puzzel)
     const Cel letter{puzzel.WaarZoekwoord.Kolom, puzzel.WaarZoekwoord.Rij + static_cast<int>(puzzel.Woorden.size())};
     if (woord.Omschrijving.isEmpty())
         regel.Weiger(u"de omschrijving ontbreekt"_s);
+    EisVeld(regel, 3);
     EisKleineLetters(regel, 2);
     if (woord.Waar.Rij != letter.Rij)
         regel.WeigerVeld(
@@ -262,7 +276,9 @@ void Nummer(const Regel &laatste, Puzzel &puzzel)
 
 Puzzel LeesBron(const QString &pad)
 {
-    const auto isDrukbaar = [](QChar c) { return c.isLetterOrNumber() || c.isPunct() || c.isSymbol() || c == u' '; };
+    const auto isDrukbaar = [](QChar c) {
+        return Files::InCodePage(c) && (c.isLetterOrNumber() || c.isPunct() || c.isSymbol() || c == u' ');
+    };
     QFile bestand(pad);
     if (!bestand.open(QIODevice::ReadOnly))
         throw Fout(Fout::BestandNietGevonden, pad);

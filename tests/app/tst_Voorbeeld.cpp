@@ -81,6 +81,8 @@ class tst_Voorbeeld : public QObject
         Geval("filippine with an answer in another row", vorm + "antwoord|C-03|bol|rond\n", 3,
               u"\"C-03\" is niet op rij 02"_s);
         Geval("filippine without a clue", vorm + "antwoord|C-02|bol|\n", 3, u"omschrijving ontbreekt"_s);
+        Geval("filippine with a comma in a clue", vorm + "antwoord|C-02|bol|rond, groot\n", 3,
+              u"groot\" komt zo niet terug"_s);
         Geval("filippine with a capital answer", vorm + "antwoord|C-02|Bol|rond\n", 3, u"\"Bol\" is geen woord"_s);
         Geval("filippine with an answer before the search word", vorm + "antwoord|A-02|bo|rond\n", 3,
               u"\"bo\" gaat niet door het zoekwoord"_s);
@@ -162,6 +164,14 @@ private slots:
         WrongKruiswoord();
         WrongFilippine();
         Geval("binary", QByteArray("naam|Pro\0ef\nmaat|10|11\n", 22), 1, u"teken"_s);
+        Geval("Latin-1", begin + "vak|A-01|1|caf\xE9\n", 3, u"teken"_s);
+        Geval("a character that the puzzle file lacks", begin + "vak|A-01|1|\xCF\x80\n", 3, u"teken"_s);
+        const QString terug = u"\" komt zo niet terug uit het puzzelbestand"_s;
+        Geval("a comma in a clue", begin + "woord|A-01|H|aap|dier, groot\n", 3, u"groot"_s + terug);
+        Geval("a comma in a solution", begin + "woord|A-01|H|a,p|dier\n", 3, u"a,p"_s + terug);
+        Geval("a comma at the end", begin + "woord|A-01|H|aap|dier,\n", 3, u"dier,"_s + terug);
+        Geval("a blank before a clue", begin + "woord|A-01|H|aap| dier\n", 3, u" dier"_s + terug);
+        Geval("quotes round a clue", begin + "woord|A-01|H|aap|\"dier\"\n", 3, u"\"dier\""_s + terug);
         Geval("line end within", begin + "woord|A-01|H|\u2028aap|dier\n", 3, u"teken"_s);
         Geval("blank lines count", "\r\n\r\n" + begin + " \n\nvak|A-01|9|x\n", 7, u"1 tot en met 8"_s);
     }
@@ -204,6 +214,35 @@ private slots:
         QVERIFY2(gelijk.Tekst().contains(u"lijst van 3 woorden"_s), qPrintable(gelijk.Tekst()));
         QVERIFY(werk.Inhoud(u"Html/Proef.html"_s).contains("Puzzelnaam : Proef<"));
         QCOMPARE(werk.Inhoud(u"Html/Images/Proef.bmp"_s), werk.Inhoud(u"Puzzels/Proef2.bmp"_s));
+    }
+
+    void aDifferenceIsToldSo()
+    {
+        const Werkplaats werk;
+        const QByteArray bron = "naam|Proef\nmaat|9|9\nwoord|A-01|H|aap|dier\n";
+        QCOMPARE(werk.Voer(u"bewaar"_s, bron).Code, 0);
+        const QString map = werk.Map() + u"/controle/Proef/"_s;
+        const QStringList kenmerken{u"zichtbaar puzzelveld, beeldpunt voor beeldpunt: "_s,
+                                    u"orgineel puzzelveld, beeldpunt voor beeldpunt: "_s,
+                                    u"lijst van 1 woorden, rij voor rij: "_s};
+        const QStringList bestanden{u"Pic.png"_s, u"PicGroot.png"_s, u"lijst.txt"_s};
+        for (int anders = -1; anders < 3; ++anders) {
+            if (anders >= 0)
+                QVERIFY(QFile::rename(map + bestanden[anders], map + u"weg"_s));
+            const Afloop afloop = werk.Voer(u"controleer"_s, bron);
+            QCOMPARE(afloop.Code, anders < 0 ? 0 : 1);
+            QString tekst = u"venster: %1venster.png\n"_s.arg(map);
+            for (int i = 0; i < 3; ++i)
+                tekst += kenmerken[i] + (i == anders ? u"VERSCHIL\n"_s : u"gelijk\n"_s);
+            QVERIFY2(afloop.Tekst.endsWith(tekst), qPrintable(afloop.Tekst));
+            if (anders >= 0)
+                QVERIFY(QFile::rename(map + u"weg"_s, map + bestanden[anders]));
+        }
+        QVERIFY(QFile::remove(map + u"venster.png"_s) && QDir().mkdir(map + u"venster.png"_s));
+        const Afloop afloop = werk.Voer(u"controleer"_s, bron);
+        QCOMPARE(afloop.Code, 1);
+        QVERIFY2(afloop.Tekst.endsWith(u"voorbeeld: Fout bij lezen of schrijven (%1venster.png)\n"_s.arg(map)),
+                 qPrintable(afloop.Tekst));
     }
 
     void aPageThatWasNotWrittenIsToldSo_data()
