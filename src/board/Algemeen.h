@@ -16,17 +16,17 @@ inline constexpr quint8 Filippine = 5;
 inline constexpr int VakMaat = 450;       ///< a cell on Pic, twips
 inline constexpr int VakMaatGroot = 1800; ///< a cell on PicGroot, twips
 
-extern quint8 PuzzelType;  ///< the kind, 1..5
-extern qint32 BoardWidth;  ///< cells across
-extern qint32 BoardHeight; ///< cells down
-extern qint32 CurCol;      ///< column of the cell under the pointer, from 0
-extern qint32 CurRow;      ///< row of it, from 0
-extern qint32 CurCell;     ///< its running number by the current width, from 1; 0 before the pointer was on the board
-extern QString PuzzelNaam; ///< base of the puzzle's file names
-extern bool PuzzelGewijzigd;
-extern quint8 PijlSoort;    ///< arrow choice of the clue-cell editor, 1..8
-extern quint8 KleurVakjes;  ///< colour of clue cells on Pic, 1..3
-extern qint16 OrgineelRood; ///< colour of clue cells on PicGroot, each part 0..255
+extern quint8 PuzzelType;    ///< the kind, 1..5
+extern qint32 BoardWidth;    ///< cells across
+extern qint32 BoardHeight;   ///< cells down
+extern qint32 CurCol;        ///< column of the cell under the pointer, from 0
+extern qint32 CurRow;        ///< row of it, from 0
+extern qint32 CurCell;       ///< its running number by the current width, from 1; 0 before the pointer was on the board
+extern QString PuzzelNaam;   ///< base of the puzzle's file names
+extern bool PuzzelGewijzigd; ///< whether leaving asks first; not every edit sets it, on purpose
+extern quint8 PijlSoort;     ///< arrow choice of the clue-cell editor, 1..8
+extern quint8 KleurVakjes;   ///< colour of clue cells on Pic, 1..3
+extern qint16 OrgineelRood;  ///< colour of clue cells on PicGroot, each part 0..255
 extern qint16 OrgineelGroen;
 extern qint16 OrgineelBlauw;
 extern QString PaginaTekst;    ///< the text on all print pages
@@ -53,7 +53,9 @@ void OpenDocument(const QString &doel);
 void Wachten(double seconden, QEventLoop::ProcessEventsFlags welke = QEventLoop::AllEvents);
 /// The name that the user is logged in with.
 QString HaalGebruiker();
+/// Whether there is a file, and no folder, at a path of Files::Pad.
 bool BestandBestaat(const QString &pad);
+/// Shows how letters with an accent and other signs are typed.
 void ToonSpecialeTekens();
 /// The first character upper case, the rest lower case.
 QString EersteHoofdletter(const QString &tekst);

@@ -3,10 +3,11 @@
 /// Checks that both boards can be as large as this many cells. Raises Fout::OngeldigeWaarde or Fout::GeheugenVol.
 void ControleerBord(int breedte, int hoogte);
 
-/// Draws the visible board from nothing: grid, rulers, plate.
+/// Draws the visible board from nothing: grid, rulers, plate. Raises what ControleerBord raises, and nothing is drawn
+/// then.
 void TekenRaster(int breedte, int hoogte);
 
-/// Draws the large board from nothing.
+/// Draws the large board from nothing. Raises the same.
 ///
 /// Each tile is 1845 wide on a pitch of 1800: the frames of neighbours overlap by 45.
 ///

@@ -11,6 +11,7 @@ class Berichten
 {
 public:
     virtual ~Berichten();
+    /// What MsgBox shows, and InputBox: the text and the title as they are given.
     virtual Antwoord Vraag(const QString &tekst, Knoppen knoppen, Icoon icoon, const QString &titel);
     virtual QString VraagTekst(const QString &vraag, const QString &titel);
     /// Asks where a file is to be saved, with the system's own dialog; of one that is there it asks whether it may be

@@ -82,7 +82,7 @@ public:
     /// From now on the surface is measured in twips or in pixels from its top left.
     void SetScaleMode(ScaleModes soort);
     /// From now on the surface is measured in units of one's own: its top left is (x1, y1), its bottom right (x2, y2).
-    /// Raises Fout::OngeldigeWaarde when they lie on one line.
+    /// Raises Fout::OngeldigeWaarde when they lie on one line, or the surface is without a side.
     void Scale(double x1, double y1, double x2, double y2);
     ScaleModes ScaleMode() const { return soort_; }
 

@@ -9,8 +9,8 @@
 /// from Pad; what a path names need not exist. Failures are a Fout.
 namespace Files {
 
-inline constexpr qint64 GrootsteBestand =
-    GrootsteBeeld + 1024; ///< the largest file that is read, in bytes: the largest picture with its head
+/// The largest file that is read, in bytes: the largest picture with its head.
+inline constexpr qint64 GrootsteBestand = GrootsteBeeld + 1024;
 
 /// The path of a file below an existing folder. Each name is one file name; where a file of that name, ignoring case,
 /// exists, its own spelling is taken, otherwise the spelling given.

@@ -2,5 +2,5 @@
 
 #include <QtGlobal>
 
-inline constexpr qint64 GrootsteBeeld = qint64{256}
-                                        << 20; ///< the pixels of the largest picture that there is, in bytes
+/// The pixels of the largest picture that there is, in bytes.
+inline constexpr qint64 GrootsteBeeld = qint64{256} << 20;

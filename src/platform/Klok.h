@@ -17,9 +17,8 @@ public:
     virtual void Slaap(double seconden, QEventLoop::ProcessEventsFlags welke);
 
     /// Waits until Timer has grown by so many seconds, running events all the while; a wait of nothing runs those that
-    /// are pending. It compares seconds since
-    /// midnight: a wait that spans midnight does not end in time, and nothing guards against that but where input is
-    /// held back. Raises Afgebroken when the program has been ended meanwhile.
+    /// are pending. It compares seconds since midnight: a wait that spans midnight does not end in time, and nothing
+    /// guards against that but where input is held back. Raises Afgebroken when the program has been ended meanwhile.
     /// @param welke ExcludeUserInputEvents keeps clicks and keys for later
     void Wacht(double seconden, QEventLoop::ProcessEventsFlags welke = QEventLoop::AllEvents);
 

@@ -29,7 +29,8 @@ public:
     /// Clears all and shows the picture from the top left, one pixel to the pixel. A box with AutoSize shares the
     /// pixels with the picture as long as it is not drawn on.
     void SetPicture(const QImage &beeld);
-    /// What is visible now. Shares its pixels with the box as long as the box is not drawn on.
+    /// What is visible now; a null picture of a box without a side. Shares its pixels with the box as long as the box
+    /// is not drawn on.
     QImage Image() const;
 
     /// A pixel's colour; 0 (no colour at all) outside the visible part. In pixels, whatever the scale.
