@@ -1,4 +1,4 @@
-# floor(NAME LINKS lib...): the static library of one folder, from all the sources named in SOURCES.
+# floor(NAME SOURCES file... LINKS lib...): a static library of these sources of a folder, on the libraries that it may know.
 function(floor NAME)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${NAME} STATIC ${ARG_SOURCES})

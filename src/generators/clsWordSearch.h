@@ -29,9 +29,10 @@ public:
     /// Makes a new grid of the words. @return it, row by row; empty when it was given up
     /// Raises Fout::Overloop when there are more than 32767 cells.
     QString Make();
-    /// Writes the puzzle to a file; nothing when there is no grid.
+    /// Writes the puzzle to a file; nothing when there is no grid. Raises what Files::Schrijf raises.
     void Save(const QString &strFile);
-    /// Reads a puzzle from a file, and draws it. Its words are added to those that are there.
+    /// Reads a puzzle from a file, and draws it. Its words are added to those that are there. Raises what Files::Lees,
+    /// the sizes and Draw raise, Fout::EindeBestand for a file that ends too early; what was read before that stays.
     void Load(const QString &strFile);
     /// Draws the grid on the canvas. Whatever fails, raises the failure with number 0x80040004.
     void Draw();
