@@ -19,8 +19,12 @@ static int Maak(const QStringList &argumenten)
     if (argumenten.size() < 5)
         throw Fout(Fout::OngeldigArgument, u"handleiding TITEL BEELDMAP DOEL BRON..."_s);
     QStringList teksten;
-    for (const QString &bron : argumenten.mid(4))
-        teksten += QString::fromUtf8(Files::Lees(bron));
+    for (const QString &bron : argumenten.mid(4)) {
+        const QByteArray bytes = Files::Lees(bron);
+        if (!bytes.isValidUtf8())
+            throw Fout(Fout::OngeldigeWaarde, bron);
+        teksten += QString::fromUtf8(bytes);
+    }
     const auto beeld = [&argumenten](const QString &naam) { return QImage(argumenten[2] + u'/' + naam); };
     Files::Schrijf(argumenten[3], MaakHandleiding(argumenten[1], teksten.join(u"\n\n"_s), beeld));
     return 0;

@@ -258,7 +258,36 @@ private slots:
         const Afloop geenBeeld(handleiding, {u"Titel"_s, map.path(), map.filePath(u"x.pdf"_s), bron.fileName()});
         QCOMPARE(geenBeeld.Code, 1);
         QVERIFY2(geenBeeld.Tekst().contains("weg.png"_L1), qPrintable(geenBeeld.Tekst()));
-        QVERIFY(!QFile::exists(map.filePath(u"x.pdf"_s)));
+        const auto weigert = [&](const QByteArray &tekst, const QStringList &bronnen, const QString &doel) {
+            if (!bron.open(QIODevice::WriteOnly) || bron.write(tekst) != tekst.size())
+                return u"no source"_s;
+            bron.close();
+            const Afloop afloop(handleiding, QStringList{u"Titel"_s, map.path(), doel} + bronnen);
+            return afloop.Code == 1 ? afloop.Tekst().section(u'\n', -2) : u"it ended with %1"_s.arg(afloop.Code);
+        };
+        const QString doel = map.filePath(u"x.pdf"_s), weg = map.filePath(u"weg/x"_s);
+        QCOMPARE(weigert("# Een\n", {bron.fileName(), weg}, doel),
+                 u"handleiding: Bestand niet gevonden (%1)\n"_s.arg(weg));
+        QCOMPARE(weigert("# Caf\xE9\n", {bron.fileName()}, doel),
+                 u"handleiding: Ongeldige waarde (%1)\n"_s.arg(bron.fileName()));
+        QCOMPARE(weigert("# Een\n", {bron.fileName()}, weg),
+                 u"handleiding: Geen toegang (%1)\n"_s.arg(map.filePath(u"weg"_s)));
+        QVERIFY(!QFile::exists(doel));
+    }
+
+    void aTextBeginsOnALineOfItsOwn()
+    {
+        const QTemporaryDir map;
+        QStringList bronnen;
+        for (const QByteArray &tekst : {QByteArray("# Een\n\neerste"), QByteArray("# Twee\n\ntweede")}) {
+            QFile bron(map.filePath(u"%1.md"_s.arg(bronnen.size())));
+            QVERIFY(bron.open(QIODevice::WriteOnly) && bron.write(tekst) > 0);
+            bronnen += bron.fileName();
+        }
+        const QString doel = map.filePath(u"x.pdf"_s);
+        const Afloop afloop(QStringLiteral(HANDLEIDING), QStringList{u"Titel"_s, map.path(), doel} + bronnen);
+        QVERIFY2(afloop.Code == 0, qPrintable(afloop.Tekst()));
+        QCOMPARE(PdfLezer(doel).Paginas(), 3); // the list of headings, and a page for each chapter
     }
 
     void everyWindowAndItsMenusAreTold()
