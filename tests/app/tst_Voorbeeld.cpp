@@ -340,6 +340,27 @@ private slots:
         QVERIFY2(gelijk.Tekst().contains(u"lijst van 4 woorden"_s), qPrintable(gelijk.Tekst()));
     }
 
+    void aKruiswoordMayHaveEveryNumberThereIs()
+    {
+        QByteArray bron = "naam|Proef\nkruiswoord|10|11\n";
+        for (int vak = 0; vak < 99; ++vak)
+            bron += "woord|" + QByteArray(1, static_cast<char>('A' + vak % 10)) + '-' +
+                    QByteArray::number(vak / 10 + 1).rightJustified(2, '0') + "|H|a|x\n";
+        const Werkplaats werk;
+        const Afloop gemaakt = werk.Voer(u"maak"_s, bron);
+        QVERIFY2(gemaakt.Gewoon && gemaakt.Code == 0, qPrintable(gemaakt.Tekst));
+        QVERIFY(werk.Inhoud(u"Puzzels/Proef.lst"_s).endsWith("\r\na\r\n99\r\n" + QByteArray(28, '-') + "\r\n"));
+    }
+
+    // The JPEG of a save is no business of who builds.
+    void thePictureIsNotPutInTheUsersOwnFolder()
+    {
+        const Werkplaats werk;
+        QVERIFY(QDir(werk.Map()).mkdir(u"Pictures"_s));
+        QCOMPARE(werk.Voer(u"maak"_s, "naam|Proef\nmaat|9|9\n").Code, 0);
+        QVERIFY(QFile::exists(werk.Map() + u"/Pictures/Proef.jpg"_s));
+    }
+
     void aFilippineIsMade()
     {
         const Werkplaats werk;
@@ -377,7 +398,10 @@ private slots:
         QVERIFY2(gelijk.Code == 0, qPrintable(gelijk.Tekst()));
         QCOMPARE(gelijk.Tekst().count(u"lijst van 2 woorden, rij voor rij: gelijk"_s), 2);
         QVERIFY(QFile::remove(werk.Map() + u"/Puzzels/Proef1.bmp"_s)); // each of the two is compared
-        QCOMPARE(werk.Voer(u"controleer"_s, bron).Code, 1);
+        const Afloop anders = werk.Voer(u"controleer"_s, bron);
+        QCOMPARE(anders.Code, 1);
+        QCOMPARE(anders.Tekst.count(u"VERSCHIL"_s), 1);
+        QCOMPARE(anders.Tekst.count(u"lijst van 2 woorden, rij voor rij: gelijk"_s), 2);
     }
 
     void aWordSearchIsMade()
