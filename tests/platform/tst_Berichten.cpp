@@ -305,6 +305,22 @@ private slots:
         QCOMPARE(regel, 330);
     }
 
+    void aQuestionForATextBelongsToTheWindowThatIsOpen()
+    {
+        Berichten::Gebruik(nullptr);
+        QWidget venster;
+        venster.show();
+        QApplication::setActiveWindow(nullptr);
+        const QWidget *ouder = nullptr;
+        QTimer::singleShot(0, qApp, [&] {
+            QWidget &box = *QApplication::activeModalWidget();
+            ouder = box.parentWidget();
+            QTest::keyClick(&box, Qt::Key_Escape);
+        });
+        QCOMPARE(InputBox(u"Geef de naam"_s), QString());
+        QCOMPARE(ouder, &venster);
+    }
+
     void theTitleOfAQuestionForATextCanBeSet()
     {
         bank_->Script.Teksten = {u"a"_s, u"b"_s};

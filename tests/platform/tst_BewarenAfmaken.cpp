@@ -1,6 +1,7 @@
 #include "platform/BewaarTest.h"
 
 #include <QCryptographicHash>
+#include <QDateTime>
 #include <QDir>
 
 using namespace Qt::StringLiterals;
@@ -24,6 +25,9 @@ private slots:
     void finishingMayDieOrFailAnywhere_data();
     void finishingMayDieOrFailAnywhere();
     void anyCallOfASetMayFail();
+    void aNoteOfLongNamesIsFinished();
+    void theSpellingOfOneFileIsFinished();
+    void aFolderWhereNothingIsLeftIsNotTouched();
     void aDamagedNoteIsRemoved();
     void aNoteOfNamesThatNobodyHasIsRemoved_data();
     void aNoteOfNamesThatNobodyHasIsRemoved();
@@ -171,6 +175,44 @@ void tst_BewarenAfmaken::anyCallOfASetMayFail()
         MaakAf(bank_->Map());
         QCOMPARE(Namen().size(), 3);
     }
+}
+
+void tst_BewarenAfmaken::aNoteOfLongNamesIsFinished()
+{
+    const auto naam = [](int nummer) { return QString(250, u'x') + QString::number(nummer); };
+    QVERIFY(SterftBij(15, [&] { // the note is whole
+        BestandenSet set;
+        for (int i = 1; i <= 3; ++i)
+            set.Zet(bank_->Map() + u'/' + naam(i), {"nieuw"});
+        set.PlaatsAlles();
+    }));
+    QCOMPARE(Namen().size(), 3 + 5); // with the note, its files and the turn
+    MaakAf(bank_->Map());
+    for (int i = 1; i <= 3; ++i)
+        QCOMPARE(bank_->Inhoud(naam(i)), QByteArray("nieuw"));
+    QCOMPARE(Namen().size(), 3 + 3);
+}
+
+void tst_BewarenAfmaken::theSpellingOfOneFileIsFinished()
+{
+    QVERIFY(SterftBij(10, [&] { // between its two names
+        BestandenSet set;
+        set.Zet(Pad("A.LST"), {"nieuw"}, u"a.lst"_s);
+        set.PlaatsAlles();
+    }));
+    QCOMPARE(bank_->Inhoud(u"A.LST"_s), QByteArray("nieuw"));
+    MaakAf(bank_->Map());
+    QCOMPARE(Namen(), (QStringList{"a.lst", "a1.bmp", "a2.bmp"}));
+    QCOMPARE(bank_->Inhoud(u"a.lst"_s), QByteArray("nieuw"));
+}
+
+// Whoever only looks at a folder makes no file there to say that it is his turn.
+void tst_BewarenAfmaken::aFolderWhereNothingIsLeftIsNotTouched()
+{
+    const QDateTime ervoor = QFileInfo(bank_->Map()).lastModified();
+    QTest::qSleep(30);
+    MaakAf(bank_->Map());
+    QCOMPARE(QFileInfo(bank_->Map()).lastModified(), ervoor);
 }
 
 void tst_BewarenAfmaken::aDamagedNoteIsRemoved()

@@ -225,6 +225,9 @@ void tst_Files::aFileThatIsTooLargeIsNotTakenIn()
     bestand.close();
     QCOMPARE(FoutVan([&] { Files::Lees(bestand.fileName()); }), int{Fout::GeheugenVol});
     QCOMPARE(Files::LeesBegin(bestand.fileName(), 5), QByteArray(5, 0));
+    constexpr qint64 Kop = 56; // the largest picture with the head of its file is
+    QVERIFY(bestand.open(QIODevice::ReadWrite) && bestand.resize(GrootsteBeeld + Kop));
+    QCOMPARE(Files::Lees(bestand.fileName()).size(), GrootsteBeeld + Kop);
 }
 
 void tst_Files::theBeginOfAFileIsRead()

@@ -16,6 +16,8 @@ private slots:
     void aHandlerThatIsGivenUpIsNoFailure();
     void exceptionsOfTheLibraryHaveANumber();
     void aComponentHasFailuresOfItsOwn();
+    void everyNumberHasItsText_data();
+    void everyNumberHasItsText();
     void whatAFailureIsAboutStandsBehindItsText();
 };
 
@@ -83,6 +85,36 @@ void tst_Fout::aComponentHasFailuresOfItsOwn()
     QCOMPARE(Fout(5, u"Onderdeel"_s, u"Its own words."_s).tekst(), u"Its own words."_s);
     QCOMPARE(Fout(Fout::OngeldigArgument).bron(), QString());
     QCOMPARE(Fout(Fout::OngeldigArgument).tekst(), u"Ongeldig argument"_s);
+}
+
+void tst_Fout::everyNumberHasItsText_data()
+{
+    QTest::addColumn<int>("nummer");
+    QTest::addColumn<QString>("tekst");
+    const auto geval = [](int nummer, const QString &tekst) { Geval(QByteArray::number(nummer), nummer, tekst); };
+    geval(5, u"Ongeldig argument"_s);
+    geval(6, u"Overloop: het getal is te groot of te klein"_s);
+    geval(7, u"Onvoldoende geheugen"_s);
+    geval(9, u"Index valt buiten het bereik"_s);
+    geval(13, u"Typen komen niet overeen: hier hoort een getal"_s);
+    geval(51, u"Interne fout"_s);
+    geval(52, u"Ongeldige bestandsnaam"_s);
+    geval(53, u"Bestand niet gevonden"_s);
+    geval(57, u"Fout bij lezen of schrijven"_s);
+    geval(62, u"Het bestand houdt te vroeg op"_s);
+    geval(70, u"Geen toegang"_s);
+    geval(380, u"Ongeldige waarde"_s);
+    geval(457, u"Die sleutel bestaat al"_s);
+    geval(481, u"Ongeldige afbeelding"_s);
+    geval(8, u"Onbekende fout"_s);
+}
+
+void tst_Fout::everyNumberHasItsText()
+{
+    QFETCH(int, nummer);
+    const Fout fout(static_cast<Fout::Nummer>(nummer));
+    QCOMPARE(fout.nummer(), nummer);
+    QTEST(fout.tekst(), "tekst");
 }
 
 void tst_Fout::whatAFailureIsAboutStandsBehindItsText()

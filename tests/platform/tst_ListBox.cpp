@@ -213,6 +213,7 @@ void tst_ListBox::aManyThousandItemsFit()
     for (int i = 0; i < Aantal; ++i)
         teksten += QString::number(i);
     ListBox lijst(nullptr);
+    QVERIFY(lijst.uniformItemSizes()); // else each row is measured
     lijst.resize(200, 150);
     lijst.SetItems(teksten);
     lijst.show();
