@@ -9,9 +9,9 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <memory>
 
 #ifdef Q_OS_LINUX
-#include <cstdint>
 #include <sys/mman.h>
 #include <unistd.h>
 #endif
@@ -59,12 +59,10 @@ QSize PictureBox::MaatInPixels() const
 static void VraagGrotePaginas([[maybe_unused]] QImage &beeld)
 {
 #ifdef Q_OS_LINUX
-    const auto pagina = static_cast<std::uintptr_t>(sysconf(_SC_PAGESIZE));
-    const auto begin = reinterpret_cast<std::uintptr_t>(beeld.bits());
-    const std::uintptr_t eerste = (begin + pagina - 1) / pagina * pagina;
-    const std::uintptr_t einde = begin + static_cast<std::uintptr_t>(beeld.sizeInBytes());
-    if (eerste < einde)
-        madvise(reinterpret_cast<void *>(eerste), einde - eerste, MADV_HUGEPAGE);
+    void *begin = beeld.bits();
+    auto ruimte = static_cast<size_t>(beeld.sizeInBytes());
+    if (std::align(static_cast<size_t>(sysconf(_SC_PAGESIZE)), 1, begin, ruimte)) // from the first whole page on
+        madvise(begin, ruimte, MADV_HUGEPAGE);
 #endif
 }
 
