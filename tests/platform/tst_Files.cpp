@@ -45,6 +45,7 @@ private slots:
 
     void aPathIgnoresCaseAndKeepsTheStoredSpelling();
     void aNameWithItsOwnSpellingIsPreferred();
+    void ofSeveralSpellingsItIsTheFirst();
     void aNewFileTakesTheNameGiven();
     void aNameThatCouldLeaveTheFolderIsRefused_data();
     void aNameThatCouldLeaveTheFolderIsRefused();
@@ -83,6 +84,16 @@ void tst_Files::aPathIgnoresCaseAndKeepsTheStoredSpelling()
     QCOMPARE(Files::Pad(Map(), {u"WOORDlijsten"_s, u"sTEDEN.lst"_s}), Map() + u"/Woordlijsten/Steden.LST"_s);
     QCOMPARE(Files::Dir(Files::Pad(Map(), {u"woordlijsten"_s, u"steden.lst"_s})), u"Steden.LST"_s);
     QCOMPARE(Files::Pad(Map(), {u"woordlijsten"_s, u"Nieuw.lst"_s}), Map() + u"/Woordlijsten/Nieuw.lst"_s);
+}
+
+void tst_Files::ofSeveralSpellingsItIsTheFirst()
+{
+    for (const QString &naam : {u"brief"_s, u"lijst"_s, u"puzzel"_s, u"reis"_s}) { // not by the order of the disk
+        for (const qsizetype groot : {3, 0, 2, 1})
+            bank_->Schrijf(QString(naam).replace(groot, 1, naam[groot].toUpper()), "x");
+        const QString eerste = naam[0].toUpper() + naam.mid(1);
+        QCOMPARE(Files::Pad(bank_->Map(), {naam.toUpper()}), bank_->Map() + u'/' + eerste);
+    }
 }
 
 void tst_Files::aNameWithItsOwnSpellingIsPreferred()
