@@ -15,10 +15,3 @@ target_compile_options(warnings INTERFACE
 if(RASTERATELIER_WERROR)
   target_compile_options(warnings INTERFACE -Werror)
 endif()
-if(RASTERATELIER_ASAN)
-  target_compile_options(warnings INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
-  target_link_options(warnings INTERFACE -fsanitize=address,undefined)
-endif()
-if(RASTERATELIER_FUZZ)
-  target_compile_options(warnings INTERFACE -fsanitize=fuzzer-no-link) # the fuzzer follows which code an input reaches
-endif()

@@ -5,6 +5,7 @@
 #include "wordlib/KladblokForm.h"
 
 #include <QAction>
+#include <QLayout>
 #include <QMenuBar>
 #include <QScrollBar>
 
