@@ -1,7 +1,7 @@
 #include "documents/SaveForm.h"
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
-#include "support/HaperendeSchijf.h"
+#include "support/KijkSchijf.h"
 #include "support/Onbevoegd.h"
 #include "support/Venster.h"
 #include "support/Verloop.h"
@@ -38,21 +38,6 @@ public:
     QList<double> Wachttijden;
     QList<QEventLoop::ProcessEventsFlags> Welke;
     QList<bool> Zandlopers;
-};
-
-/// A disk that looks each time a file is opened.
-class KijkSchijf : public HaperendeSchijf
-{
-public:
-    explicit KijkSchijf(std::function<void()> kijk) : kijk_(std::move(kijk)) {}
-    bool Open(QFile &bestand, QIODevice::OpenMode hoe) override
-    {
-        kijk_();
-        return HaperendeSchijf::Open(bestand, hoe);
-    }
-
-private:
-    std::function<void()> kijk_;
 };
 
 class tst_SaveForm : public QObject

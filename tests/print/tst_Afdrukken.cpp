@@ -2,6 +2,7 @@
 #include "platform/Plaatjes.h"
 #include "print/Afdrukken.h"
 #include "support/Bestuurder.h"
+#include "support/KijkSchijf.h"
 #include "support/Onbevoegd.h"
 #include "support/PdfLezer.h"
 #include "support/ProefWachtrijen.h"
@@ -297,6 +298,29 @@ private slots:
         QVERIFY(!Zandloper());
         QVERIFY(form.Unloaded());
         QVERIFY(QFileInfo::exists(bord.Pad));
+    }
+
+    void theJobRunsInTheOpenWindow()
+    {
+        Pdfbord bord;
+        Afdrukken form;
+        form.Check1->setChecked(true);
+        form.show();
+        KijkKlok klok([&] { klok.ZetNu(QDateTime(QDate(2026, 5, 4), QTime(3, 2, 1))); }); // by the end of the sweep
+        QStringList gezien;
+        const auto kijk = [&] {
+            gezien += QLatin1String(form.isVisible() && !form.Unloaded() ? "open" : "dicht") +
+                      (form.Line1->isHidden() ? QString() : u" lijn"_s) + (Zandloper() ? u" zandloper"_s : QString());
+        };
+        bord.Bank.Script.BijBestand = kijk;
+        {
+            const KijkSchijf schijf(kijk);
+            form.PrintKnop->click();
+        }
+        gezien.removeDuplicates();
+        QCOMPARE(gezien, (QStringList{u"open"_s, u"open zandloper"_s})); // a question is not asked under the hourglass
+        QVERIFY(form.Unloaded() && !Zandloper());
+        QCOMPARE(PdfLezer(bord.Pad).Teksten(1).value(1), u"9000,300 12 vet #5a0000 03:02:01 / 04-05-2026"_s);
     }
 
     void cancelOnlyCloses()
