@@ -156,6 +156,18 @@ private slots:
         QCOMPARE(Gedaan(PrintZweeds, werk), ZweedsBegin() + LijstRij(0, werk.Rijen[0]) + Slot);
     }
 
+    void zweedsListsEveryRowAsItStandsThere()
+    {
+        const Drukwerk werk = Proef({{u"-"_s, u""_s, u"Auto"_s, u"-"_s},
+                                     {u"B-02 / 18-R"_s, u"IJsje één ß"_s, u""_s, u"-"_s},
+                                     {},
+                                     {u"C-02 / 19-H"_s, u"-"_s, u"ijs"_s, u"-"_s}});
+        QStringList hoort = ZweedsBegin();
+        for (int i = 0; i < 4; ++i)
+            hoort += LijstRij(i, werk.Rijen[i]);
+        QCOMPARE(Gedaan(PrintZweeds, werk), hoort + Slot);
+    }
+
     void woordzoekerWithAnEmptyList()
     {
         QCOMPARE(Gedaan(PrintWoordzoeker, Proef()),
@@ -188,6 +200,13 @@ private slots:
     {
         const Drukwerk werk = Proef({{u"-"_s, u"-"_s, u"ijsbeer één ß"_s, u"-"_s}});
         QCOMPARE(Gedaan(PrintWoordzoeker, werk).at(2), Klein(600, 7500, 9, u"IJSBEER ÉÉN ß"_s));
+    }
+
+    void woordzoekerGivesAnEmptyWordItsLine()
+    {
+        const Drukwerk werk = Proef({{u"-"_s, u"-"_s, u""_s, u"-"_s}, {u"-"_s, u"-"_s, u"aap"_s, u"-"_s}});
+        QCOMPARE(Gedaan(PrintWoordzoeker, werk).mid(2),
+                 QStringList({Klein(600, 7500, 9, QString()), Klein(600, 7740, 9, u"AAP"_s)}) + Slot);
     }
 
     void kruiswoordHasTwoPagesAndItsHeadings()
@@ -225,6 +244,8 @@ private slots:
         Geval("half a number", "12a", "7. b", 690);
         Geval("too large", "99999999999", "7. b", 690);
         Geval("above a byte", "256", "256. b", 600);
+        Geval("the largest", "2147483647", "2147483647. b", 600);
+        Geval("one above it", "2147483648", "7. b", 690);
         Geval("blanks round it", " 12 ", "12. b", 600);
         Geval("below nothing", "-3", "-3. b", 690);
         Geval("a half, to the even one", "2.5", "2. b", 690);
@@ -275,6 +296,10 @@ private slots:
         werk.Oplossing = true;
         QCOMPARE(Gedaan(PrintSudoku, werk),
                  hoort + QStringList{Drukrol::Beeld("PicGroot", 600, 8400, 6750, 6750)} + Slot);
+        werk.BoardHeight = 16; // the solution stays in its place, over the end of a board that is too high
+        QCOMPARE(Gedaan(PrintSudoku, werk).mid(1, 2),
+                 (QStringList{Drukrol::Beeld("Pic", 600, 900, 6750, 12000),
+                              Drukrol::Beeld("PicGroot", 600, 8400, 6750, 12000)}));
     }
 
     void theSolutionIsForASudokuAlone()
@@ -307,6 +332,7 @@ private slots:
         QTest::addColumn<QString>("gedrukt");
         Geval("none", "-", "0.");
         Geval("empty", "", "0.");
+        Geval("of a row below ten", "07", "7.");
         Geval("with its direction", "12-H", "12.");
         Geval("above a byte", "300", "300.");
         Geval("large", "123456789012", "123456789012.");
@@ -319,6 +345,12 @@ private slots:
         QFETCH(QString, gedrukt);
         const Drukwerk werk = Proef({{vaknummer, u"a"_s, u"a"_s, u"-"_s}});
         QCOMPARE(Gedaan(PrintFilippine, werk).at(2), Klein(705, 5850, 9, gedrukt));
+    }
+
+    void filippineTakesCapitalsWithinTheCodePage()
+    {
+        const Drukwerk werk = Proef({{u"01"_s, u"ijsbeer één ß"_s, u"a"_s, u"-"_s}});
+        QCOMPARE(Gedaan(PrintFilippine, werk).at(3), Klein(990, 5850, 9, u"IJSBEER ÉÉN ß"_s));
     }
 
     void boardsOfAnySize_data()
