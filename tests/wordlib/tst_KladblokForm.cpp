@@ -115,7 +115,8 @@ private slots:
         KladblokForm form;
         form.EditBold->trigger();
         form.EditItalic->trigger();
-        for (int keer = 0; keer < 2; ++keer) { // also when it is that already
+        for (int ervoor = 0; ervoor < 7; ++ervoor) { // from each of the others, and from itself
+            form.TG[ervoor]->trigger();
             form.TG[index]->trigger();
             QCOMPARE(LetterVan(form), letter + u" vet schuin"_s);
             for (int i = 0; i < 7; ++i)
@@ -137,6 +138,10 @@ private slots:
         form.EditBold->trigger();
         QCOMPARE(LetterVan(form), u"13 schuin"_s);
         QVERIFY(!form.EditBold->isChecked() && form.EditItalic->isChecked());
+        form.EditBold->trigger();
+        QCOMPARE(LetterVan(form), u"13 vet schuin"_s);
+        QVERIFY(form.EditBold->isChecked() && form.EditItalic->isChecked());
+        form.EditBold->trigger();
         form.EditItalic->trigger();
         QCOMPARE(LetterVan(form), u"13"_s);
         QVERIFY(!form.EditItalic->isChecked());
@@ -172,6 +177,9 @@ private slots:
         Geval("capitals", "DIEREN UIT ZEE", QStringList{u"Dieren uit zee.txt"_s});
         Geval("an accent", "école", QStringList{u"École.txt"_s});
         Geval("no answer", "", QStringList());
+        Geval("a blank is an answer", " ", QStringList{u" .txt"_s});
+        Geval("blanks round it", " Mijn dieren ", QStringList{u" mijn dieren .txt"_s});
+        Geval("dots and a quote", "Jan's a.B", QStringList{u"Jan's a.b.txt"_s});
         Geval("a sign that no name may hold", "a/b", QStringList());
         Geval("a folder above", "..", QStringList{u"...txt"_s});
         Geval("outside the code page", "日本", QStringList{u"日本.txt"_s});
@@ -199,6 +207,7 @@ private slots:
         QTest::addColumn<QString>("tekst");
         QTest::addColumn<QByteArray>("inhoud");
         Geval("as typed", "koe\nPaard\nÉén ezel, oud", QByteArray("koe\r\nPaard\r\n\xC9\xE9n ezel, oud\r\n"));
+        Geval("the same line twice", "koe\nos\nkoe", QByteArray("koe\r\nos\r\nkoe\r\n"));
         Geval("blank lines vanish", "\nkoe\n   \n\n  os \n", QByteArray("koe\r\nos\r\n"));
         Geval("a tab is no blank", "\tkoe", QByteArray("\tkoe\r\n"));
         Geval("nothing", "", QByteArray(""));

@@ -146,7 +146,9 @@ private slots:
         form.List1->setToolTip(u"oud"_s);
         for (int ervoor = 1; ervoor <= 6; ++ervoor) { // from each of the others, and from itself
             form.FileCripto[static_cast<size_t>(ervoor)]->trigger();
+            form.List1->SetListIndex(1);
             form.FileCripto[static_cast<size_t>(index)]->trigger();
+            QCOMPARE(form.List1->ListIndex(), -1);
             QTEST(Gezien(form), "gezien");
             QCOMPARE(Aangevinkt(form), QString::number(index));
             QCOMPARE(form.HuidigeBron, index);
@@ -200,6 +202,7 @@ private slots:
         Geval("first letter in upper case, the others as they are", QByteArray("a -/- 123456789012het is IN Orde"),
               u"Het is IN Orde"_s);
         Geval("an accent", QByteArray("a -/- 123456789012\xE9\xE9n"), u"Één"_s);
+        Geval("a letter without a capital", QByteArray("a -/- 123456789012\xDFt"), u"ßt"_s);
         Geval("no letter", QByteArray("a -/- 123456789012 x"), u" x"_s);
         Geval("one letter", QByteArray("a -/- 123456789012x"), u"X"_s);
         Geval("only the lead-in", QByteArray("a -/- 123456789012"), u""_s);
@@ -251,6 +254,14 @@ private slots:
         form.show();
         QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {}, Onder(*form.List1));
         QCOMPARE(Gemeld(bord.Bank.Script), u"Betekenis: "_s);
+        QCOMPARE(form.Titel, QString());
+        // Filled anew the list has no chosen row either.
+        form.List1->SetListIndex(1);
+        form.List1_DblClick();
+        QCOMPARE(form.Titel, u"Één"_s);
+        form.FileCripto[1]->trigger();
+        QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {}, Onder(*form.List1));
+        QCOMPARE(Gemeld(bord.Bank.Script), u"Betekenis: \nBetekenis: Één is geen\nBetekenis: "_s);
         QCOMPARE(form.Titel, QString());
     }
 
