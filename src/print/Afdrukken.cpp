@@ -19,6 +19,7 @@ static constexpr int BladBreedte = 1695, BladHoogte = 2475;
 
 Afdrukken::Afdrukken() : Form(u"Afdrukken"_s, QString(), 6000, 3960, RGB(190, 240, 240))
 {
+    const QStringList printers = Printers::Lijst(); // first: a choice that has gone is forgotten by it
     const QString neerwaarts = u"A\nF\nD\nR\nU\nK\nK\nE\nN"_s;
     Label2 = MaakLabel("Label2", QString());
     Picture1 = Maak<PictureBox>("Picture1", u"Voorbeeld"_s);
@@ -26,7 +27,7 @@ Afdrukken::Afdrukken() : Form(u"Afdrukken"_s, QString(), 6000, 3960, RGB(190, 24
     Label7 = MaakUitleg("Label7", neerwaarts); // the shadow of the next one
     Label6 = MaakUitleg("Label6", neerwaarts);
     Label1 = MaakLabel("Label1", u"Printerkeuze"_s);
-    Combo2 = MaakKeuze("Combo2", u"Printerkeuze"_s, Printers::Lijst(), Printers::Huidig().DeviceName());
+    Combo2 = MaakKeuze("Combo2", u"Printerkeuze"_s, printers, Printers::Huidig().DeviceName());
     Check1 = Maak<QCheckBox>("Check1", u"Datum en tijd afdrukken"_s, nullptr, u"Datum en tijd afdrukken"_s);
     Check2 = Maak<QCheckBox>("Check2", u"Tevens oplossing afdrukken"_s, nullptr, u"Tevens oplossing afdrukken"_s);
     Label4 = MaakUitleg("Label4", QString());

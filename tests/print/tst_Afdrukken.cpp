@@ -180,6 +180,18 @@ private slots:
         QCOMPARE(form.windowTitle(), u"Puzzel afdrukken (Kantoor)"_s);
     }
 
+    void aChosenPrinterThatHasGoneIsNowhere()
+    {
+        Printbord bord;
+        Printers::Lijst();
+        Printers::Kies(0);
+        bord.Rijen.Alle = {u"Zolder"_s};
+        Afdrukken form;
+        QCOMPARE(Items(*form.Combo2), (QStringList{u"Zolder"_s, u"PDF-bestand"_s}));
+        QCOMPARE(form.Combo2->currentText(), u"Zolder"_s);
+        QCOMPARE(form.windowTitle(), u"Puzzel afdrukken (Zolder)"_s);
+    }
+
     void withoutAnyQueueThereIsThePdfFile()
     {
         Bord bord;
