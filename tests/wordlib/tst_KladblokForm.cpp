@@ -289,6 +289,8 @@ private slots:
         QCOMPARE(vraag.Soort, Knoppen::JaNee);
         QCOMPARE(bord.Lijsten(), bestanden);
         QTEST(bord.Bank.Inhoud(u"Woordlijsten/"_s + bestanden[0]), "inhoud");
+        QCOMPARE(form.Text1->Text(), u"koe"_s);
+        QCOMPARE(form.windowTitle(), u"Kladblok"_s);
         QVERIFY(!form.Unloaded());
     }
 

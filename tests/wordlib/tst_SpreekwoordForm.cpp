@@ -247,6 +247,20 @@ private slots:
         QCOMPARE(Gemeld(bord.Bank.Script), u"Betekenis: Één is geen"_s);
     }
 
+    void elsewhereTheKeyboardShowsNoMeaning()
+    {
+        const Naslagbord bord;
+        SpreekwoordForm form;
+        form.show();
+        form.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&form));
+        form.List1->SetListIndex(1);
+        form.OkKnop->setFocus();
+        QTest::keyClick(form.OkKnop, Qt::Key_Return);
+        QCOMPARE(Gemeld(bord.Bank.Script), QString());
+        QVERIFY(form.Unloaded());
+    }
+
     void aDoubleClickOnNothing()
     {
         const Naslagbord bord;
