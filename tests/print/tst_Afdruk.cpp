@@ -27,7 +27,7 @@ static QList<Rij> Rijen(int aantal)
                          .arg(QChar(u'A' + i % 16))
                          .arg(i % 20, 2, 10, QChar(u'0'))
                          .arg(QChar(i % 3 ? u'H' : u'V')),
-                     u"Dier met één poot %1"_s.arg(i), u"IJsvogel%1"_s.arg(i), QString::number(i)};
+                     u"Zo'n \"dier\" <&> één poot %1"_s.arg(i), u"IJsvogel%1"_s.arg(i), QString::number(i)};
     return rijen;
 }
 

@@ -42,6 +42,7 @@ static QString Leesbaar(QString xml)
     return xml.replace("&lt;"_L1, "<"_L1)
         .replace("&gt;"_L1, ">"_L1)
         .replace("&quot;"_L1, "\""_L1)
+        .replace("&apos;"_L1, "'"_L1)
         .replace("&amp;"_L1, "&"_L1);
 }
 
