@@ -412,10 +412,10 @@ private slots:
     void itProposesThePuzzlesName()
     {
         Pdfbord bord;
-        PuzzelNaam = u"Reis"_s;
+        PuzzelNaam = u" Reis  naar zee "_s;
         bord.Druk();
         QCOMPARE(bord.Bank.Script.Voorstellen.size(), 1);
-        QCOMPARE(QFileInfo(bord.Bank.Script.Voorstellen[0]).fileName(), u"Reis.pdf"_s);
+        QCOMPARE(QFileInfo(bord.Bank.Script.Voorstellen[0]).fileName(), u" Reis  naar zee .pdf"_s);
     }
 
     void withoutAFileNothingIsPrinted()
