@@ -1,6 +1,7 @@
 #include "generators/AutoForm.h"
 
 #include "board/Algemeen.h"
+#include "board/LangeIJ.h"
 #include "board/MainForm.h"
 #include "board/Raster.h"
 #include "board/TekstRegels.h"
@@ -181,7 +182,7 @@ void AutoForm::TekenLetters()
         const QChar letter = WoordzoekerRaster[i];
         const int x = LetterX + i % BoardWidth * VakMaat;
         const int y = LetterY + i / BoardWidth * VakMaat;
-        pic.PrintOp(x + LetterVerschuiving(letter), y, letter == Code ? QString(LangeIJ) : QString(letter));
+        pic.PrintOp(x + LetterVerschuiving(letter), y, LetterVan(letter));
     }
 }
 
