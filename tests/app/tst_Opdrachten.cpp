@@ -390,6 +390,32 @@ private slots:
         QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty() && !PuzzelGewijzigd);
     }
 
+    void theSolutionAndTheLevelOutliveTheSudoku()
+    {
+        Programma programma;
+        MainForm &main = programma.Main();
+        const auto nieuw = [&](int optie) {
+            Bestuurder bestuurder(u"NieuwForm"_s, [&](Form &form) {
+                Vind<QRadioButton>(form, u"Option%1"_s.arg(optie))->click();
+                Vind<LineBox>(form, u"Text1"_s)->setText(u"puzzel"_s);
+                Vind<ImageButton>(form, u"OkKnop"_s)->click();
+            });
+            main.FileNew->trigger();
+            QCOMPARE(int{PuzzelType}, optie);
+        };
+        nieuw(Sudoku);
+        main.Option[2]->click();
+        main.StartKnop->click();
+        const auto oplossing = SudokuOplossing;
+        nieuw(Filippine);
+        Bestuurder uitvoer(u"AutoForm"_s, [](Form &form) { Vind<ImageButton>(form, u"ExportKnop"_s)->click(); });
+        main.ToolsAutoWoordzoeker->trigger();
+        QCOMPARE(PuzzelType, Woordzoeker);
+        nieuw(Sudoku);
+        QVERIFY(SudokuOplossing == oplossing);
+        QVERIFY(main.Option[2]->isChecked());
+    }
+
     void aSudokuOfAnotherSizeKeepsTheWindow()
     {
         Programma programma;

@@ -557,6 +557,8 @@ private slots:
         form.picGrid->BoxFull(0, 0, 5000, 5000, qRgb(1, 2, 3)); // what stood there goes
         VulIn(form, u"IJSBEER\r\nWINTER"_s, QString::number(breedte), QString::number(hoogte));
         form.OkKnop_Click();
+        QCOMPARE(Verschil(form.picGrid->Image(), GridBeeld(WoordzoekerRaster, breedte, hoogte, punten)), QString());
+        form.OkKnop_Click(); // the lines of the first have left their colour
         QVERIFY(WoordzoekerRaster.contains(u'?'));
         const QImage grid = form.picGrid->Image();
         QCOMPARE(Verschil(grid, GridBeeld(WoordzoekerRaster, breedte, hoogte, punten)), QString());
@@ -631,9 +633,13 @@ private slots:
         main.PicGroot->BoxFull(0, 0, 1e6, 1e6, qRgb(1, 2, 3));
         QVERIFY(!main.Line1->isHidden() && !main.Shape1->isHidden());
         main.Pic->FontBold = false;
+        main.GeefWoorden({u"blijft"_s});
+        main.CopyLabel->SetCaption(u"BLIJFT"_s);
+        VakZwart[20] = true;
+        const QString letter = Lettersoort(*main.PicGroot);
         PuzzelNaam = u"blijft"_s;
         WoordzoekerRaster = Letters(180);
-        VulIn(blad.Form, u"Ijs\r\nRIJ\r\nwat?\r\nNijmegen"_s, u"12"_s, u"15"_s);
+        VulIn(blad.Form, u"Ijs\r\nRIJ\r\nwat?\r\n kaap \r\nNijmegen"_s, u"12"_s, u"15"_s);
         const Stand ervoor = blad.Scherm.Nu();
         KlikMetDruk(*blad.Form.ExportKnop, [&] { QCOMPARE(blad.Scherm.Veranderd(ervoor), QString()); });
 
@@ -646,11 +652,12 @@ private slots:
         QCOMPARE(Verschil(blad.Scherm.Groot(), Tegels(main.PicVak->Image(), 12, 15)), QString()); // without a letter
         QCOMPARE(main.Pic->FontSize, 12.0);
         QCOMPARE(main.Pic->ForeColor, qRgb(80, 80, 80));
+        QCOMPARE(Lettersoort(*main.PicGroot), letter);
         QStringList rijen;
         for (int i = 0; i < main.ListView1->topLevelItemCount(); ++i)
             rijen += blad.Scherm.Rij(i);
-        QCOMPARE(rijen.join(u' '), u"-|-|IJS|- -|-|RIJ|- -|-|WATIJ|- -|-|NIJMEGEN|-"_s);
-        QCOMPARE(main.Label11->Caption(), u"4 Items"_s);
+        QCOMPARE(rijen.join(u' '), u"-|-|IJS|- -|-|RIJ|- -|-|WATIJ|- -|-| KAAP |- -|-|NIJMEGEN|-"_s);
+        QCOMPARE(main.Label11->Caption(), u"5 Items"_s);
         QVERIFY(main.Line1->isHidden());
         QCOMPARE(blad.Scherm.Veranderd(ervoor),
                  u"BoardHeight BoardWidth Frame8 Label1 Label11 Label12 Line1 ListView1 Main Pic PicGroot PicO PicR "
@@ -767,13 +774,16 @@ private slots:
     {
         QTest::addColumn<quint8>("soort");
         QTest::addColumn<QList<int>>("banden");
-        Geval("Sudoku", Sudoku, Banden); // the kind changes behind the drawing, so that its bands come once more
-        Geval("Filippine", Filippine, QList<int>());
+        QTest::addColumn<QList<int>>("bandenGroot");
+        // The kind changes behind the drawing, so that its bands come once more, on both boards.
+        Geval("Sudoku", Sudoku, Banden, BandenGroot);
+        Geval("Filippine", Filippine, QList<int>(), QList<int>());
     }
     void overAnotherKind()
     {
         QFETCH(quint8, soort);
         QFETCH(QList<int>, banden);
+        QFETCH(QList<int>, bandenGroot);
         Blad blad;
         MainForm &main = blad.Scherm.Venster;
         blad.Scherm.Begin(soort, 9, 9);
@@ -786,19 +796,22 @@ private slots:
         QVERIFY(!main.EditDeleteRaster->isEnabled() && !main.EditDeleteLetters->isEnabled());
         QCOMPARE(PuzzelType, Woordzoeker);
         QCOMPARE(Verschil(blad.Scherm.Pic(), BordBeeld(Letters(180), 12, 15, banden)), QString());
+        QCOMPARE(Verschil(blad.Scherm.Groot(), Tegels(main.PicVak->Image(), 12, 15, bandenGroot)), QString());
     }
 
     void aWordThatWrapsIsTwoRows()
     {
         Blad blad;
-        const QString lang(20, u'M'); // wider than the box, and not as wide as two of it
-        VulIn(blad.Form, u"AAP\r\n"_s + lang + u"\r\nNOOT"_s, u"12"_s, u"15"_s);
+        const QString lang(20, u'M');  // wider than the box, and not as wide as two of it
+        const QString klein(30, u'l'); // it fits as it stands, and would not in capitals
+        VulIn(blad.Form, u"AAP\r\n"_s + lang + u"\r\n"_s + klein + u"\r\nNOOT"_s, u"12"_s, u"15"_s);
         blad.Form.ExportKnop->click();
         const QList<Rij> rijen = blad.Scherm.Venster.Rijen();
-        QCOMPARE(rijen.size(), 4);
+        QCOMPARE(rijen.size(), 5);
         QCOMPARE(rijen.first().Oplossing + u' ' + rijen.last().Oplossing, u"AAP NOOT"_s);
         QCOMPARE(rijen[1].Oplossing + rijen[2].Oplossing, lang);
-        QCOMPARE(blad.Scherm.Venster.Label11->Caption(), u"4 Items"_s);
+        QCOMPARE(rijen[3].Oplossing, klein.toUpper());
+        QCOMPARE(blad.Scherm.Venster.Label11->Caption(), u"5 Items"_s);
     }
 
     void cancelChangesNothing()

@@ -148,17 +148,18 @@ private slots:
                 gegeven += cel;
 
         spel.Kies(40);
+        spel.Venster.Line1->show();
         spel.Venster.Pic->FontBold = false;
+        spel.Venster.Option[niveau]->click();
         const Stand ervoor = spel.Nu();
         Toeval::Zaad(11);
-        spel.Venster.Option[niveau]->click();
         StartKnop_Click();
         QVERIFY(SudokuOplossing == oplossing);
         QCOMPARE(Gegeven(spel.Pic()), gegeven);
         QCOMPARE(Verschil(spel.Pic(), PuzzelBeeld(gegeven)), QString());
         QCOMPARE(Verschil(spel.Groot(), OplossingBeeld(spel.Venster.PicVak->Image())), QString());
         QCOMPARE(Lettersoort(*spel.Venster.Pic), u"Arial 12 1 ff1e1e1e"_s);
-        QCOMPARE(spel.Veranderd(ervoor), u"Pic PicGroot"_s); // neither PuzzelGewijzigd nor the frame on the cell
+        QCOMPARE(spel.Veranderd(ervoor), u"Pic PicGroot"_s); // neither PuzzelGewijzigd nor a mark on the board
         QCOMPARE(spel.Bank.TestKlok.Gewacht(), 0.2);
         QVERIFY(spel.Bank.Script.Gezien.isEmpty());
     }
@@ -239,6 +240,7 @@ private slots:
                 SuMe_Click(cijfer);
                 const QRgb kleur = cijfer == Juist(cel) ? Groen : Rood;
                 QCOMPARE(Verschil(spel.Pic(), MetKeuze(pic, cel, cijfer, kleur)), QString());
+                QCOMPARE(spel.Venster.Pic->ForeColor, kleur);
                 QCOMPARE(Verschil(spel.Groot(), OplossingBeeld(spel.Venster.PicVak->Image())), QString());
                 QVERIFY(spel.Venster.Shape1->isHidden());
                 const QString veranderd = spel.Veranderd(ervoor); // of PicGroot its letter, the first time
@@ -256,6 +258,8 @@ private slots:
             const QImage pic = spel.Pic();
             spel.Kies(cel, 11);
             QCOMPARE(Verschil(spel.Pic(), MetKeuze(pic, cel, Juist(cel), Groen)), QString());
+            QCOMPARE(Lettersoort(*spel.Venster.Pic), u"Arial 12 1 ff009600"_s);
+            QCOMPARE(Lettersoort(*spel.Venster.PicGroot), u"Arial Narrow 48 1 ff000000"_s);
             QVERIFY(spel.Venster.Shape1->isHidden());
         }
     }

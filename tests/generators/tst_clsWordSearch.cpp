@@ -452,6 +452,14 @@ private slots:
             QCOMPARE(FoutVan([&] { zoeker.Make(); }), int{Fout::Overloop});
         }
         QCOMPARE(WoordzoekerRaster, raster);
+        Notities canvas; // the grid is still there
+        zoeker.Canvas = &canvas;
+        zoeker.SetGridWidth(2);
+        zoeker.SetGridHeight(2);
+        zoeker.Draw();
+        QCOMPARE(canvas.Regels.filter(u"letter"_s).size(), 4);
+        zoeker.Save(Pad());
+        QVERIFY(bank_->Inhoud(u"zoeker.txt"_s).endsWith("\r\n" + Files::NaarBytes(raster) + "\r\n"));
         Zoeker grootste(16383, 2, {});
         QCOMPARE(grootste.Make().size(), 32766);
     }
@@ -480,6 +488,7 @@ private slots:
         Zoeker zoeker(3, 2, {u"ab"_s, u""_s, u"é€"_s});
         zoeker.SrchName = u"Mijn \"zoeker\", één"_s;
         const QString raster = zoeker.MakeMetZaad(3);
+        WoordzoekerRaster = u"van een ander"_s;
         bank_->Schrijf(u"zoeker.txt"_s,
                        "een oud en veel langer bestand, waar niets van overblijft: " + QByteArray(200, 'x'));
         zoeker.Save(Pad());
@@ -508,6 +517,7 @@ private slots:
         Zoeker bewaard(4, 3, {u"ab"_s, u""_s, u"é€"_s});
         bewaard.SrchName = u"Naam"_s;
         bewaard.MakeMetZaad(8);
+        WoordzoekerRaster = u"vorige"_s;
         PixelBox box, andere;
         bewaard.Canvas = &box;
         bewaard.Draw();
@@ -521,7 +531,7 @@ private slots:
         QCOMPARE(geladen.GridHeight(), qint16{3});
         QCOMPARE(geladen.Words.JoinWords(), u"er al\r\nab\r\n\r\né€"_s);
         QCOMPARE(andere.Image(), box.Image());
-        QCOMPARE(WoordzoekerRaster, bewaard.MakeMetZaad(8)); // loading leaves it alone
+        QCOMPARE(WoordzoekerRaster, u"vorige"_s); // loading leaves it alone
 
         geladen.Words.Remove(1);
         geladen.Save(bank_->Map() + u"/weer.txt"_s);
@@ -552,12 +562,26 @@ private slots:
         for (qsizetype heel = 0; heel < regels.size(); ++heel) {
             bank_->Schrijf(u"zoeker.txt"_s, heel == 0 ? QByteArray() : regels.first(heel).join("\r\n") + "\r\n");
             Zoeker zoeker(5, 5, {u"er al"_s});
+            zoeker.SrchName = u"vorige"_s;
             Notities canvas;
             zoeker.Canvas = &canvas;
             QCOMPARE(FoutVan([&] { zoeker.Load(Pad()); }), 62);
+            QCOMPARE(zoeker.SrchName, heel < 1 ? u"vorige"_s : u"Naam"_s); // what was read stays
+            QCOMPARE(zoeker.GridWidth(), static_cast<qint16>(heel < 2 ? 5 : 3));
+            QCOMPARE(zoeker.GridHeight(), static_cast<qint16>(heel < 3 ? 5 : 2));
             QCOMPARE(zoeker.Words.Count(), 1 + std::max(0, static_cast<int>(heel) - 4));
             QCOMPARE(canvas.Regels, QStringList());
         }
+    }
+
+    void theGridOfAFileIsReadBeforeItsCellsAreCounted()
+    {
+        const QByteArray inhoud = "N\r\n256\r\n128\r\n0\r\nAB\r\n";
+        bank_->Schrijf(u"zoeker.txt"_s, inhoud);
+        Zoeker zoeker(5, 5, {});
+        QCOMPARE(FoutVan([&] { zoeker.Load(Pad()); }), int{Fout::Overloop});
+        zoeker.Save(bank_->Map() + u"/weer.txt"_s);
+        QCOMPARE(bank_->Inhoud(u"weer.txt"_s), inhoud);
     }
 
     void oddFilesAreReadOrRefused_data()
@@ -640,11 +664,24 @@ private slots:
         zoeker.FontColor = RGB(0, 0, 200);
         box.BoxFull(0, 0, 149, 109, RGB(9, 9, 9)); // it goes
         const QString raster = zoeker.MakeMetZaad(6);
+        WoordzoekerRaster = u"van een ander"_s;
         zoeker.Draw();
         QCOMPARE(box.Image(), Getekend(raster, 5, {150, 110}, RGB(0, 0, 200)));
         zoeker.SetGridWidth(9); // the cells go on in the new width
         zoeker.Draw();
         QCOMPARE(box.Image(), Getekend(raster + QString(16, u' '), 9, {150, 110}, RGB(0, 0, 200)));
+    }
+
+    void allCellsThatWereMadeAreDrawnInASmallerSizeToo()
+    {
+        Notities canvas;
+        Zoeker zoeker(5, 4, {});
+        zoeker.Canvas = &canvas;
+        zoeker.MakeMetZaad(6);
+        zoeker.SetGridHeight(2);
+        zoeker.Draw();
+        QCOMPARE(canvas.Regels.filter(u"letter"_s).size(), 20);
+        QCOMPARE(canvas.Regels.filter(u"lijn"_s).size(), 4 + 7);
     }
 
     void withoutCellsThereAreOnlyLines()

@@ -30,6 +30,8 @@ inline QVariantList Inhoud(const QWidget &control)
         return {beeld->Picture()};
     if (const auto *combo = qobject_cast<const QComboBox *>(&control))
         return {combo->currentIndex()};
+    if (const auto *knop = qobject_cast<const QAbstractButton *>(&control))
+        return {knop->isChecked()};
     if (const auto *schuif = qobject_cast<const QScrollBar *>(&control))
         return {schuif->value()};
     QVariantList inhoud;
