@@ -1,6 +1,7 @@
 #include "generators/AutoForm.h"
 #include "platform/Toeval.h"
 #include "support/Venster.h"
+#include "support/Verloop.h"
 #include "support/Verwacht.h"
 
 #include <QElapsedTimer>
@@ -468,6 +469,25 @@ private slots:
         QVERIFY(StaatIn(WoordzoekerRaster, 10, u"AAP"_s) && StaatIn(WoordzoekerRaster, 10, u"NOOT"_s));
         QVERIFY(WoordzoekerRaster.size() == 100 && ZijnHoofdletters(WoordzoekerRaster));
         QCOMPARE(form.picGrid->Image(), GridBeeld(WoordzoekerRaster, 10, 10, 12));
+    }
+
+    void itIsToldWhileTheGridIsMade()
+    {
+        Blad blad;
+        AutoForm &form = blad.Form;
+        VulIn(form, u"X\r\nIJS\r\nY"_s, u"9"_s, u"9"_s);
+        form.OkKnop_Click();
+        const QImage beeld = form.picGrid->Image();
+        const QString grid = WoordzoekerRaster;
+        Verloop verloop([&] {
+            const bool isOud = form.picGrid->Image() == beeld && WoordzoekerRaster == grid;
+            return form.Text1->Text().replace("\r\n"_L1, " "_L1) + (isOud ? u" oud"_s : u" nieuw"_s);
+        });
+        form.OkKnop_Click();
+        QCOMPARE(verloop.Stappen.join(u'\n'), u"0.2 s | X IJS Y oud\nRasteratelier: "_s + PastNiet(u"X"_s) +
+                                                  u" | X ?S Y oud\nRasteratelier: "_s + PastNiet(u"Y"_s) +
+                                                  u" | X ?S Y oud"_s);
+        QVERIFY(form.picGrid->Image() != beeld && WoordzoekerRaster != grid);
     }
 
     void whatIsNoWordIsToldToo_data()
