@@ -229,9 +229,15 @@ private slots:
     void theSampleWords()
     {
         Blad blad;
+        MaakActief(blad.Form);
         blad.Form.Text1->SetText(u"WEG"_s);
         blad.Form.Text2->setText(u"blijft"_s);
+        blad.Form.Combo2->setFocus();
+        blad.Form.OkKnop_Click();
+        const QImage beeld = blad.Form.picGrid->Image();
         blad.Form.EditVoorbeeld->trigger();
+        QCOMPARE(blad.Form.picGrid->Image(), beeld);
+        QVERIFY(blad.Form.Combo2->hasFocus()); // neither moves it
         QCOMPARE(blad.Form.Text1->Text(),
                  u"Amsterdam\r\nRotterdam\r\nAssen\r\nArnhem\r\nDoetinchem\r\nIJsselstein\r\nMaastricht\r\n"
                  "Leeuwarden\r\nAlmelo\r\nGroningen\r\nUtrecht\r\nEindhoven\r\nOmmen\r\nUlft\r\nNijmegen\r\nUrk"_s);
@@ -656,6 +662,7 @@ private slots:
         main.GeefWoorden({u"blijft"_s});
         main.CopyLabel->SetCaption(u"BLIJFT"_s);
         VakZwart[20] = true;
+        PijlSoort = 3;
         const QString letter = Lettersoort(*main.PicGroot);
         PuzzelNaam = u"blijft"_s;
         WoordzoekerRaster = Letters(180);
@@ -685,6 +692,14 @@ private slots:
         QCOMPARE(WoordzoekerRaster, Letters(180));
     }
 
+    void theExportLeavesTheFontOfTheBoard()
+    {
+        Blad blad;
+        blad.Scherm.Venster.Pic->FontName = u"Courier New"_s;
+        blad.Form.ExportKnop->click();
+        QCOMPARE(Lettersoort(*blad.Scherm.Venster.Pic), u"Courier New 12 1 ff505050"_s);
+    }
+
     void theExportLeavesWhetherThePuzzleIsChanged()
     {
         for (const bool gewijzigd : {false, true}) {
@@ -709,6 +724,26 @@ private slots:
         QCOMPARE(Verschil(blad.Scherm.Pic(), BordBeeld(WoordzoekerRaster, 10, 11)), QString());
         QCOMPARE(blad.Scherm.Rij(0), u"-|-||-"_s); // its list is empty: one line, an empty one
         QCOMPARE(blad.Scherm.Venster.Label11->Caption(), u"1 Items"_s);
+    }
+
+    void theSizesAndTheListOfTheExportCountNotThoseOfTheDrawing()
+    {
+        Blad blad;
+        VulIn(blad.Form, u"IJSBEER\r\nWINTER"_s, u"12"_s, u"15"_s);
+        blad.Form.OkKnop->click();
+        VulIn(blad.Form, u"AAP"_s, u"10"_s, u"11"_s);
+        blad.Form.ExportKnop->click();
+        QCOMPARE(WoordzoekerRaster.size(), 180);
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(10, 11));
+        QCOMPARE(Verschil(blad.Scherm.Pic(), BordBeeld(WoordzoekerRaster.left(110), 10, 11)), QString());
+        QCOMPARE(blad.Scherm.Rij(0) + blad.Scherm.Rij(1), u"-|-|AAP|-"_s);
+
+        AutoForm tweede; // over the word search that is on the board now
+        VulIn(tweede, u"NOOT\r\nMIES"_s, u"16"_s, u"9"_s);
+        tweede.ExportKnop->click();
+        QCOMPARE(Verschil(blad.Scherm.Pic(), BordBeeld(WoordzoekerRaster.left(144), 16, 9)), QString());
+        QCOMPARE(blad.Scherm.Rij(0) + blad.Scherm.Rij(1) + blad.Scherm.Rij(2), u"-|-|NOOT|--|-|MIES|-"_s);
+        QCOMPARE(blad.Scherm.Venster.Label11->Caption(), u"2 Items"_s);
     }
 
     void aLineEndAtTheEndIsARow()

@@ -164,6 +164,16 @@ private slots:
         QVERIFY(spel.Bank.Script.Gezien.isEmpty());
     }
 
+    void theShuffleLeavesTheFonts()
+    {
+        Spel spel;
+        for (PictureBox *box : {spel.Venster.Pic, spel.Venster.PicGroot})
+            box->ZetLetter({.Naam = u"Courier New"_s, .Vet = false});
+        spel.Schud(1);
+        QCOMPARE(Lettersoort(*spel.Venster.Pic), u"Courier New 12 1 ff1e1e1e"_s);
+        QCOMPARE(Lettersoort(*spel.Venster.PicGroot), u"Courier New 48 1 ff505050"_s);
+    }
+
     void thePressComesFirst()
     {
         Spel spel;
@@ -212,6 +222,22 @@ private slots:
         for (const int aantal : perCel)
             QVERIFY2(qAbs(double(aantal) / Keren - kans) < 0.2, qPrintable(QString::number(aantal)));
         QVERIFY(aantallen.size() > 5); // the number of them differs from puzzle to puzzle
+    }
+
+    void theDrawsAreTakenInSinglePrecision()
+    {
+        Spel spel;
+        spel.Venster.Option[0]->click();
+        Toeval::Zaad(113'826);
+        StartKnop_Click();
+        QVERIFY(!Gegeven(spel.Pic()).contains(16));
+        Toeval::Zaad(113'826);
+        MaakSudoku();
+        for (int cel = 0; cel < 16; ++cel)
+            Toeval::Rnd();
+        const double trekking = Toeval::Rnd();
+        QCOMPARE(int(trekking * 10 + 1), 7); // so little below 8 that single precision gives 8
+        QCOMPARE(trekking, 11'744'051 / 16'777'216.0);
     }
 
     void aSecondShuffleWipesTheFirst()
