@@ -5,6 +5,7 @@
 #include "support/Venster.h"
 
 #include <QFileInfo>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -16,11 +17,17 @@ private slots:
     {
         Bord bord;
         const QFileInfo programma(QCoreApplication::applicationFilePath());
-        const QString datum = QLocale::system().toString(programma.lastModified(), QLocale::ShortFormat);
+        const QDateTime gewijzigd(QDate(2021, 2, 3), QTime(4, 5));
+        const QString datum = QLocale::system().toString(gewijzigd, QLocale::ShortFormat);
         QVERIFY(programma.size() > 0 && !datum.isEmpty());
         QFile bestand(programma.filePath());
         QVERIFY(bestand.open(QIODevice::ReadOnly));
+        const auto terug = qScopeGuard([&bestand, gemaakt = programma.lastModified()] {
+            bestand.setFileTime(gemaakt, QFileDevice::FileModificationTime);
+        });
         QVERIFY(bestand.setFileTime(QDateTime(QDate(2020, 1, 1), QTime(12, 0)), QFileDevice::FileAccessTime));
+        QVERIFY(bestand.setFileTime(gewijzigd,
+                                    QFileDevice::FileModificationTime)); // of the times that a file has, this one
         const AboutForm form;
         QVERIFY2(QRegularExpression(u"^\\d+\\.\\d+\\.\\d+$"_s).match(Versie).hasMatch(), qPrintable(Versie));
         QCOMPARE(form.Label1->Caption(),

@@ -178,6 +178,16 @@ private slots:
             QCOMPARE(GebruikersNaam, u"tessel"_s);
     }
 
+    void eachMailAsksForTheUserAnew()
+    {
+        Programma programma;
+        for (const char *naam : {"tessel", "jan"}) {
+            qputenv("USER", naam);
+            programma.Main().HelpMail->trigger();
+            QCOMPARE(GebruikersNaam, QLatin1String(naam));
+        }
+    }
+
     void aSystemWithoutMailIsTold()
     {
         Programma programma;
@@ -225,6 +235,21 @@ private slots:
         programma.Main().Timer1->setInterval(3600000);
         QCoreApplication::processEvents();
         QCOMPARE(programma.Main().KlokLabel->Caption(), u"00:00"_s);
+    }
+
+    void theClockGoesOnWhileADialogIsOpen()
+    {
+        Programma programma;
+        MainForm &main = programma.Main();
+        main.Timer1->setInterval(0);
+        QString getikt;
+        Bestuurder bestuurder(u"AboutForm"_s, [&](Form &) {
+            main.KlokLabel->SetCaption(u"stil"_s);
+            QCoreApplication::processEvents();
+            getikt = main.KlokLabel->Caption();
+        });
+        main.AboutKnop->click();
+        QVERIFY2(getikt.endsWith(u" / 9:05:03"_s), qPrintable(getikt));
     }
 
     void theAboutButtonOpensItsWindow()

@@ -1,3 +1,4 @@
+#include "app/InstellingenBestand.h"
 #include "app/Opstarten.h"
 #include "app/Start.h"
 #include "board/Algemeen.h"
@@ -54,14 +55,44 @@ private slots:
         QCOMPARE(start.Bank.Inhoud(u"RasterAtelier.INI"_s), bewaard);
     }
 
+    void whatIsReadIsTakenAsItStands_data()
+    {
+        QTest::addColumn<QList<int>>("kleuren");
+        QTest::addColumn<int>("keuze");
+        Geval("outside the range of the dialog", QList<int>{-5, 300, 32767}, 9);
+        Geval("the least", QList<int>{-32768, -32768, -1}, 0);
+        Geval("the most", QList<int>{32767, 256, 256}, 255);
+    }
     void whatIsReadIsTakenAsItStands()
     {
+        QFETCH(QList<int>, kleuren);
+        QFETCH(int, keuze);
         Start start;
-        start.Bank.Schrijf(u"Rasteratelier.ini"_s, Begin + "-5,300,32767\r\n9\r\n\"\"\r\n");
+        QByteArrayList delen;
+        for (const int deel : kleuren)
+            delen += QByteArray::number(deel);
+        const QByteArray bewaard = Begin + delen.join(',') + "\r\n" + QByteArray::number(keuze) + "\r\n\"\"\r\n";
+        start.Bank.Schrijf(u"RasterAtelier.INI"_s, bewaard);
         LaadMain();
-        QCOMPARE((std::array{OrgineelRood, OrgineelGroen, OrgineelBlauw}), (std::array<qint16, 3>{-5, 300, 32767}));
-        QCOMPARE(KleurVakjes, quint8(9));
+        QCOMPARE((QList<int>{OrgineelRood, OrgineelGroen, OrgineelBlauw}), kleuren);
+        QCOMPARE(int{KleurVakjes}, keuze);
         QCOMPARE(PaginaTekst, QString());
+        QVERIFY(QFile::resize(start.Bank.Map() + u"/RasterAtelier.INI"_s, 0));
+        BewaarInstellingen(); // as it stands, in the place where it was found
+        QCOMPARE(start.Bank.Inhoud(u"RasterAtelier.INI"_s), bewaard);
+        QCOMPARE(start.Bank.Bestanden({}), QStringList{u"RasterAtelier.INI"_s});
+    }
+
+    void aMissingFileIsWrittenWithWhatTheProgramHolds()
+    {
+        Start start;
+        BeginWaarden();
+        OrgineelBlauw = 7;
+        KleurVakjes = 3;
+        PaginaTekst = u"mijn pagina"_s;
+        LaadInstellingen();
+        QCOMPARE(start.Instellingen(), Begin + "230,250,7\r\n3\r\n\"mijn pagina\"\r\n");
+        QCOMPARE(KleurVakjes, quint8(3));
     }
 
     void aDamagedFileEndsTheStartAndStaysAsItIs_data()

@@ -95,7 +95,9 @@ private slots:
         Schil schil;
         OpenDocument(u"https://woordenboek.example/puzzelwoordenboek/"_s);
         OpenDocument(u"/een map/Data/Woordlijst Importeren.pdf"_s);
-        QCOMPARE(schil.Geopend.size(), 2);
+        OpenDocument(u"/map #1/100%20?/Html/Zo'n \"dag\" & nacht.html"_s); // what an address would take for its own
+        QCOMPARE(schil.Geopend.size(), 3);
+        QCOMPARE(schil.Geopend[2].toLocalFile(), u"/map #1/100%20?/Html/Zo'n \"dag\" & nacht.html"_s);
         QCOMPARE(schil.Geopend[0], QUrl(u"https://woordenboek.example/puzzelwoordenboek/"_s));
         QCOMPARE(schil.Geopend[1].toLocalFile(), u"/een map/Data/Woordlijst Importeren.pdf"_s);
     }

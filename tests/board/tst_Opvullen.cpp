@@ -1,6 +1,6 @@
 #include "board/Opvullen.h"
 #include "platform/Toeval.h"
-#include "support/Bord.h"
+#include "support/Verwacht.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -208,15 +208,28 @@ private slots:
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
+    void theFillEndsWhenAnotherBoardAppears_data()
+    {
+        QTest::addColumn<int>("cel"); // after which it appears
+        Geval("in a column", 4);
+        Geval("at the end of a column", 9);
+        Geval("after the last cell", 81);
+    }
     void theFillEndsWhenAnotherBoardAppears()
     {
+        QFETCH(int, cel);
         Bord bord;
+        bord.Begin(Zweeds, 12, 14);
+        const QImage ander = bord.Pic();
         bord.Begin(Woordzoeker, 9, 9);
-        QTimer::singleShot(0, &bord.Venster, [&] { bord.Begin(Zweeds, 9, 9); });
+        int gevuld = 0;
+        KijkKlok klok([&] {
+            if (++gevuld == cel)
+                bord.Begin(Zweeds, 12, 14);
+        });
         VulLegeVakjes();
-        QCOMPARE(InktVlak(bord.Pic(), Binnen(0, 0)), QRect());
-        QCOMPARE(InktVlak(bord.Pic(), Binnen(1, 0)), QRect());
-        QCOMPARE(InktVlak(bord.Pic(), Binnen(8, 8)), QRect());
+        QCOMPARE(gevuld, cel);
+        QCOMPARE(Verschil(bord.Pic(), ander), QString());
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 };

@@ -113,6 +113,19 @@ private slots:
         QVERIFY(bord.Venster.Shape1->isVisible()); // dismissing the pop-up leaves the frame on the cell
     }
 
+    // A new board has other numbers; until the pointer moves, cell and number are those of the old one.
+    void aClickTakesTheCellThatTheLastMoveFound()
+    {
+        Bord bord;
+        bord.Wijs(3, 4);
+        QCOMPARE(CurCell, 68);
+        bord.Begin(Zweeds, 9, 9);
+        bord.Venster.Pic_MouseDown(Qt::RightButton, QPoint());
+        QCOMPARE(CurCell, 68);
+        QVERIFY(VakZwart[68]);
+        QCOMPARE(InktVlak(bord.Pic(), Binnen(3, 4)), QRect(3 * 30 + 2, 4 * 30 + 2, 27, 27));
+    }
+
     void aPressActsWhereThePointerIs()
     {
         Bord bord;

@@ -24,18 +24,22 @@ class tst_Zwart : public QObject
 private slots:
     void aRightClickBlacksOutAndClears_data()
     {
+        QTest::addColumn<quint8>("soort");
         QTest::addColumn<int>("kolom");
         QTest::addColumn<int>("rij");
-        Geval("in the middle", 3, 4);
-        Geval("first", 0, 0);
-        Geval("last", 15, 18);
+        Geval("in the middle", Zweeds, 3, 4);
+        Geval("first", Woordzoeker, 0, 0);
+        Geval("last", Kruiswoord, 15, 18);
+        Geval("of a Filippine", Filippine, 15, 0);
     }
     void aRightClickBlacksOutAndClears()
     {
+        QFETCH(quint8, soort);
         QFETCH(int, kolom);
         QFETCH(int, rij);
         const QRgb vol = qRgb(1, 2, 3);
         Bord bord;
+        bord.Begin(soort, 16, 19);
         bord.Venster.Pic->BoxFull(0, 0, 1e5, 1e5, vol); // so that it is seen what is wiped
         bord.Venster.PicGroot->BoxFull(0, 0, 1e6, 1e6, vol);
         bord.Klik(Qt::MiddleButton, kolom, rij);
@@ -75,6 +79,19 @@ private slots:
         QVERIFY(!HeeftInkt(bord.Pic(), Binnen(0, 2)));
         bord.Klik(Qt::RightButton, 0, 2);
         QVERIFY(HeeftInkt(bord.Pic(), Binnen(0, 2)));
+    }
+
+    // As in a puzzle that was opened: its black cells are pixels alone.
+    void aCellThatIsBlackByItsPixelsAloneIsBlackedOutFirst()
+    {
+        Bord bord;
+        bord.Klik(Qt::RightButton, 4, 7);
+        VakZwart.fill(false);
+        const Stand ervoor = bord.Nu();
+        bord.Klik(Qt::RightButton, 4, 7);
+        QCOMPARE(bord.Veranderd(ervoor), u"VakZwart"_s);
+        bord.Klik(Qt::RightButton, 4, 7);
+        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(4, 7)));
     }
 
     void nothingElseTouchesTheArray_data()
@@ -130,7 +147,9 @@ private slots:
         QFETCH(QString, veranderd);
         Bord bord;
         bord.Begin(soort, 9, 9);
+        bord.InBewerking(); // the frame and the line stay where they are
         bord.Klik(Qt::MiddleButton, 4, 4);
+        QVERIFY(!bord.Venster.Shape1->isHidden() && !bord.Venster.Line1->isHidden());
         const Stand ervoor = bord.Nu();
         bord.Klik(Qt::RightButton, 4, 4);
         QCOMPARE(bord.Veranderd(ervoor), veranderd);
