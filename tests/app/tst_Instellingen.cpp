@@ -40,7 +40,7 @@ private slots:
 
     void valuesAreNotRangeChecked()
     {
-        const Instellingen gelezen = LeesInstellingen("x\r\ny\r\n-1,300,32767\r\n255\r\nzonder aanhalingstekens\r\n");
+        const Instellingen gelezen = LeesInstellingen("x\r\n\r\n-1,300,32767\r\n255\r\nzonder aanhalingstekens\r\n");
         QCOMPARE(gelezen.Rood, qint16(-1));
         QCOMPARE(gelezen.Groen, qint16(300));
         QCOMPARE(gelezen.Blauw, qint16(32767));

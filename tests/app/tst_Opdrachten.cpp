@@ -481,6 +481,94 @@ private slots:
         }
     }
 
+    void theFillEndsWithItsPuzzle_data()
+    {
+        QTest::addColumn<QString>("item");
+        Geval("new", "FileNew");
+        Geval("opened", "FileOpen");
+        Geval("exported", "ToolsAutoWoordzoeker");
+    }
+    void theFillEndsWithItsPuzzle()
+    {
+        QFETCH(QString, item);
+        Programma programma;
+        programma.Scherm.Bank.Schrijf(u"Puzzels/ander.lst"_s, "x\r\n2\r\n12\r\n15\r\n-\r\n");
+        programma.Scherm.Begin(Woordzoeker, 9, 9);
+        int wachten = 0;
+        QImage ander;
+        KijkKlok klok([&] {
+            if (++wachten != 30)
+                return;
+            Bestuurder begin(u"NieuwForm"_s, [](Form &form) {
+                Vind<LineBox>(form, u"Text1"_s)->setText(u"ander"_s);
+                Vind<ImageButton>(form, u"OkKnop"_s)->click();
+            });
+            Bestuurder open(u"OpenFile"_s, [](Form &form) {
+                Vind<ListBox>(form, u"List1"_s)->SetListIndex(0);
+                Vind<ImageButton>(form, u"OkKnop"_s)->click();
+            });
+            Bestuurder maak(u"AutoForm"_s, [](Form &form) { Vind<ImageButton>(form, u"ExportKnop"_s)->click(); });
+            Vind<QAction>(programma.Main(), item)->trigger();
+            ander = programma.Scherm.Pic();
+        });
+        programma.Scherm.Bank.Script.Antwoorden = {Antwoord::Ja};
+        emit programma.Main().VakMenuGekozen(5);
+        QVERIFY(programma.Main().windowTitle() != u"Raster Atelier (16x19)"_s);
+        QVERIFY(programma.Scherm.Bank.Script.Gezien.size() == 1 && wachten > 30);
+        QCOMPARE(Verschil(programma.Scherm.Pic(), ander), QString());
+        QVERIFY(!Zandloper());
+    }
+
+    void leavingInTheMidstOfTheFill_data()
+    {
+        QTest::addColumn<Antwoord>("antwoord");
+        QTest::addColumn<int>("gevuld");
+        Geval("no", Antwoord::Nee, 81);
+        Geval("yes", Antwoord::Ja, 30);
+    }
+    void leavingInTheMidstOfTheFill()
+    {
+        QFETCH(Antwoord, antwoord);
+        QFETCH(int, gevuld);
+        Programma programma;
+        programma.Scherm.Begin(Woordzoeker, 9, 9);
+        PuzzelGewijzigd = true;
+        int wachten = 0;
+        KijkKlok klok([&] {
+            if (++wachten == 30)
+                programma.Main().close();
+        });
+        programma.Scherm.Bank.Script.Antwoorden = {Antwoord::Ja, antwoord};
+        emit programma.Main().VakMenuGekozen(5);
+        QCOMPARE(programma.Main().isVisible(), antwoord == Antwoord::Nee);
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 2);
+        QCOMPARE(wachten, gevuld);
+        QVERIFY(!Zandloper());
+    }
+
+    // A second press is a click of its own, which asks by itself.
+    void exitPressedTwiceAsksTwiceUnlessItIsYes_data()
+    {
+        QTest::addColumn<QList<Antwoord>>("antwoorden");
+        Geval("no", QList<Antwoord>{Antwoord::Nee, Antwoord::Nee});
+        Geval("yes", QList<Antwoord>{Antwoord::Ja});
+        Geval("no and yes", QList<Antwoord>{Antwoord::Nee, Antwoord::Ja});
+    }
+    void exitPressedTwiceAsksTwiceUnlessItIsYes()
+    {
+        QFETCH(QList<Antwoord>, antwoorden);
+        Programma programma;
+        MainForm &main = programma.Main();
+        const QPoint plaats = main.ExitKnop->pos();
+        PuzzelGewijzigd = true;
+        programma.Scherm.Bank.Script.Antwoorden = antwoorden;
+        QMetaObject::invokeMethod(main.ExitKnop, &ImageButton::click, Qt::QueuedConnection);
+        main.ExitKnop->click();
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), antwoorden.size());
+        QCOMPARE(main.isVisible(), antwoorden.last() == Antwoord::Nee);
+        QCOMPARE(main.ExitKnop->pos(), plaats);
+    }
+
     void theExitButtonIsPressedAndRestsBeforeTheEnd()
     {
         Programma programma;

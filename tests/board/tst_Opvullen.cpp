@@ -149,6 +149,9 @@ private slots:
         Geval("behind it", QPoint(24, 15), qRgb(0, 0, 0), false);
         Geval("the line above", QPoint(15, 14), qRgb(0, 0, 0), false);
         Geval("the line below", QPoint(15, 16), qRgb(0, 0, 0), false);
+        Geval("at the top", QPoint(15, 1), qRgb(0, 0, 0), false);
+        Geval("where letters begin", QPoint(15, 9), qRgb(0, 0, 0), false);
+        Geval("at the foot", QPoint(15, 29), qRgb(0, 0, 0), false);
     }
     void onlyTheMiddleLineDecides()
     {

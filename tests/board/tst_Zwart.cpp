@@ -181,6 +181,9 @@ private slots:
         bord.Begin(Zweeds, maat.width(), maat.height());
         bord.Klik(Qt::MiddleButton, cel.x(), cel.y());
         QCOMPARE(CurCell, nummer);
+        bord.Klik(Qt::LeftButton, cel.x(), cel.y()); // which needs no place in it
+        QVERIFY(bord.Venster.SoortPlaatsing->isVisible());
+        bord.Venster.SoortPlaatsing->close();
         const Stand ervoor = bord.Nu();
         emit bord.Venster.Pic->MouseDown(Qt::RightButton, QPoint());
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
