@@ -188,6 +188,18 @@ private slots:
         }
     }
 
+    void aDocumentThatNothingOpensIsPassedOver()
+    {
+        Programma programma;
+        for (const char *schema : {"file", "https"})
+            QDesktopServices::unsetUrlHandler(QLatin1String(schema)); // this platform itself opens nothing
+        for (QAction *item : {programma.Main().HelpHelp, programma.Main().HelpWoordlijstAanmaken,
+                              programma.Main().HelpMeerSoftware, programma.Main().BiebOnlineWoordenboek})
+            item->trigger();
+        programma.Main().HelpKnop->click();
+        QVERIFY(programma.Shell.Geopend.isEmpty() && programma.Scherm.Bank.Script.Gezien.isEmpty());
+    }
+
     void aSystemWithoutMailIsTold()
     {
         Programma programma;
@@ -290,6 +302,9 @@ private slots:
                                               "beschikbaar in diverse tekenprogramma's. | vol"_s});
         QCOMPARE(verloop.Gezien[0].Soort, Knoppen::Ok);
         QCOMPARE(verloop.Gezien[0].Plaatje, Icoon::Geen);
+        programma.Scherm.Begin(Sudoku, 9, 9); // a smaller board takes its place
+        main.ToolsKlemboard->trigger();
+        QCOMPARE(QGuiApplication::clipboard()->image().convertToFormat(QImage::Format_RGB32), Raster(9, 9, Banden));
     }
 
     void aFilippineCanBeCleared()

@@ -142,6 +142,9 @@ private slots:
         Geval("nearly white", QPoint(15, 15), qRgb(254, 255, 255), true);
         Geval("nearly white green", QPoint(15, 15), qRgb(255, 254, 255), true);
         Geval("nearly white blue", QPoint(15, 15), qRgb(255, 255, 254), true);
+        Geval("as a black cell", QPoint(15, 15), qRgb(60, 60, 60), true);
+        Geval("as a letter", QPoint(15, 15), qRgb(80, 80, 80), true);
+        Geval("as a grid line", QPoint(15, 15), qRgb(150, 150, 150), true);
         Geval("white", QPoint(15, 15), qRgb(255, 255, 255), false);
         Geval("first of the line", QPoint(6, 15), qRgb(0, 0, 0), true);
         Geval("last of the line", QPoint(23, 15), qRgb(0, 0, 0), true);

@@ -260,7 +260,9 @@ private slots:
         bord.Venster.Pic_MouseDown(Qt::RightButton, QPoint(120, 80));
         bord.Venster.Pic_MouseDown(Qt::MiddleButton, QPoint(120, 80));
         QVERIFY(editor.isEmpty());
+        bord.Venster.Shape1->BorderColor = Qt::black;
         bord.Venster.Pic_MouseDown(Qt::LeftButton, QPoint(120, 80));
+        QCOMPARE(bord.Venster.Shape1->BorderColor, qRgb(0, 200, 0));
         QCOMPARE(bord.Venster.SoortPlaatsing->isVisible(), menu == "SoortPlaatsing"_L1);
         QCOMPARE(bord.Venster.SudokuMenu->isVisible(), menu == "SudokuMenu"_L1);
         QCOMPARE(editor.size(), menu.isEmpty() ? 1 : 0); // a Filippine has none: its editor opens
