@@ -320,6 +320,7 @@ private slots:
     void okWithoutAChangeLeavesAllAsItIs()
     {
         Ingesteld bord;
+        PaginaTekst = u"  een,  \"twee\" "_s;
         const Stand ervoor = bord.Nu();
         ConfigForm form;
         form.OkKnop->click();

@@ -161,6 +161,16 @@ private slots:
         QVERIFY(start.Bank.Script.Gezien.isEmpty());
     }
 
+    void noFolderIsMade()
+    {
+        Start start;
+        QVERIFY(QDir(start.Bank.Map()).rmdir(u"Puzzels"_s));
+        LaadMain();
+        const QDir::Filters alles = QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot;
+        QCOMPARE(QDir(start.Bank.Map()).entryList(alles), QStringList{u"Rasteratelier.ini"_s});
+        QVERIFY(start.Bank.Script.Gezien.isEmpty());
+    }
+
     void aFolderInThePlaceOfTheSettingsIsPassedOver()
     {
         Start start;
