@@ -376,6 +376,7 @@ private slots:
         Bord bord;
         KleurVakjes = 9;
         ConfigForm form;
+        form.show();
         QCOMPARE(form.Label7->Caption(), QString());
         form.ResetKnop->click();
         QCOMPARE(form.Label7->Caption(), u" 1"_s);

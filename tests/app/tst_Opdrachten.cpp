@@ -171,6 +171,7 @@ private slots:
         Vind<QAction>(programma.Main(), item)->trigger();
         QCOMPARE(programma.Shell.Geopend.size(), 1);
         QVERIFY(programma.Scherm.Bank.Script.Gezien.isEmpty());
+        QCOMPARE(programma.Scherm.Bank.TestKlok.Gewacht(), 0.0); // a menu item presses no button
         const QString geopend = programma.Shell.Geopend[0].toString(QUrl::FullyDecoded);
         QVERIFY2(QRegularExpression(QRegularExpression::anchoredPattern(doel)).match(geopend).hasMatch(),
                  qPrintable(geopend));

@@ -81,6 +81,7 @@ private slots:
         QTest::addColumn<QString>("letters");
         Geval("largest", QSize(16, 19), "QWERTYUIOPASDFGHJKLZXCVBNM");
         Geval("smallest", QSize(9, 9), "AZ");
+        Geval("of a typed size", QSize(17, 21), "AZ");
         Geval("wide letters", QSize(9, 10), "W");
         Geval("narrow letters", QSize(10, 9), "I");
     }

@@ -75,6 +75,17 @@ private slots:
         QCOMPARE(CurCell, 10);
     }
 
+    // A size that was typed goes beyond the lists, and its columns beyond the alphabet.
+    void aTypedSizeIsPointedAtUpToItsLastCell()
+    {
+        Bord bord;
+        bord.Begin(Zweeds, 30, 25);
+        bord.Wijs(26, 19);
+        QCOMPARE(bord.Venster.Label6->Caption(), u"[-20 / 597"_s);
+        bord.Wijs(29, 24);
+        QCOMPARE(bord.Venster.Label6->Caption(), u"^-25 / 750"_s);
+    }
+
     void theCoordinatesByKind_data()
     {
         QTest::addColumn<quint8>("soort");
