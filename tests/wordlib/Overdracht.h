@@ -3,14 +3,16 @@
 #include "support/Verloop.h"
 #include "support/Woordbord.h"
 
-/// Gives a window these words as what it found, and hands them over to the main window by its button.
+/// Hands the words that a window found over to the main window by its button; what counts is what it has when that has
+/// been pressed.
 /// @return the course of it, as Verloop notes it
 template <class Vorm> QStringList GeefOver(Vorm &form, Woordbord &bord, const QStringList &woorden)
 {
-    form.List1->SetItems(woorden);
+    form.List1->SetItems({QStringLiteral("eerder"), QStringLiteral("nog eerder")});
     const QPoint plaats = form.ExportKnop->pos();
     Verloop verloop([&] { return form.ExportKnop->pos() == plaats ? QString() : QStringLiteral("gedrukt"); });
     verloop.Volg(*bord.Venster.List1);
+    verloop.Bijwerk = [&] { form.List1->SetItems(woorden); };
     form.ExportKnop->click();
     return verloop.Stappen;
 }

@@ -201,6 +201,7 @@ private slots:
         Geval("without the blanks at its ends", "  op Een ", "kat|op Een|vos");
         Geval("with a comma", "mus,mees", "kat|mus,mees|vos");
         Geval("once more", "kat", "kat|kat|vos");
+        Geval("once more in other letters", "Kat", "kat|Kat|vos");
     }
     void aWordIsAdded()
     {
@@ -218,6 +219,30 @@ private slots:
         QCOMPARE(form.Text1->text(), QString());
         QCOMPARE(form.focusWidget(), form.Text1);
         QCOMPARE(form.Label2->Caption(), u"3"_s);
+    }
+
+    void theWordIsTheOneThatStandsThereBehindThePress()
+    {
+        Woordbord bord;
+        AddForm form;
+        Verloop verloop;
+        verloop.Bijwerk = [&] { form.Text1->setText(u"kat"_s); };
+        form.AddKnop->click();
+        QCOMPARE(Woorden(form), u"kat"_s);
+    }
+
+    void aWordThatComesLeavesTheChoice()
+    {
+        Woordbord bord;
+        AddForm form;
+        form.List1->SetItems({u"kat"_s, u"vos"_s});
+        form.List1->SetListIndex(1);
+        for (const auto &[woord, gekozen] : {std::pair(u"aal"_s, 2), std::pair(u"zwaan"_s, 2)}) {
+            form.Text1->setText(woord);
+            form.AddKnop->click();
+            QCOMPARE(form.List1->ListIndex(), gekozen);
+            QCOMPARE(form.List1->Text(), u"vos"_s);
+        }
     }
 
     void enterAddsWhatWasTyped()
@@ -294,6 +319,19 @@ private slots:
         QCOMPARE(form.List1->ListIndex(), ja ? -1 : rij);
     }
 
+    void theWordThatGoesIsTheOneChosenBehindThePress()
+    {
+        Woordbord bord;
+        AddForm form;
+        form.List1->SetItems({u"aal"_s, u"kat"_s, u"vos"_s});
+        form.List1->SetListIndex(0);
+        Verloop verloop;
+        verloop.Antwoorden = {Antwoord::Ja};
+        verloop.Bijwerk = [&] { form.List1->SetListIndex(2); };
+        form.DelKnop->click();
+        QCOMPARE(Woorden(form), u"aal|kat"_s);
+    }
+
     void nothingIsDeletedWithoutAChoice()
     {
         for (const QStringList &woorden : {QStringList{}, QStringList{u"kat"_s}}) {
@@ -326,6 +364,22 @@ private slots:
         QCOMPARE(form.Label2->Caption(), u"2"_s); // until the next change
         form.AddKnop->click();
         QCOMPARE(form.Label2->Caption(), u"1"_s);
+    }
+
+    void theChosenSubjectCanBeReadAgain()
+    {
+        Woordbord bord;
+        bord.Lijst(u"Dieren"_s, "KAT\r\nVOS\r\n");
+        bord.Lijst(u"Vogels"_s, "MUS\r\n");
+        AddForm form;
+        form.show();
+        Kies(form, u"Dieren"_s);
+        form.NieuwKnop->click();
+        QCOMPARE(form.List2->Text(), u"Dieren"_s);
+        QTest::mouseClick(form.List2->viewport(), Qt::LeftButton, {},
+                          form.List2->visualRect(form.List2->model()->index(0, 0)).center());
+        QCOMPARE(Woorden(form), u"kat|vos"_s);
+        QCOMPARE(form.Text2->text(), u"Dieren"_s);
     }
 
     void cancelAsksNothing()
@@ -403,6 +457,39 @@ private slots:
         QVERIFY(!form.Unloaded());
         QVERIFY(!form.Text1->isHidden() && form.Bar->isHidden());
         QCOMPARE(bord.Lijsten(), QStringList());
+    }
+
+    void theNameIsTheOneThatStandsThereBehindTheWaits()
+    {
+        Woordbord bord;
+        AddForm form;
+        Verloop verloop;
+        verloop.Bijwerk = [&] {
+            if (verloop.Stappen.size() <= 2)
+                form.Text2->setText(u"Dieren%1"_s.arg(verloop.Stappen.size()));
+        };
+        form.SaveKnop->click();
+        QCOMPARE(bord.Lijsten(), QStringList{u"Dieren2.txt"_s});
+        QVERIFY(form.Unloaded());
+    }
+
+    void closingTheWindowBeforeAllIsWrittenSavesNothing()
+    {
+        for (const qsizetype wacht : {1, 2}) {
+            Woordbord bord;
+            AddForm form;
+            form.Text2->setText(u"Dieren"_s);
+            form.show();
+            Verloop verloop;
+            verloop.Bijwerk = [&] {
+                if (verloop.Stappen.size() == wacht)
+                    form.close();
+            };
+            form.SaveKnop->click();
+            QCOMPARE(verloop.Stappen.size(), wacht);
+            QCOMPARE(bord.Lijsten(), QStringList());
+            QVERIFY(form.Unloaded());
+        }
     }
 
     void theStepsOfSaving()

@@ -116,6 +116,22 @@ private slots:
         QVERIFY(!form.Unloaded());
     }
 
+    void theKeyIsTheOneThatStandsThereWhenTheFileIsRead()
+    {
+        Woordbord bord("tak\r\nkat\r\nrat\r\n");
+        FormMain form;
+        form.Text1->setText(u"k"_s);
+        Verloop verloop;
+        verloop.Bijwerk = [&] { form.Text1->setText(verloop.Stappen.size() == 1 ? u"kat"_s : u"tar"_s); };
+        form.OkKnop->click();
+        QCOMPARE(Woorden(form), u"Rat"_s);
+        QVERIFY(verloop.Gezien.isEmpty()); // its length counts when the button has been pressed
+        verloop.Bijwerk = [&] { form.Text1->setText(u"k"_s); };
+        form.OkKnop->click();
+        QCOMPARE(verloop.Gezien.size(), 1);
+        QCOMPARE(Woorden(form), u"Rat"_s);
+    }
+
     void whatIsFound_data()
     {
         QTest::addColumn<QString>("trefwoord");

@@ -188,6 +188,7 @@ private slots:
         rij("down and up", {4, 2, 4}, u"AA--"_s + Herhaal(u"(-)"_s, 15), 4);
         // Nothing changes but the first letter, which keeps its value.
         Geval("down to 0", QList<int>{3, 0}, u"(A)AA"_s + Herhaal(u"(-)"_s, 16), u".xx................"_s);
+        Geval("from 19 down to 0", QList<int>{19, 0}, u"(A)"_s + QString(18, u'A'), u'.' + QString(18, u'x'));
         rij("down to 0 and up", {3, 0, 2}, u"AA"_s + Herhaal(u"(-)"_s, 17), 2);
     }
     void theLengthOfTheWord()
@@ -262,6 +263,20 @@ private slots:
         QCOMPARE(form.Label8->Caption(), u"1 Woorden gevonden"_s);
         QVERIFY(!Zandloper());
         QVERIFY(!form.Unloaded());
+    }
+
+    void thePatternIsTheOneBehindThePress()
+    {
+        Woordbord bord("kat\r\nvos\r\n");
+        MissingForm form;
+        Verloop verloop;
+        verloop.Bijwerk = [&] { ZetPatroon(form, Waarden(u"K--"_s)); };
+        form.OkKnop->click();
+        QCOMPARE(form.List1->Items().join(u' '), u"KAT"_s);
+        verloop.Bijwerk = [&] { form.HScroll1->setValue(0); };
+        form.OkKnop->click();
+        QCOMPARE(form.List1->Items().join(u' '), u"KAT"_s);
+        QCOMPARE(verloop.Stappen.size(), 3); // the last press was all
     }
 
     void withoutALengthNothingHappens()

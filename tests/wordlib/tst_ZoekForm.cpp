@@ -349,6 +349,7 @@ private slots:
         QCOMPARE(form.List1->Items().join(u' '), u"aie eau"_s);
         PosX = 9; // fails behind the last word
         form.Knop->click();
+        QCOMPARE(form.Label5->Caption(), u"Gevonden woorden (2)"_s); // that of the search before
         QTEST(form.List1->Items().join(u' '), "gevonden");
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Fout 9 bij 'Starten': Index valt buiten het bereik."_s);

@@ -76,6 +76,15 @@ private slots:
         QCOMPARE(venster.Form.Label4->Caption(), u"Trefwoord (19)"_s);
     }
 
+    void whatIsTypedInTheMiddleStaysThere()
+    {
+        Zoekvenster venster("aal");
+        venster.Form.Text1->setText(u"kat"_s);
+        QTest::keyClick(venster.Form.Text1, Qt::Key_Home);
+        QTest::keyClicks(venster.Form.Text1, u"ra"_s);
+        QCOMPARE(venster.Form.Text1->text(), u"rakat"_s);
+    }
+
     void aKeyOfLessThanThreeLetters_data()
     {
         QTest::addColumn<int>("wijze");
@@ -164,6 +173,7 @@ private slots:
             u"ab?"_s, u"ab abc ba bad cab dab"_s);
         rij("letters: the first word of each letter isn't tried after a jump", 0, {"yes", "zee", "zeeg"}, u"geez"_s,
             u"zeeg"_s);
+        rij("letters: a word that is too long doesn't jump", 0, {"katten", "lap"}, u"pal"_s, u"lap"_s);
         rij("letters: the last group is gone through to its end", 0, {"yen", "zaak", "zeeg", "zegt"}, u"gezet"_s,
             u"zeeg zegt"_s);
         rij("begin", 1, dieren, u"kat"_s, u"kat kat kater katten"_s);
@@ -354,6 +364,19 @@ private slots:
         verloop.Bijwerk = [&] { venster.Form.Option1[4]->setChecked(true); }; // none of the first four
         venster.Form.Knop->click();
         QCOMPARE(venster.Gezien(), u"(0)"_s);
+    }
+
+    void theKeyIsTheOneThatStandsThereBehindTheWait()
+    {
+        for (int wijze = 0; wijze <= 3; ++wijze) {
+            Zoekvenster venster("kat\r\nok\r\n");
+            venster.Kies(wijze, u"kat"_s);
+            Verloop verloop;
+            verloop.Bijwerk = [&] { venster.Form.Text1->setText(u"ok"_s); }; // too short before the wait only
+            venster.Form.Knop->click();
+            QCOMPARE(venster.Gezien(), u"ok (1)"_s);
+            QVERIFY(verloop.Gezien.isEmpty());
+        }
     }
 
     void enterInTheBoxStarts()
