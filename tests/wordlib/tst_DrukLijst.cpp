@@ -167,6 +167,25 @@ private slots:
         QCOMPARE(nieuw.List1->ListCount(), 1000);
     }
 
+    void itGoesToThePrinterThatWasChosen()
+    {
+        Zoekdruk bord;
+        bord.Rijen.Alle = {u"Een rij die er niet is"_s};
+        QCOMPARE(Printers::Lijst().size(), 2);
+        Printers::Kies(0);
+        ZoekForm form;
+        form.List1->SetItems(Woorden_(2));
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        form.FilePrint->trigger();
+        QVERIFY(bord.Bank.Script.Voorstellen.isEmpty()); // no file is asked for
+        QCOMPARE(PosX, 6300);
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        bord.Bank.Script.Bestanden = {bord.Pad};
+        Printers::Kies(1);
+        form.FilePrint->trigger();
+        QCOMPARE(bord.Bank.Script.Voorstellen.size(), 1);
+    }
+
     void whateverThePrinterMakesOfIt_data()
     {
         QTest::addColumn<QString>("hoe");
