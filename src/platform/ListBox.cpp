@@ -2,10 +2,44 @@
 
 #include "platform/Alfabet.h"
 
+#include <QHelpEvent>
+#include <QTextDocument>
+#include <QToolTip>
+
 #include <algorithm>
+
+namespace {
+
+/// Rows that are as wide as their list: what is cut off of a longer one is told under the pointer.
+class RijTekst : public BeginVanTekst
+{
+public:
+    using BeginVanTekst::BeginVanTekst;
+
+    // The list takes one row for all of them, and would be as wide as that one happens to be.
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &rij) const override
+    {
+        return QSize(0, BeginVanTekst::sizeHint(option, rij).height());
+    }
+
+    bool helpEvent(QHelpEvent *event, QAbstractItemView *lijst, const QStyleOptionViewItem &option,
+                   const QModelIndex &rij) override
+    {
+        if (event->type() != QEvent::ToolTip)
+            return BeginVanTekst::helpEvent(event, lijst, option, rij);
+        const QString tekst = displayText(rij.data(), option.locale);
+        const bool past = !rij.isValid() || BeginVanTekst::sizeHint(option, rij).width() <= option.rect.width();
+        QToolTip::showText(event->globalPos(), past ? QString() : Qt::convertFromPlainText(tekst), lijst->viewport(),
+                           option.rect);
+        return true;
+    }
+};
+
+} // namespace
 
 ListBox::ListBox(QWidget *ouder) : RowChoice(ouder)
 {
+    setItemDelegate(new RijTekst(this));
     setModel(&model_);
     setUniformItemSizes(true);
 }

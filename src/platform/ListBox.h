@@ -5,7 +5,8 @@
 #include <QListView>
 #include <QStringListModel>
 
-/// A list of texts of which one can be selected.
+/// A list of texts of which one can be selected. A text that is wider than the list ends in dots, and is told under the
+/// pointer.
 class ListBox : public RowChoice<QListView>
 {
     Q_OBJECT

@@ -2,13 +2,19 @@
 #include "support/Testbank.h"
 
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QSignalSpy>
+#include <QToolTip>
 
 #include <limits>
 #include <random>
 
 using namespace Qt::StringLiterals;
+
+/// What the platform of the tests says when a window is shown in front, as a tip is.
+static constexpr char GeenVoorgrond[] = "This plugin does not support raise()";
 
 class tst_ListBox : public QObject
 {
@@ -36,6 +42,9 @@ private slots:
     void aManyThousandItemsFit();
     void aManyThousandItemsAreAddedOneByOne();
     void aTextOfMegabytesIsShownByItsBeginning();
+    void rowsAreAsWideAsTheList();
+    void whatIsCutOffIsToldUnderThePointer_data();
+    void whatIsCutOffIsToldUnderThePointer();
 };
 
 void tst_ListBox::anEmptyListHasNothingSelected()
@@ -238,13 +247,58 @@ void tst_ListBox::aManyThousandItemsAreAddedOneByOne()
     QCOMPARE(lijst.List(Aantal + 2), QString::number(Aantal - 1));
 }
 
+/// What is told when the pointer rests on a place of a list.
+static QString Verteld(const ListBox &lijst, QPoint plaats)
+{
+    QToolTip::hideText();
+    [] { QTRY_VERIFY(!QToolTip::isVisible()); }();
+    QHelpEvent rust(QEvent::ToolTip, plaats, lijst.viewport()->mapToGlobal(plaats));
+    QCoreApplication::sendEvent(lijst.viewport(), &rust);
+    return QToolTip::text();
+}
+
 void tst_ListBox::aTextOfMegabytesIsShownByItsBeginning()
 {
-    ListBox lijst(nullptr);
+    DrieWoorden lijst;
     const QString lang(5000000, u'm');
     lijst.SetItems({lang});
     QCOMPARE(lijst.List(0), lang);
-    QVERIFY(lijst.sizeHintForIndex(lijst.model()->index(0, 0)).width() < 10000);
+    QTest::ignoreMessage(QtWarningMsg, GeenVoorgrond);
+    QCOMPARE(Verteld(lijst, Rij(lijst, 0)).count(u'm'), 260);
+}
+
+void tst_ListBox::rowsAreAsWideAsTheList()
+{
+    DrieWoorden lijst;
+    const QString lang(100, u'm');
+    for (const QStringList &teksten : {QStringList{u"kort"_s, lang}, QStringList{lang, u"kort"_s}}) {
+        lijst.SetItems(teksten);
+        QCoreApplication::processEvents();
+        for (const int rij : {0, 1})
+            QCOMPARE(lijst.visualRect(lijst.model()->index(rij, 0)).width(), lijst.viewport()->width());
+        QVERIFY(!lijst.horizontalScrollBar()->isVisible());
+    }
+}
+
+void tst_ListBox::whatIsCutOffIsToldUnderThePointer_data()
+{
+    QTest::addColumn<QString>("tekst");
+    QTest::addColumn<QString>("verteld");
+    Geval("all is seen", "kat", "");
+    Geval("a long word", QString(100, u'm'), u"<p>"_s + QString(100, u'm') + u"</p>"_s);
+    Geval("as it stands", u"<b>"_s + QString(60, u'm'), u"<p>&lt;b&gt;"_s + QString(60, u'm') + u"</p>"_s);
+}
+void tst_ListBox::whatIsCutOffIsToldUnderThePointer()
+{
+    QFETCH(QString, tekst);
+    QFETCH(QString, verteld);
+    DrieWoorden lijst;
+    lijst.SetItems({u"aap"_s, tekst, u"mies"_s});
+    if (!verteld.isEmpty())
+        QTest::ignoreMessage(QtWarningMsg, GeenVoorgrond);
+    QCOMPARE(Verteld(lijst, Rij(lijst, 1)), verteld);
+    QCOMPARE(Verteld(lijst, Rij(lijst, 0)), QString());
+    QCOMPARE(Verteld(lijst, lijst.viewport()->rect().bottomLeft()), QString()); // below the rows
 }
 
 RASTER_TEST(tst_ListBox)
