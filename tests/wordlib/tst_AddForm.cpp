@@ -202,6 +202,7 @@ private slots:
         Geval("with a comma", "mus,mees", "kat|mus,mees|vos");
         Geval("once more", "kat", "kat|kat|vos");
         Geval("once more in other letters", "Kat", "kat|Kat|vos");
+        Geval("a long one", QString(3000, u'm'), u"kat|"_s + QString(3000, u'm') + u"|vos"_s);
     }
     void aWordIsAdded()
     {
