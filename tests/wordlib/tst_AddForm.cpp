@@ -199,6 +199,7 @@ private slots:
         QTest::addColumn<QString>("woorden");
         Geval("as it was typed", "Mus", "kat|Mus|vos");
         Geval("without the blanks at its ends", "  op Een ", "kat|op Een|vos");
+        Geval("tabs and hard spaces are no blanks", u" \tmus\u00A0 "_s, u"\tmus\u00A0|kat|vos"_s);
         Geval("with a comma", "mus,mees", "kat|mus,mees|vos");
         Geval("once more", "kat", "kat|kat|vos");
         Geval("once more in other letters", "Kat", "kat|Kat|vos");
@@ -333,6 +334,17 @@ private slots:
         QCOMPARE(Woorden(form), u"aal|kat"_s);
     }
 
+    void ofDoubleWordsTheChosenOneGoes()
+    {
+        Woordbord bord;
+        AddForm form;
+        form.List1->SetItems({u"kat"_s, u"Kat"_s, u"KAT"_s});
+        form.List1->SetListIndex(1);
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        form.DelKnop->click();
+        QCOMPARE(Woorden(form), u"kat|KAT"_s);
+    }
+
     void nothingIsDeletedWithoutAChoice()
     {
         for (const QStringList &woorden : {QStringList{}, QStringList{u"kat"_s}}) {
@@ -460,17 +472,21 @@ private slots:
         QCOMPARE(bord.Lijsten(), QStringList());
     }
 
-    void theNameIsTheOneThatStandsThereBehindTheWaits()
+    void theNameAndTheWordsAreThoseBehindTheWaits()
     {
         Woordbord bord;
         AddForm form;
         Verloop verloop;
         verloop.Bijwerk = [&] {
-            if (verloop.Stappen.size() <= 2)
-                form.Text2->setText(u"Dieren%1"_s.arg(verloop.Stappen.size()));
+            const auto wacht = verloop.Stappen.size();
+            if (wacht > 2)
+                return;
+            form.Text2->setText(u"Dieren%1\u00A0"_s.arg(wacht)); // a hard space is no blank
+            form.List1->AddItem(u"woord%1"_s.arg(wacht));
         };
         form.SaveKnop->click();
-        QCOMPARE(bord.Lijsten(), QStringList{u"Dieren2.txt"_s});
+        QCOMPARE(bord.Lijsten(), QStringList{u"Dieren2\u00A0.txt"_s});
+        QCOMPARE(bord.Lijst(u"Dieren2\u00A0"_s), QByteArray("WOORD1\r\nWOORD2\r\n"));
         QVERIFY(form.Unloaded());
     }
 

@@ -366,6 +366,16 @@ private slots:
         QCOMPARE(venster.Gezien(), u"(0)"_s);
     }
 
+    void vowelsOnceBegunAreLookedFor()
+    {
+        Zoekvenster venster("kat\r\naai\r\n");
+        venster.Kies(4, u"kat"_s);
+        Verloop verloop;
+        verloop.Bijwerk = [&] { venster.Form.Option1[1]->setChecked(true); };
+        venster.Form.Knop->click();
+        QCOMPARE(venster.Gezien(), u"aai (1)"_s);
+    }
+
     void theKeyIsTheOneThatStandsThereBehindTheWait()
     {
         for (int wijze = 0; wijze <= 3; ++wijze) {
