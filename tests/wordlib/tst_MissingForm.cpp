@@ -392,6 +392,8 @@ private slots:
         Geval("up to 20 characters, in their order",
               QStringList{u"vos"_s, QString(20, u'c'), QString(21, u'd'), u"één"_s},
               u"VOS "_s + QString(20, u'C') + u" ÉÉN"_s, u"3 Woorden gevonden"_s);
+        Geval("IJ is two characters", QStringList{u"IJ"_s + QString(18, u'A'), u"IJ"_s + QString(19, u'B')},
+              u"IJ"_s + QString(18, u'A'), u"1 Woorden gevonden"_s);
         Geval("none", QStringList{}, QString(), u"0 Woorden gevonden"_s);
     }
     void whatIsHandedOver()

@@ -187,7 +187,8 @@ private slots:
         rij("part: a wildcard is a question mark", 3, {"wat?", "wat"}, u"t?"_s, u"wat?"_s);
         rij("vowels", 4, {"kat", "oei", "koeien", "aaiui", "zeeen", "ijs"}, QString(),
             u"aaiui aaiui aaiui koeien koeien oei zeeen"_s);
-        rij("vowels in the longest words", 4, {"aai4567890123456789", "bai45678901234567890", "baaai"}, QString(),
+        rij("vowels in the longest words", 4,
+            {"aai4567890123456789", "bai45678901234567890", "aaiij678901234567890", "baaai"}, QString(),
             u"aai4567890123456789 baaai baaai"_s);
         rij("an accented letter is no vowel", 4,
             {"ze\xEB"
@@ -408,6 +409,8 @@ private slots:
         Geval("in capitals", QStringList{u"kat"_s, u"zeeën"_s, u"ijs"_s}, u"IJS KAT ZEEËN"_s, u"3 Woorden gevonden"_s);
         Geval("up to 19 characters", QStringList{QString(18, u'a'), QString(19, u'b'), QString(20, u'c'), u"d"_s},
               QString(18, u'A') + u' ' + QString(19, u'B') + u" D"_s, u"3 Woorden gevonden"_s);
+        Geval("ij is two characters", QStringList{u"ij"_s + QString(17, u'a'), u"ij"_s + QString(18, u'b')},
+              u"IJ"_s + QString(17, u'A'), u"1 Woorden gevonden"_s);
         Geval("none", QStringList{}, QString(), u"0 Woorden gevonden"_s);
         Geval("none that is short enough", QStringList{QString(20, u'c')}, QString(), u"0 Woorden gevonden"_s);
     }
