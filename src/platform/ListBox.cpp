@@ -11,7 +11,7 @@
 namespace {
 
 /// Rows that are as wide as their list: what is cut off of a longer one is told under the pointer.
-class RijTekst : public BeginVanTekst
+class PassendeRij : public BeginVanTekst
 {
 public:
     using BeginVanTekst::BeginVanTekst;
@@ -39,7 +39,7 @@ public:
 
 ListBox::ListBox(QWidget *ouder) : RowChoice(ouder)
 {
-    setItemDelegate(new RijTekst(this));
+    setItemDelegate(new PassendeRij(this));
     setModel(&model_);
     setUniformItemSizes(true);
 }
