@@ -51,6 +51,7 @@ private slots:
         Geval("empty", "", "");
         Geval("keeps its length", u"ßTEST"_s, u"ßtest"_s);
         Geval("accent", u"ÉÉN"_s, u"Één"_s);
+        Geval("outside the code page", u"ωΩ"_s, u"ωΩ"_s);
     }
     void firstLetterCapital()
     {

@@ -5,6 +5,7 @@
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
 #include "support/HaperendeSchijf.h"
+#include "support/Onbevoegd.h"
 #include "support/Venster.h"
 #include "support/Verwacht.h"
 
@@ -90,6 +91,31 @@ private slots:
         QCOMPARE(form.List1->Items(), QStringList{u"goed"_s});
     }
 
+    void onlyTheLastFourCharactersAreLeftOut()
+    {
+        Bord bord;
+        const QStringList namen{u" Reis "_s, u"a.b"_s, u"Zee.lst"_s, u"zon."_s};
+        for (const QString &naam : namen)
+            SchrijfPuzzel(bord, naam, Zweeds, 9, 9);
+        OpenFile form;
+        QCOMPARE(form.List1->Items(), namen);
+        for (const QString &naam : namen) {
+            Open(naam);
+            QCOMPARE(PuzzelNaam, naam);
+            QCOMPARE(bord.Venster.GetoondeNaam(), naam);
+        }
+    }
+
+    void thePuzzleOnTheBoardIsNotChosenYet()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        Open(u"Reis"_s);
+        OpenFile form;
+        QCOMPARE(form.List1->ListIndex(), -1);
+        QVERIFY(!form.DelKnop->isEnabled());
+    }
+
     void choosingANameTakesItAtOnce()
     {
         Bord bord;
@@ -137,6 +163,24 @@ private slots:
         QVERIFY(bord.Venster.Shape1->isHidden());
         QVERIFY(bord.Venster.Line1->isHidden());
         QVERIFY(PuzzelGewijzigd); // opening leaves it alone
+    }
+
+    void openingLeavesAllElseAlone()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Woordzoeker, 9, 12, {TweeRijen[1]});
+        bord.InBewerking();
+        bord.Klik(Qt::RightButton, 15, 18);
+        PijlSoort = 5;
+        KleurVakjes = 3;
+        bord.Venster.GeefWoorden({u"AAP"_s, u"BEER"_s});
+        bord.Venster.List1->SetListIndex(1); // shows it on CopyLabel
+        const Stand ervoor = bord.Nu();
+        Open(u"Reis"_s);
+        QCOMPARE(
+            bord.Veranderd(ervoor),
+            u"Bestandsnaam BoardHeight BoardWidth Frame8 Label1 Label12 Line1 ListView1 Main Pic PicGroot PicO PicR "
+            "PuzzelNaam PuzzelType Shape1"_s);
     }
 
     void whatAKindShows_data()
@@ -208,6 +252,36 @@ private slots:
         QCOMPARE(BoardWidth, 16);
     }
 
+    void aDoubleClickBesideTheNamesIsOkWithoutAChoice()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        PuzzelNaam = u"oud"_s;
+        OpenFile form;
+        form.show();
+        QTest::mouseDClick(form.List1->viewport(), Qt::LeftButton, {}, form.List1->viewport()->rect().center());
+        QVERIFY(!form.Unloaded());
+        QVERIFY(PuzzelNaam.isEmpty());
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.2);
+    }
+
+    // Events run during the press effect: another row may be chosen then.
+    void whatIsChosenDuringThePressCounts()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Boom"_s, Zweeds, 9, 9);
+        SchrijfPuzzel(bord, u"Zee"_s, Zweeds, 10, 10);
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        bord.Bank.Script.Antwoorden = {Antwoord::Nee};
+        KlikMetDruk(*form.DelKnop, [&] { form.List1->SetListIndex(1); });
+        QCOMPARE(bord.Bank.Script.Gezien.last().Tekst, u"Wilt je deze puzzel 'Zee' verwijderen?"_s);
+        form.List1->SetListIndex(0);
+        KlikMetDruk(*form.OkKnop, [&] { form.List1->SetListIndex(1); });
+        QCOMPARE(PuzzelNaam, u"Zee"_s);
+        QCOMPARE(BoardWidth, 10);
+    }
+
     void aDoubleClickOpens()
     {
         Bord bord;
@@ -239,6 +313,7 @@ private slots:
             bord.Bank.Schrijf(u"Puzzels/Reis1.bmp"_s, bitmap);
             bord.Bank.Schrijf(u"Puzzels/Reis2.bmp"_s, bitmap);
         }
+        bord.Begin(Zweeds, 9, 9); // the size is the same, and yet all is drawn anew
         bord.Klik(Qt::RightButton, 1, 1);
         Open(u"Reis"_s);
         Bord leeg;
@@ -432,6 +507,49 @@ private slots:
         form.DelKnop->click();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 2);     // and the next press stops at once
         QCOMPARE(bord.Bank.TestKlok.Gewacht(), 2 * 0.2); // with its effect
+    }
+
+    void aPuzzleInTheMiddleOfTheListIsDeleted()
+    {
+        Bord bord;
+        for (const char *naam : {"Aal", "Boom", "Zee"})
+            SchrijfPuzzel(bord, QLatin1String(naam), Zweeds, 9, 9);
+        bord.InBewerking();
+        const Stand ervoor = bord.Nu();
+        OpenFile form;
+        form.List1->SetListIndex(1);
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja, Antwoord::Ja};
+        form.DelKnop->click();
+        QCOMPARE(form.List1->Items(), (QStringList{u"Aal"_s, u"Zee"_s}));
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u"Aal.lst"_s, u"Zee.lst"_s}));
+        QCOMPARE(PuzzelNaam, u"Boom"_s); // the name that was clicked stays
+        QCOMPARE(bord.Veranderd(ervoor), u"PuzzelNaam"_s);
+        form.OkKnop->click(); // no row is chosen now
+        QVERIFY(!form.Unloaded());
+        QVERIFY(PuzzelNaam.isEmpty());
+        form.List1->SetListIndex(1);
+        form.DelKnop->click();
+        QCOMPARE(form.List1->Items(), QStringList{u"Aal"_s});
+        form.List1->SetListIndex(0);
+        form.OkKnop->click();
+        QVERIFY(form.Unloaded());
+        QCOMPARE(PuzzelNaam, u"Aal"_s);
+    }
+
+    void aRowGoesThoughItsFilesCannot()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Boom"_s, Zweeds, 9, 9);
+        OpenFile form;
+        form.List1->SetListIndex(0);
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        {
+            const Onbevoegd onbevoegd(bord.Bank, {u"Puzzels"_s});
+            form.DelKnop_Click();
+        }
+        QCOMPARE(form.List1->ListCount(), 0);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), QStringList{u"Boom.lst"_s});
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1); // the question
     }
 
     void aFileThatIsNotThereKeepsNoOtherFromGoing()

@@ -32,6 +32,13 @@ private slots:
                             "\r\nB-02 / 18-V\r\n\r\n\xE9\xE9n\x80\r\n12\r\n" + Streep + "\r\n"));
     }
 
+    void onlyBlanksAreTrimmed()
+    {
+        const QByteArray kop = SchrijfPuzzelLijst(1, 16, 19, {}), rest = "\r\nx\r\ny\r\n-\r\n" + Streep + "\r\n";
+        QCOMPARE(SchrijfPuzzelLijst(1, 16, 19, {{u" \tA-01\u00A0 "_s, u"x"_s, u"y"_s, u"-"_s}}),
+                 kop + "\tA-01\xA0" + rest);
+    }
+
     void whatIsWrittenComesBack()
     {
         const QList<Rij> rijen{{u"A-01 / 1-H"_s, u"dier: ä ç µ"_s, u"olifant"_s, u"-"_s},
@@ -58,6 +65,8 @@ private slots:
         Geval("empty clue keeps its place", Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + mies,
               "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-", true);
         Geval("blank first field is skipped", Kop + "   \r\nx\r\ny\r\nz" + einde + mies, alleenMies, true);
+        Geval("blanks in quotes are skipped too", Kop + "\"   \"\r\nx\r\ny\r\nz" + einde + mies, alleenMies, true);
+        Geval("a tab is no blank", Kop + "\t\r\nx\r\ny\r\nz" + einde + mies, "\t|x|y|z/B-01 / 2-H|noot|mies|-", true);
         Geval("empty first field is skipped", Kop + "\r\nx\r\ny\r\nz" + einde + mies, alleenMies, true);
         // A comma in the clue moves every later field up one; the record's separator begins the next record, and in the
         // end the fields run out within one.

@@ -404,6 +404,19 @@ private slots:
         QCOMPARE(form.DragX, qint16(2184 * 15));
     }
 
+    void aPressFarDownIsHeld()
+    {
+        const Veld veld;
+        ShowPuzzel form;
+        form.VScroll->setValue(29655);
+        Druk(*form.SlidePic, QPoint(100, 2270)); // beyond what 16 bits hold
+        QCOMPARE(form.DragX, qint16(1500));
+        QCOMPARE(form.DragY, 34050);
+        Beweeg(*form.SlidePic, QPoint(100, 2280));
+        QCOMPARE(Toestand(form), Op(0, -29505));
+        QVERIFY(veld.Bank.Script.Gezien.isEmpty());
+    }
+
     void theBarsMoveThePicture()
     {
         const Veld veld;
