@@ -236,6 +236,18 @@ private slots:
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
+    void theNameIsCapitalisedByTheSaveAlone()
+    {
+        Bord bord;
+        bord.Bank.Schrijf(u"Puzzels/Vakantie.lst"_s, "oud");
+        bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
+        for (const char *naarWens : {"vakANTIE", "Vakantie"}) {
+            QString naam = u"vakANTIE"_s;
+            SaveForm().OpslaanPuzzel(naam);
+            QCOMPARE(naam, QLatin1String(naarWens));
+        }
+    }
+
     void overwritingMeetsTheSameFilesAndLeavesNoTail()
     {
         Bord bord;

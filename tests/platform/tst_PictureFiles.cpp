@@ -43,13 +43,14 @@ static QByteArray ZestienBits()
     return Bitmap(4, 3, 16, 3, Bytes(0xF800) + Bytes(0x07E0) + Bytes(0x001F), QByteArray(4 * 3 * 2, '\x5A'));
 }
 
-static QByteArray RunLength()
+/// Of 8 bits a pixel or of 4.
+static QByteArray RunLength(int bits)
 {
     QByteArray kleuren;
-    for (int i = 0; i < 256; ++i)
+    for (int i = 0; i < 1 << bits; ++i)
         kleuren += Bytes(i | i << 8 | i << 16);
-    const QByteArray rij("\x08\x7F\x00\x00", 4);
-    return Bitmap(8, 3, 8, 1, kleuren, rij + rij + QByteArray("\x08\x7F\x00\x01", 4));
+    const QByteArray rij("\x40\x7F\x00\x00", 4); // 64 pixels in fewer bytes than a row of them takes
+    return Bitmap(64, 3, bits, bits == 8 ? 1 : 2, kleuren, rij + rij + QByteArray("\x40\x7F\x00\x01", 4));
 }
 
 class tst_PictureFiles : public QObject
@@ -189,7 +190,8 @@ void tst_PictureFiles::aBitmapCutOffAnywhereGivesNoPicture_data()
     Geval("32 bits", Bitmap(13, 7, 32, 0, {}, QByteArray(13 * 4 * 7, 'x')));
     Geval("32 bits, top row first", Bitmap(13, -7, 32, 0, QByteArray(2, 0), QByteArray(13 * 4 * 7, 'x')));
     Geval("16 bits with masks", ZestienBits());
-    Geval("run lengths", RunLength());
+    Geval("run lengths", RunLength(8));
+    Geval("run lengths of 4 bits", RunLength(4));
 }
 
 void tst_PictureFiles::aBitmapCutOffAnywhereGivesNoPicture()
