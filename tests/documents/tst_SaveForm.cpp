@@ -55,11 +55,12 @@ class tst_SaveForm : public QObject
     {
         return QDir(bord.Bank.Thuis() + u"/Pictures"_s).entryList(QDir::Files | QDir::Hidden);
     }
-    static void Vul(Bord &bord)
+    static void Vul(Bord &bord, quint8 soort = Zweeds)
     {
-        bord.Begin(Zweeds, 9, 10);
-        bord.Klik(Qt::RightButton, 2, 2);
-        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"-"_s}});
+        bord.Begin(soort, 9, 10);
+        for (PictureBox *pic : {bord.Venster.Pic, bord.Venster.PicGroot})
+            pic->BoxFull(900, 900, 1800, 1500, RGB(60, 60, 60));
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"7"_s}});
         PuzzelGewijzigd = true;
     }
 
@@ -115,10 +116,12 @@ private slots:
         QCOMPARE(SaveForm().Text1->text(), u"Zee"_s);
     }
 
+    void theFourFiles_data() { ElkeSoort(); }
     void theFourFiles()
     {
+        QFETCH(int, soort);
         Bord bord;
-        Vul(bord);
+        Vul(bord, static_cast<quint8>(soort));
         PuzzelNaam = u"oud"_s;
         GebruikersNaam = u"een ander"_s;
         Bewaar(u"vakantie PUZZEL"_s);
@@ -133,8 +136,9 @@ private slots:
         bord.Groot().save(&jpeg, "jpg", 100); // the finest
         QVERIFY(Files::Lees(bord.Bank.Thuis() + u"/Pictures/Vakantie puzzel.jpg"_s) == jpeg.data());
         QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie puzzel.lst"_s),
-                 QByteArray("Tessel Hoeksma Software \xAE 2018\r\n1\r\n9\r\n10\r\n----------------------------\r\n"
-                            "A-01 / 1-H\r\ndier\r\naap\r\n-\r\n----------------------------\r\n"));
+                 "Tessel Hoeksma Software \xAE 2018\r\n" + QByteArray::number(soort) +
+                     "\r\n9\r\n10\r\n----------------------------\r\n"
+                     "A-01 / 1-H\r\ndier\r\naap\r\n7\r\n----------------------------\r\n");
         QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(PuzzelNaam, u"oud"_s);
         QCOMPARE(bord.Venster.Bestandsnaam->text(), u"Puzzelnaam"_s);

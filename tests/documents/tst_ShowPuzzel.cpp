@@ -165,6 +165,17 @@ private slots:
         QCOMPARE(Verschil(form.SlidePic->Image(), veld.Groot()), QString());
     }
 
+    void itShowsTheLargeBoardOfEachKind_data() { ElkeSoort(); }
+    void itShowsTheLargeBoardOfEachKind()
+    {
+        QFETCH(int, soort);
+        const Veld veld(9, 10);
+        PuzzelType = static_cast<quint8>(soort);
+        const ShowPuzzel form;
+        QCOMPARE(Verschil(form.SlidePic->Image(), veld.Groot()), QString());
+        QCOMPARE(form.windowTitle(), u"Orgineel Puzzelveld (1083,1203 / 9,10)"_s);
+    }
+
     void aBoardThatIsTooWideFails_data()
     {
         QTest::addColumn<int>("breedte");

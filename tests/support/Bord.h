@@ -3,6 +3,7 @@
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
 #include "board/Raster.h"
+#include "board/Soorten.h"
 #include "platform/Kleur.h"
 #include "platform/Twips.h"
 #include "support/Stand.h"
@@ -62,6 +63,14 @@ struct Bord
         return rij ? QStringList{rij->text(0), rij->text(1), rij->text(2), rij->text(3)}.join(u'|') : QString();
     }
 };
+
+/// A test's table with a row for each kind of puzzle, in the column "soort".
+inline void ElkeSoort()
+{
+    QTest::addColumn<int>("soort");
+    for (int soort = 1; soort <= AantalSoorten; ++soort)
+        Geval(SoortVan(static_cast<quint8>(soort))->Optie.toUtf8(), soort);
+}
 
 /// The inside of a cell on Pic, in pixels: 29 by 29, without the grid lines.
 inline QRect Binnen(int kolom, int rij)
