@@ -159,6 +159,7 @@ private slots:
         QCOMPARE(PuzzelType, quint8(soort));
         QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(9, 12));
         QCOMPARE(bord.Venster.Rijen(), TweeRijen);
+        QVERIFY(bord.Venster.ListView1->topLevelItem(0)->isSelected());
         QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
         QCOMPARE(bord.Venster.Label12->Caption(), SoortVan(PuzzelType)->Opschrift);
         QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (9x12)"_s);
@@ -167,6 +168,21 @@ private slots:
         QVERIFY(bord.Venster.Shape1->isHidden());
         QVERIFY(bord.Venster.Line1->isHidden());
         QVERIFY(PuzzelGewijzigd); // opening leaves it alone
+    }
+
+    void openingAgainGoesBackToWhatWasSaved()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Zweeds, 9, 9);
+        SchrijfBeeld(bord, u"Reis1.bmp"_s, QSize(271, 271), qRgb(9, 9, 9));
+        SchrijfBeeld(bord, u"Reis2.bmp"_s, QSize(1083, 1083), qRgb(9, 9, 9));
+        Open(u"Reis"_s);
+        const Stand eerst = bord.Nu();
+        bord.InBewerking();
+        for (PictureBox *pic : {bord.Venster.Pic, bord.Venster.PicGroot})
+            pic->BoxFull(900, 900, 1800, 1500, RGB(200, 0, 0));
+        Open(u"Reis"_s);
+        QCOMPARE(bord.Veranderd(eerst), u"PuzzelGewijzigd"_s);
     }
 
     void openingLeavesAllElseAlone_data()

@@ -229,7 +229,9 @@ private slots:
         Vul(bord);
         bord.Bank.Schrijf(u"Puzzels/Vakantie.lst"_s, "oud");
         bord.Bank.Script.Antwoorden = {Antwoord::Nee};
+        const Stand ervoor = bord.Nu();
         Bewaar(u"vakantie"_s); // the look-up ignores case
+        QCOMPARE(bord.Veranderd(ervoor), u"PuzzelGewijzigd"_s);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam puzzel bestaat al, overschrijven?"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u" Exist"_s);
@@ -238,6 +240,27 @@ private slots:
         QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie.lst"_s), QByteArray("oud"));
         QVERIFY(!PuzzelGewijzigd);
         QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void aSecondSaveReplacesAllFour()
+    {
+        Bord bord;
+        Vul(bord);
+        Bewaar(u"Reis"_s);
+        const QString foto = bord.Bank.Thuis() + u"/Pictures/Reis.jpg"_s, puzzels = bord.Bank.Map() + u"/Puzzels/"_s;
+        const QByteArray oudeFoto = Files::Lees(foto);
+        for (PictureBox *pic : {bord.Venster.Pic, bord.Venster.PicGroot})
+            pic->BoxFull(300, 300, 600, 3000, RGB(200, 0, 0));
+        bord.Venster.WisRijen();
+        bord.Bank.Schrijf(u"mydummy.bmp"_s, "of an earlier one");
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        Bewaar(u"Reis"_s);
+        QVERIFY(Files::LoadPicture(puzzels + u"Reis1.bmp"_s) == bord.Pic());
+        QVERIFY(Files::LoadPicture(puzzels + u"Reis2.bmp"_s) == bord.Groot());
+        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Reis.lst"_s).count("\r\n"), 5);
+        QVERIFY(Files::Lees(foto) != oudeFoto);
+        QCOMPARE(QImage(foto).size(), bord.Groot().size());
+        QVERIFY(bord.Bank.Bestanden(QString()).isEmpty());
     }
 
     void theNameIsCapitalisedByTheSaveAlone()
