@@ -112,7 +112,7 @@ void VakForm::VakjeTonen(qint16 soort)
 void VakForm::Text1_Change()
 {
     Label3->SetFont(Lettertype(u"Arial"_s, 12, true));
-    Label3->SetCaption(Text1->toPlainText());
+    Label3->SetCaption(Text1->Text().remove(u'\r'));
     QStringList regels;
     Label1->SetCaption(u"Regel %1"_s.arg(TekstRegels(*Text1, regels)));
 }

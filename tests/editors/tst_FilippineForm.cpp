@@ -119,7 +119,9 @@ private slots:
     void asItOpens()
     {
         Filippinebord bord;
+        Plaats(bord, {.Cel = {2, 5}, .Oplossing = u"aap"_s, .Nummer = 12, .Zoekwoord = true});
         bord.Wijs(2, 6);
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         FilippineForm form;
         QCOMPARE(form.objectName(), u"FilippineForm"_s);
@@ -139,6 +141,7 @@ private slots:
         QVERIFY(form.Option[0]->isChecked());
         QCOMPARE(form.HScroll1->minimum(), 1);
         QCOMPARE(form.HScroll1->maximum(), 19);
+        QCOMPARE(form.HScroll1->value(), 7);
         QCOMPARE(form.focusWidget(), form.Text1);
         QCOMPARE(form.Text1->accessibleName(), u"Omschrijving"_s);
         QCOMPARE(form.Text2->accessibleName(), u"Oplossing"_s);
@@ -272,11 +275,12 @@ private slots:
     {
         Filippinebord bord;
         VerwachtBord verwacht(bord);
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         Plaats(bord, {.Cel = {4, 2}, .Oplossing = u"Wijzin"_s, .Zoekwoord = true});
         verwacht.Letters({4, 2}, u"W IJ Z I N"_s, true);
         QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
-        QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"CurCell CurCol CurRow Label6 Pic"_s); // no row
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"CurCell CurCol CurRow Label6 Pic Shape1"_s); // no row
     }
 
     void theWordIsTakenAsItIsTyped_data()
@@ -291,6 +295,8 @@ private slots:
         Geval("nothing but blanks", u"  "_s, u"_ _"_s, u"  "_s);
         Geval("its sign", u"l?st"_s, u"L IJ S T"_s, u"lijst"_s);
         Geval("accents", u"café"_s, u"C A F É"_s, u"café"_s);
+        Geval("letters without a capital", u"Weißµ"_s, u"W E I ß µ"_s, u"Weißµ"_s);
+        Geval("a hard space", u"a\u00a0b"_s, u"A \u00a0 B"_s, u"a\u00a0b"_s);
     }
     void theWordIsTakenAsItIsTyped()
     {

@@ -109,6 +109,9 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 18);
+        bord.InBewerking();
+        GekozenLetter = u"Q"_s; // of an earlier use
+        GekozenNummer = 42;
         const Stand ervoor = SchuifStand(bord);
         for (const Soortvenster &venster : Vensters()) {
             const auto form = venster.Maak();

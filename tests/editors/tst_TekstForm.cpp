@@ -51,7 +51,19 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 6);
+        bord.InBewerking();
+        {
+            TekstForm eerder;
+            eerder.Option[1]->setChecked(true);
+            eerder.Text1->setText(u"dier"_s);
+            eerder.Text2->setText(u"aap"_s);
+            eerder.Combo1->setCurrentIndex(6);
+            eerder.Check1->setChecked(true);
+            eerder.OkKnop_Click();
+        }
+        const Stand ervoor = EditorStand(bord);
         TekstForm form;
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QCOMPARE(form.windowTitle(), u"Oplossing Plaatsen op C-07 / 99"_s);
         QCOMPARE(form.size(), QSize((6600 - 90) / 15, (3690 - 450) / 15));
         QCOMPARE(form.palette().color(QPalette::Window), QColor(230, 250, 190));
@@ -68,6 +80,7 @@ private slots:
         QVERIFY(form.Option[0]->isChecked());
         QCOMPARE(form.Check1->text(), u"Oplossing omgekeerd"_s);
         QVERIFY(!form.Check1->isChecked());
+        QCOMPARE(form.Combo1->currentText(), u"1"_s);
         QCOMPARE(form.CopyKnop->toolTip(), u" Copy tekst vanaf hoofdscherm "_s);
         QCOMPARE(PlaatjesOp(form),
                  u"CancelKnop knop-annuleren, CopyKnop knop-kopie, Image1 richting-h, OkKnop knop-ok"_s);
@@ -194,6 +207,7 @@ private slots:
         QFETCH(QString, melding);
         Bord bord;
         PuzzelType = static_cast<quint8>(soort);
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         TekstForm form;
         form.Text1->setText(omschrijving);
@@ -201,7 +215,7 @@ private slots:
         form.Combo1->setEditText(nummer);
         form.OkKnop->setFocus();
         Klik(bord, *form.OkKnop);
-        QCOMPARE(form.focusWidget() == form.Text2, soort == Woordzoeker);
+        QCOMPARE(form.focusWidget(), soort == Woordzoeker ? static_cast<QWidget *>(form.Text2) : form.OkKnop);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, melding);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Error"_s);
@@ -241,6 +255,7 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         TekstForm form;
         form.Text1->setText(u"dier"_s);

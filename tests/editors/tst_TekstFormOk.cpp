@@ -78,12 +78,12 @@ private slots:
     {
         Bord bord;
         Borden verwacht(bord);
-        Plaats(bord, {2, 3, 0, u"Wijn"_s, u" Drank van Druiven "_s});
+        Plaats(bord, {2, 3, 0, u"Wijn"_s, u" Drank van Druiven? "_s});
         verwacht.Letter({2, 3}, u"W"_s, -45);
         verwacht.Letter({3, 3}, u"IJ"_s); // not moved as an I is: it is still one sign at that moment
         verwacht.Letter({4, 3}, u"N"_s);
         verwacht.Vergelijk(bord); // nothing on the large board
-        QCOMPARE(bord.Rij(0), u"C-04 / 51-H| Drank van Druiven |wijn|-"_s);
+        QCOMPARE(bord.Rij(0), u"C-04 / 51-H| Drank van Druiven? |wijn|-"_s);
         QCOMPARE(LaatsteOplossing, u"wijn"_s);
         QVERIFY(PuzzelGewijzigd);
     }
@@ -102,6 +102,9 @@ private slots:
         rij("two of them", u"bijrij"_s, u"B IJ R IJ"_s, u"bijrij"_s);
         rij("its sign", u"l?st"_s, u"L IJ S T"_s, u"lijst"_s);
         rij("accents", u"CAFé"_s, u"C A F É"_s, u"café"_s);
+        rij("letters without a capital", u"Maßstabµ"_s, u"M A ß S T A B µ"_s, u"maßstabµ"_s);
+        rij("letters from outside the code page", u"Łódź"_s, u"Ł Ó D ź"_s, u"Łódź"_s);
+        rij("a hard space", u"\u00a0a\u00a0b"_s, u"\u00a0 A \u00a0 B"_s, u"\u00a0a\u00a0b"_s);
         rij("nothing but blanks", u"   "_s, QString(), QString());
     }
     void theWordIsNormalised()
@@ -184,6 +187,13 @@ private slots:
         QCOMPARE(bord.Rij(0), u"A-04 / 49-L||"_s + QString(254, u'o') + u"|-"_s);
     }
 
+    void blanksAndIjDoNotMakeAWordTooLong()
+    {
+        Bord bord;
+        Plaats(bord, {15, 3, 0, u"ij "_s.repeated(254)});
+        QCOMPARE(bord.Rij(0), u"P-04 / 64-H|omschrijving|"_s + u"ij"_s.repeated(254) + u"|-"_s);
+    }
+
     void aWordOfMoreThan254LettersFailsBeforeAnythingIsPrinted_data()
     {
         QTest::addColumn<int>("lengte");
@@ -264,9 +274,16 @@ private slots:
         PuzzelType = static_cast<quint8>(soort);
         bord.Venster.Pic->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = Zwart});
         bord.Venster.PicGroot->ZetLetter({.Naam = u"Arial"_s, .Punten = 7.0, .Vet = false, .Kleur = Zwart});
-        bord.Venster.VoegRijenToe({{u"-"_s, u"eerst"_s, u"woord"_s, u"-"_s}});
+        bord.InBewerking();
+        PuzzelGewijzigd = false;
+        bord.Venster.CopyLabel->SetCaption(u"woord"_s);
+        bord.Wijs(2, 3);
+        LaatsteOplossing.clear();
+        const Stand ervoor = EditorStand(bord);
         Borden verwacht(bord);
         Plaats(bord, {2, 3, 0, u"o"_s, u"letter"_s});
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)),
+                 u"LaatsteOplossing Label11 ListView1 Pic PicGroot PuzzelGewijzigd"_s);
         if (soort == Kruiswoord)
             verwacht.Nummer({2, 3}, u"1"_s, false);
         verwacht.Letter({2, 3}, u"O"_s);
@@ -276,7 +293,7 @@ private slots:
         QCOMPARE(Lettersoort(*bord.Venster.Pic), u"Courier New 12 1 ff505050"_s);
         QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial 48 1 ff505050"_s);
         QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
-        QCOMPARE(bord.Rij(0), u"-|eerst|woord|-"_s);
+        QCOMPARE(bord.Rij(0), u"A-01 / 1-H||aap|-"_s);
         QCOMPARE(bord.Rij(1), u"C-04 / 51-H|letter|o|"_s + (soort == Kruiswoord ? u"1"_s : u"-"_s));
         QCOMPARE(LaatsteOplossing, u"o"_s);
         QVERIFY(PuzzelGewijzigd);

@@ -57,8 +57,16 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 6);
-        PijlSoort = 6;
+        bord.InBewerking();
+        {
+            VakForm eerder;
+            eerder.HScroll1->setValue(6);
+            eerder.Text1->SetText(u"eerder"_s);
+            eerder.OkKnop_Click();
+        }
+        const Stand ervoor = EditorStand(bord);
         VakForm form;
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"PijlSoort"_s);
         QCOMPARE(form.windowTitle(), u"Informatievakje Plaatsen op C-07 / 99"_s);
         QCOMPARE(form.size(), QSize((6900 - 90) / 15, (3480 - 450) / 15));
         QCOMPARE(PijlSoort, quint8(1));
@@ -77,6 +85,9 @@ private slots:
         QCOMPARE(form.focusWidget(), form.Text1);
         QVERIFY(form.Label3->Caption().isEmpty());
         QCOMPARE(form.Label3->parentWidget(), form.Pic);
+        QCOMPARE(Verschil(form.Pic->Image(), Plaatjes::Beeld(u"vak"_s)), QString());
+        QVERIFY(!form.ImgR->isHidden() && form.ImgO->isHidden());
+        QCOMPARE(Verschil(form.ImgR->Image(), Tekening(0)), QString());
     }
 
     void fontsAndColours()
@@ -185,6 +196,9 @@ private slots:
         QCOMPARE(form.Text1->geometry(), tekst);
         QCOMPARE(form.Label3->geometry(), voorbeeld);
         QCOMPARE(Verschil(form.Pic->Image(), Plaatjes::Beeld(u"vak"_s)), QString()); // the divider is gone
+        form.Text1->SetText(u"weer"_s);
+        form.VakjeTonen(1); // the same one counts as well
+        QVERIFY(form.Text1->Text().isEmpty());
     }
 
     void anotherKindWithoutATextIsNoChangeOfText()
@@ -203,6 +217,7 @@ private slots:
         Geval("two", u"een\r\ntwee"_s, u"Regel 2"_s);
         Geval("break at the end", u"een\r\n"_s, u"Regel 2"_s);
         Geval("soft wrap", u"hoeveelheid medicijn"_s, u"Regel 2"_s);
+        Geval("a hard space", u"de\u00a0hond"_s, u"Regel 1"_s);
         Geval("nothing limits it", u"\r\n"_s.repeated(199), u"Regel 200"_s);
     }
     void typingShowsTextAndLineCount()
@@ -223,6 +238,7 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         VakForm form;
         form.HScroll1->setValue(5);

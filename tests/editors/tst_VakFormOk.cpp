@@ -164,17 +164,20 @@ private slots:
         QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
     }
 
-    void theTileIsByTheShownKindAndTheArrowsAreByTheChoice()
+    void theTileIsByTheShownKindAndTheRestByTheChoice()
     {
         Bord bord;
         bord.Wijs(2, 3);
         Verwacht pic(bord.Pic()), groot(bord.Groot());
         VakForm form;
         form.HScroll1->setValue(3);
+        form.Text1->SetText(u"a\r\na\r\na\r\na\r\na"_s);
         PijlSoort = 8;
         form.OkKnop_Click();
         pic.En(Tegel(3, Licht), QPoint(60, 90));
         TekenVak(groot, 2, 3, 8, qRgb(230, 250, 190));
+        for (int i = 0; i < 5; ++i)
+            DrukRegel(groot, 2, 3, i, u"A"_s, 150);
         QCOMPARE(Verschil(bord.Pic(), pic.Beeld), QString());
         QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
     }
@@ -200,6 +203,7 @@ private slots:
         rij(u"an empty line in between"_s, 1, {u"BOVEN"_s, u""_s, u"ONDER"_s}, 0);
         rij(u"a break at the end is a line"_s, 5, letters.first(4) + QStringList{u""_s}, 150);
         rij(u"capitals"_s, 2, {u"ÉÉN IJS"_s, u"ÇÀ VA"_s}, 0);
+        rij(u"letters without a capital"_s, 2, {u"STRAßE"_s, u"3 µM"_s}, 0);
         Geval("as the box wraps it, with the blank at its end", 2, u"Hoeveelheid medicijn"_s,
               QStringList{u"HOEVEELHEID "_s, u"MEDICIJN"_s}, 0);
         Geval("lines that are wrapped count", 6, u"hoeveelheid hoeveelheid hoeveelheid hoeveelheid hoeveelheid"_s,
@@ -217,6 +221,27 @@ private slots:
         TekenVak(groot, 2, 3, soort);
         for (int i = 0; i < regels.size(); ++i)
             DrukRegel(groot, 2, 3, i, regels[i], omhoog);
+        QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
+    }
+
+    void aClueMayRunOffTheBoard_data()
+    {
+        QTest::addColumn<QPoint>("cel");
+        QTest::addColumn<int>("regels");
+        Geval("the first of five lines begins above the first row", QPoint(0, 0), 5);
+        Geval("the last ones are below the last row", QPoint(15, 18), 8);
+    }
+    void aClueMayRunOffTheBoard()
+    {
+        QFETCH(QPoint, cel);
+        QFETCH(int, regels);
+        Bord bord;
+        Verwacht groot(bord.Groot());
+        const QStringList woorden(regels, u"HOEVEELHEID"_s);
+        Plaats(bord, cel.x(), cel.y(), 6, woorden.join(u"\r\n"_s));
+        TekenVak(groot, cel.x(), cel.y(), 6);
+        for (int i = 0; i < regels; ++i)
+            DrukRegel(groot, cel.x(), cel.y(), i, woorden[i], 150);
         QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
     }
 
@@ -289,6 +314,8 @@ private slots:
         Bord bord;
         bord.Venster.Pic->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = Groen});
         bord.Venster.PicGroot->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = Groen});
+        bord.InBewerking();
+        PuzzelGewijzigd = false;
         bord.Venster.Label11->SetCaption(u"iets"_s);
         bord.Wijs(2, 3);
         const Stand ervoor = EditorStand(bord);
