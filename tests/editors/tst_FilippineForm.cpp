@@ -444,6 +444,7 @@ private slots:
         Filippinebord bord;
         bord.Wijs(2, 6);
         bord.Venster.Pic->ZetLetter({.Punten = 7.0, .Kleur = Wit});
+        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         FilippineForm form;
         VulIn(form, {.Cel = {2, 6}, .Oplossing = oplossing, .Omschrijving = omschrijving, .Zoekwoord = zoekwoord});
