@@ -32,7 +32,7 @@ private slots:
         box.setFont(Lettertype(u"Arial"_s, 12, true));
         box.resize(123, 123);
         box.SetText(tekst);
-        QStringList gevonden;
+        QStringList gevonden(9, u"oud"_s); // of an earlier box
         QCOMPARE(TekstRegels(box, gevonden), regels.size());
         regels += QString();
         QCOMPARE(gevonden, regels);

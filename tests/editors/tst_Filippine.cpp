@@ -217,6 +217,7 @@ private slots:
         QFETCH(int, kolommen);
         QFETCH(int, rijen);
         Bord bord;
+        BoardWidth = BoardHeight = 9; // whatever the size of the board
         PictureBox doel(&bord.Venster);
         const QImage vol = VolBord(bord, kolommen, rijen);
         ZetBeeld(doel, vol);
