@@ -172,7 +172,11 @@ private slots:
         bord.Venster.CopyLabel->SetCaption(u"Den Haag "_s);
         TekstForm form;
         form.Text2->setText(u"eerder"_s);
+        bord.InBewerking();
+        const Stand ervoor = EditorStand(bord);
         Klik(bord, *form.CopyKnop, [&] { QCOMPARE(form.Text2->text(), u"eerder"_s); });
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+        QCOMPARE(form.focusWidget(), form.Text1);     // it stays where it was
         QCOMPARE(form.Text2->text(), u"Den Haag "_s); // as it stands there
         QCOMPARE(form.Label2->Caption(), u"Oplossing (9)"_s);
         QVERIFY(!form.Unloaded());

@@ -178,6 +178,11 @@ private slots:
         QCOMPARE(form.Label2->Caption(), u"4"_s);
         QCOMPARE(PijlSoort, quint8(4));
         QVERIFY(form.ImgR->isHidden() && !form.ImgO->isHidden());
+        form.HScroll1->setSliderDown(false);
+        form.HScroll1->setFocus();
+        QTest::keyClick(form.HScroll1, Qt::Key_Right);
+        QCOMPARE(PijlSoort, quint8(5));
+        QCOMPARE(form.focusWidget(), form.HScroll1); // so that the next key goes on
     }
 
     void changingTheKindThrowsTheTextAway()
