@@ -92,6 +92,7 @@ private slots:
         Geval("Kruiswoord down", Kruiswoord, "A-01 / 1-V", "aap", van(225, 225, 225, 1125));
         Geval("one letter", Zweeds, "A-01 / 1-H", "a", van(225, 225, 225, 225));
         Geval("no letter", Zweeds, "C-01 / 3-H", "", van(1125, 225, 675, 225)); // a cell back
+        Geval("blanks are cells", Zweeds, "A-01 / 1-H", " DE AAP ", van(225, 225, 3375, 225));
         Geval("72 cells", Zweeds, "A-01 / 1-H", QString(72, u'a'), van(225, 225, 225 + 71 * 450, 225));
     }
     void theLineRunsFromFirstToLastCell()
@@ -198,6 +199,7 @@ private slots:
              {u"x"_s, u"€€€€"_s, u"A"_s, u"-H"_s, QString(100000, u'9'), u"A-99999999 / 9-V"_s}) {
             bord.Venster.WisRijen();
             bord.Venster.VoegRijenToe({{plaats, {}, u"aap"_s, {}}});
+            bord.Venster.Line1->hide();
             bord.Venster.ListView1_ItemClick();
             bord.Venster.Pic->grab();
             QVERIFY(!bord.Venster.Line1->isHidden());
@@ -279,7 +281,8 @@ private slots:
     void deletingAsksAndLeavesTheBoardAlone()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}, {u"A-02 / 17-H"_s, {}, u"wijn"_s, u"-"_s}});
+        bord.InBewerking();
+        bord.Venster.VoegRijenToe({{u"A-02 / 17-H"_s, {}, u"wijn"_s, u"-"_s}});
         bord.Venster.ToonAantal();
         Kies(bord, 1);
         QVERIFY(!bord.Venster.Line1->isHidden());
@@ -296,6 +299,29 @@ private slots:
         QCOMPARE(bord.Rij(0), u"A-01 / 1-H||aap|-"_s);
         QCOMPARE(bord.Venster.Label11->Caption(), u"1 Items"_s);
         QVERIFY(bord.Venster.Line1->isHidden());
+    }
+
+    void ofTwoEqualRowsTheSelectedOneIsDeleted()
+    {
+        Bord bord;
+        const Rij rij{u"A-01 / 1-H"_s, u"vraag"_s, u"aap"_s, u"-"_s};
+        const Rij los{u"-"_s, {}, u"noot"_s, u"-"_s};
+        bord.Venster.VoegRijenToe({rij, los, rij});
+        Kies(bord, 2);
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        bord.Venster.DelKnop_Click();
+        QCOMPARE(bord.Venster.Rijen(), (QList<Rij>{rij, los}));
+    }
+
+    void theRowIsTheOneSelectedAfterThePressEffect()
+    {
+        Bord bord;
+        bord.Venster.VoegRijenToe({{u"-"_s, {}, u"een"_s, {}}, {u"-"_s, {}, u"twee"_s, {}}});
+        bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        KlikMetDruk(*bord.Venster.DelKnop, [&] { Kies(bord, 1); });
+        QVERIFY(bord.Bank.Script.Gezien.value(0).Tekst.contains(u"(twee)"_s));
+        QCOMPARE(bord.Rij(0), u"-||een|"_s);
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
     }
 
     void deletingTheOnlyRow()

@@ -32,10 +32,12 @@ class tst_NieuwForm : public QObject
         form.Combo2->setEditText(hoogte);
         form.Option[optie]->click();
     }
-    /// Three rows, the line of one, the frame on a cell, something on both boards and the panel: all that may go.
+    /// Three rows, the line of one, the frame on a cell, something on both boards: all that goes. And all that may stay
+    /// has another value than it starts with.
     static void Vul(Bord &bord)
     {
         MainForm &main = bord.Venster;
+        bord.VulPaneel();
         main.VoegRijenToe(
             {{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}, {u"B-01 / 2-V"_s, {}, u"noot"_s, {}}, {u"-"_s, {}, u"mies"_s, {}}});
         main.ToonAantal();
@@ -45,9 +47,18 @@ class tst_NieuwForm : public QObject
         main.Pic->BoxFull(0, 0, 1e5, 1e5, qRgb(1, 2, 3));
         main.PicGroot->BoxFull(0, 0, 1e6, 1e6, qRgb(1, 2, 3));
         VakZwart[5] = true;
-        main.CopyLabel->SetCaption(u"kopie"_s);
-        main.List1->SetItems({u"WOORD"_s});
-        main.List2->SetItems({u"LIJST"_s});
+        PuzzelGewijzigd = true;
+        PijlSoort = 4;
+        KleurVakjes = 3;
+        OrgineelRood = OrgineelGroen = OrgineelBlauw = 7;
+        PaginaTekst = u"voet"_s;
+    }
+
+    /// All that a new puzzle has of its own.
+    static QStringList Vervangen()
+    {
+        return u"BoardHeight BoardWidth Bestandsnaam EditDeleteLetters EditDeleteRaster Frame8 Frame9 Label1 Label11 "
+               "Label12 Line1 ListView1 Main Pic PicGroot PicO PicR PuzzelNaam PuzzelType Shape1"_s.split(u' ');
     }
 
 private slots:
@@ -174,6 +185,9 @@ private slots:
         VulIn(form, naam, u"12"_s, u"14"_s, 3);
         form.OkKnop->setFocus();
         form.OkKnop_Click();
+        QCOMPARE(form.Text1->text(), naam); // the dialog stays as it is, too
+        QVERIFY(form.Option[3]->isChecked());
+        QCOMPARE(form.Label1->Caption() + form.Label2->Caption(), u"Vakjes Horizontaal (12)Vakjes Vertikaal (14)"_s);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::Ok);
@@ -215,6 +229,7 @@ private slots:
             const QList<QWidget *> tekens{bord.Venster.Shape1, bord.Venster.Line1};
             for (const QWidget *teken : tekens)
                 QCOMPARE(teken->isHidden(), eerst != Zweeds && teken == bord.Venster.Line1);
+            const Stand ervoor = bord.Nu();
             NieuwForm form;
             VulIn(form, u"  mijn nieuwe puzzel "_s, u"12"_s, u"14"_s, optie);
             form.OkKnop_Click();
@@ -234,13 +249,12 @@ private slots:
             QCOMPARE(!bord.Venster.Frame9->isHidden(), type == Sudoku);
             QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), type == Filippine);
             QCOMPARE(bord.Venster.EditDeleteLetters->isEnabled(), type == Filippine);
-            QVERIFY(VakZwart[5]);
-            QCOMPARE(bord.Venster.CopyLabel->Caption(), u"kopie"_s);
-            QCOMPARE(bord.Venster.List1->List(0), u"WOORD"_s);
-            QCOMPARE(bord.Venster.List2->List(0), u"LIJST"_s);
+            QStringList anders = bord.Veranderd(ervoor).split(u' ');
+            anders.removeIf([](const QString &naam) { return Vervangen().contains(naam); });
+            QCOMPARE(anders, QStringList());
             Stand nu = bord.Nu();
             for (const char *naam : {"PuzzelType", "BoardWidth", "BoardHeight", "Pic", "PicGroot", "PicR", "PicO",
-                                     "Label1", "Frame8", "ListView1", "PuzzelGewijzigd"})
+                                     "Label1", "Frame8", "ListView1"})
                 QCOMPARE(nu[QLatin1String(naam)], leeg[QLatin1String(naam)]);
         }
     }
@@ -254,6 +268,56 @@ private slots:
         QCOMPARE(PuzzelNaam, u"vraag&antwoord&&meer"_s);
         QCOMPARE(bord.Venster.Bestandsnaam->iconText(), PuzzelNaam); // what is seen of its text
         QCOMPARE(bord.Venster.GetoondeNaam(), PuzzelNaam);
+    }
+
+    void onlyBlanksAreTakenOutOfTheName_data()
+    {
+        QTest::addColumn<QString>("naam");
+        QTest::addColumn<QString>("wordt");
+        Geval("within and around", "  de  zomer ", "dezomer");
+        Geval("a hard blank alone", u" \u00A0 "_s, u"\u00A0"_s);
+        Geval("hard blanks and tabs", u"\u00A0een\ttwee \u00A0drie\t"_s, u"\u00A0een\ttwee\u00A0drie\t"_s);
+        Geval("other signs", "a.b \"c\" 'd'-1", "a.b\"c\"'d'-1");
+    }
+    void onlyBlanksAreTakenOutOfTheName()
+    {
+        QFETCH(QString, naam);
+        Bord bord;
+        NieuwForm form;
+        VulIn(form, naam, u"12"_s, u"14"_s);
+        form.OkKnop_Click();
+        QTEST(PuzzelNaam, "wordt");
+        QTEST(bord.Venster.Bestandsnaam->text(), "wordt");
+        QVERIFY(form.Unloaded());
+    }
+
+    void aKindOfFixedSizeLooksAtTheBoxesAllTheSame()
+    {
+        for (const int optie : {3, 4}) {
+            Bord bord;
+            NieuwForm form;
+            VulIn(form, u"naam"_s, u"negen"_s, u"9"_s, optie); // what is no number is refused
+            QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::TypeOnjuist));
+            VulIn(form, u"naam"_s, u"9"_s, u""_s, optie);
+            QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::TypeOnjuist));
+            QCOMPARE(PuzzelType, Zweeds);
+            VulIn(form, u"naam"_s, u"-5"_s, u"99999"_s, optie); // no such board has to be made
+            form.OkKnop_Click();
+            QCOMPARE(QSize(BoardWidth, BoardHeight), optie == 3 ? QSize(9, 9) : QSize(16, 19));
+        }
+    }
+
+    void aKindOfFixedSizeLeavesTheTypedSize()
+    {
+        Bord bord;
+        NieuwForm form;
+        VulIn(form, u"naam"_s, u"12"_s, u"14"_s, 3);
+        form.Option[4]->click();
+        form.Option[2]->click();
+        QCOMPARE(form.Combo1->currentText() + u'x' + form.Combo2->currentText(), u"12x14"_s);
+        QCOMPARE(form.Label1->Caption() + form.Label2->Caption(), u"Vakjes Horizontaal (12)Vakjes Vertikaal (14)"_s);
+        form.OkKnop_Click();
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(12, 14));
     }
 
     void theChangedFlagStaysAsItIs()

@@ -9,6 +9,8 @@
 #include "support/Stand.h"
 #include "support/Testbank.h"
 
+#include <QSignalBlocker>
+
 /// The main window with the empty board that the program starts with.
 struct Bord
 {
@@ -31,9 +33,25 @@ struct Bord
         TekenBord(breedte, hoogte);
     }
 
-    /// As in the midst of work: changed, with a row, the frame round a cell and the line of a word.
+    /// Puts the word panel and the level of a Sudoku into another state than they start with, so that it shows when
+    /// something puts them back.
+    void VulPaneel()
+    {
+        const QSignalBlocker stil(Venster.List3); // there is no such word list
+        for (ListBox *lijst : {Venster.List1, Venster.List2, Venster.List3}) {
+            lijst->SetItems({QStringLiteral("AAP"), QStringLiteral("NOOT")});
+            lijst->SetListIndex(1);
+        }
+        Venster.Label3->SetCaption(QStringLiteral("2 Woorden gevonden"));
+        Venster.ScrolLengte->setValue(7);
+        Venster.Combo1->setCurrentIndex(4);
+        Venster.Option[2]->setChecked(true);
+    }
+
+    /// As in the midst of work: changed, with a row, the frame round a cell, the line of a word and words to choose.
     void InBewerking()
     {
+        VulPaneel();
         PuzzelGewijzigd = true;
         Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-")}});
         Venster.ToonAantal();
