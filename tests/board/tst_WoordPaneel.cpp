@@ -346,8 +346,7 @@ private slots:
     void wordsAreTakenInCapitals()
     {
         Woordbord bord;
-        bord.VulList1();
-        bord.Venster.List1->SetListIndex(0);
+        bord.AllesAnders(); // with a word chosen in each list
         const Stand ervoor = bord.Nu();
         bord.Venster.GeefWoorden({u"vos"_s, u"zeeën"_s, u"Aal"_s});
         QCOMPARE(bord.List1(), u"VOS ZEEËN AAL"_s); // in their order

@@ -651,6 +651,7 @@ private slots:
     {
         Blad blad;
         MainForm &main = blad.Scherm.Venster;
+        blad.Scherm.AllesAnders();
         main.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}});
         main.ListView1_ItemClick();
         blad.Scherm.Klik(Qt::LeftButton, 1, 1);

@@ -48,6 +48,20 @@ struct Bord
         Venster.Option[2]->setChecked(true);
     }
 
+    /// Gives all that a puzzle leaves alone when it comes on the board another value than it starts with.
+    void AllesAnders()
+    {
+        VulPaneel();
+        Wijs(1, 1);
+        Venster.Line1->X2 = VakMaat;
+        VakZwart[5] = true;
+        PuzzelGewijzigd = true;
+        PijlSoort = 4;
+        KleurVakjes = 3;
+        OrgineelRood = OrgineelGroen = OrgineelBlauw = 7;
+        PaginaTekst = QStringLiteral("voet");
+    }
+
     /// As in the midst of work: changed, with a row, the frame round a cell, the line of a word and words to choose.
     void InBewerking()
     {
@@ -72,6 +86,34 @@ struct Bord
     Stand Nu() const { return StandVan(Venster); }
     /// The names of all that has changed since.
     QString Veranderd(const Stand &sinds) const { return Verschil(sinds, Nu()); }
+
+    /// The same without what every puzzle has of its own.
+    QString VeranderdBuitenPuzzel(const Stand &sinds) const
+    {
+        Stand nu = Nu();
+        for (const char *naam : {"BoardHeight",
+                                 "BoardWidth",
+                                 "Bestandsnaam",
+                                 "EditDeleteLetters",
+                                 "EditDeleteRaster",
+                                 "Frame8",
+                                 "Frame9",
+                                 "Label1",
+                                 "Label11",
+                                 "Label12",
+                                 "Line1",
+                                 "ListView1",
+                                 "Main",
+                                 "Pic",
+                                 "PicGroot",
+                                 "PicO",
+                                 "PicR",
+                                 "PuzzelNaam",
+                                 "PuzzelType",
+                                 "Shape1"})
+            nu.remove(QLatin1String(naam));
+        return Verschil(sinds, nu);
+    }
 
     QImage Pic() const { return Venster.Pic->Image(); }
     QImage Groot() const { return Venster.PicGroot->Image(); }
