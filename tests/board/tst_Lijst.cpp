@@ -177,6 +177,7 @@ private slots:
         Geval("Kruiswoord R", Kruiswoord, "C-02 / 19-R");
         Geval("Kruiswoord L", Kruiswoord, "C-02 / 19-L");
         Geval("Woordzoeker X", Woordzoeker, "C-02 / 19-X");
+        Geval("a small letter", Woordzoeker, "C-02 / 19-h");
     }
     void aForeignDirectionMovesTheStartOnly()
     {

@@ -2,6 +2,7 @@
 #include "board/Soorten.h"
 #include "support/Bord.h"
 #include "support/Venster.h"
+#include "support/Verloop.h"
 
 #include <QFile>
 #include <QTimer>
@@ -127,14 +128,14 @@ private slots:
     {
         Bord bord;
         NieuwForm form;
-        form.Combo1->setEditText(u"11"_s);
+        form.Combo1->setEditText(u" 11"_s);
         form.Combo2->setCurrentIndex(1);
-        QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (11)"_s);
+        QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal ( 11)"_s);
         QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (10)"_s);
         form.Combo1->setCurrentIndex(0);
-        form.Combo2->setEditText(u"veel"_s);
+        form.Combo2->setEditText(u" veel "_s);
         QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (9)"_s);
-        QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (veel)"_s);
+        QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal ( veel )"_s); // as it stands there
     }
 
     void theKindShowsItsPreviewAndFixesTheSize()
@@ -253,6 +254,47 @@ private slots:
         QCOMPARE(PuzzelNaam, u"vraag&antwoord&&meer"_s);
         QCOMPARE(bord.Venster.Bestandsnaam->iconText(), PuzzelNaam); // what is seen of its text
         QCOMPARE(bord.Venster.GetoondeNaam(), PuzzelNaam);
+    }
+
+    void theStepsOfBothButtons_data()
+    {
+        QTest::addColumn<QString>("knop");
+        Geval("OkKnop", "OkKnop");
+        Geval("CancelKnop", "CancelKnop");
+    }
+    void theStepsOfBothButtons()
+    {
+        QFETCH(QString, knop);
+        Bord bord;
+        const Stand ervoor = bord.Nu();
+        NieuwForm form;
+        auto *button = Vind<ImageButton>(form, knop);
+        const QPoint plaats = button->pos();
+        Verloop verloop([&] { return button->pos() == plaats ? QString() : u"gedrukt"_s; });
+        verloop.Bijwerk = [&] {
+            QCOMPARE(bord.Veranderd(ervoor), QString());
+            QVERIFY(!form.Unloaded());
+        };
+        VulIn(form, u"naam"_s, u"12"_s, u"14"_s);
+        button->click();
+        QCOMPARE(verloop.Stappen, (QStringList{u"0.2 s | gedrukt"_s, u"0.2 s |"_s}));
+        QVERIFY(form.Unloaded());
+    }
+
+    void whatStandsThereAfterTheWaitsCounts()
+    {
+        Bord bord;
+        NieuwForm form;
+        Verloop verloop;
+        verloop.Bijwerk = [&] {
+            if (verloop.Stappen.size() == 2)
+                VulIn(form, u"later"_s, u"10"_s, u"11"_s, 2);
+        };
+        form.OkKnop->click(); // of an empty name
+        QVERIFY(form.Unloaded() && verloop.Gezien.isEmpty());
+        QCOMPARE(PuzzelNaam, u"later"_s);
+        QCOMPARE(PuzzelType, Kruiswoord);
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(10, 11));
     }
 
     void onlyBlanksAreTakenOutOfTheName_data()

@@ -43,6 +43,8 @@ private slots:
         QCOMPARE(plaats.Kolom, u'?' - u'A');
         QCOMPARE(plaats.Rij, -1); // no row: 0, counted from 1
         QCOMPARE(plaats.Richting, u'?');
+        QCOMPARE(LeesPlaats(u"a-01 / 1-h"_s).Kolom, u'a' - u'A'); // a small letter is another sign
+        QCOMPARE(LeesPlaats(u"a-01 / 1-h"_s).Richting, u'h');
         QCOMPARE(LeesPlaats(u"B-x9"_s).Rij, -1);
         QCOMPARE(LeesPlaats(u"B-7x"_s).Rij, 6);
         QCOMPARE(LeesPlaats(u"B-123"_s).Rij, 11); // two characters, whatever comes behind

@@ -112,6 +112,13 @@ private slots:
         QTest::keyClick(combo, Qt::Key_Return);
         QCOMPARE(combo->currentText(), u"twaalf"_s);
         QCOMPARE(combo->count(), 8);
+        venster.show();
+        venster.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&venster));
+        combo->setFocus();
+        combo->lineEdit()->clear();
+        QTest::keyClick(combo->lineEdit(), Qt::Key_1);
+        QCOMPARE(combo->currentText(), u"1"_s); // and nothing is added of itself
     }
 
     void theListFollowsWhatIsTyped()

@@ -90,28 +90,12 @@ struct Bord
     /// The same without what every puzzle has of its own.
     QString VeranderdBuitenPuzzel(const Stand &sinds) const
     {
+        const QString eigen = QStringLiteral(
+            "BoardHeight BoardWidth Bestandsnaam EditDeleteLetters EditDeleteRaster Frame8 Frame9 Label1 Label11 "
+            "Label12 Line1 ListView1 Main Pic PicGroot PicO PicR PuzzelNaam PuzzelType Shape1");
         Stand nu = Nu();
-        for (const char *naam : {"BoardHeight",
-                                 "BoardWidth",
-                                 "Bestandsnaam",
-                                 "EditDeleteLetters",
-                                 "EditDeleteRaster",
-                                 "Frame8",
-                                 "Frame9",
-                                 "Label1",
-                                 "Label11",
-                                 "Label12",
-                                 "Line1",
-                                 "ListView1",
-                                 "Main",
-                                 "Pic",
-                                 "PicGroot",
-                                 "PicO",
-                                 "PicR",
-                                 "PuzzelNaam",
-                                 "PuzzelType",
-                                 "Shape1"})
-            nu.remove(QLatin1String(naam));
+        for (const QString &naam : eigen.split(u' '))
+            nu.remove(naam);
         return Verschil(sinds, nu);
     }
 
