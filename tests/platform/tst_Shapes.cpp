@@ -102,6 +102,34 @@ private slots:
         QCOMPARE(Getoond(blad.Box), verwacht);
     }
 
+    void aStraightLineIsWholeAtAnyScale_data()
+    {
+        QTest::addColumn<double>("ratio");
+        for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
+            Geval(QByteArray::number(ratio), ratio);
+    }
+    void aStraightLineIsWholeAtAnyScale()
+    {
+        QFETCH(double, ratio);
+        MetTeken<LineMark> blad;
+        blad.Mark.BorderColor = Qt::red;
+        blad.Mark.BorderWidth = 2;
+        const auto past = [ratio](int pixels, int lengte) { return std::abs(pixels - lengte * ratio) < 1; };
+        for (const int plaats : {10, 11, 12, 13}) // where it falls between two pixels, too
+            for (const QPoint stap : {QPoint(0, 0), QPoint(30, 0), QPoint(0, 30)}) {
+                blad.Mark.X1 = blad.Mark.Y1 = plaats * 15;
+                blad.Mark.X2 = (plaats + stap.x()) * 15;
+                blad.Mark.Y2 = (plaats + stap.y()) * 15;
+                blad.Mark.Toon();
+                QImage beeld((QSizeF(blad.Box.size()) * ratio).toSize(), QImage::Format_RGB32);
+                beeld.setDevicePixelRatio(ratio);
+                blad.Box.render(&beeld);
+                const QRect vlak = InktVlak(beeld, beeld.rect());
+                QVERIFY2(past(vlak.width(), stap.x() + 2), qPrintable(QString::number(vlak.width())));
+                QVERIFY2(past(vlak.height(), stap.y() + 2), qPrintable(QString::number(vlak.height())));
+            }
+    }
+
     void aNewLineIsThinAndBlack()
     {
         MetTeken<LineMark> blad;
