@@ -29,7 +29,7 @@ QStringList ZoekLengte(QByteArray database, qsizetype cellen)
     const QByteArray klein = KleineLetters(std::move(database));
     VoorElkeRegel(klein, [&](QByteArrayView regel) {
         if (regel.size() - regel.count("ij") == cellen)
-            woorden += Hoofdletters(ZonderCode(MetCode(Files::NaarTekst(regel)))); // a "?" of the file is an "ij" too
+            woorden += Hoofdletters(ZonderCode(Files::NaarTekst(regel))); // a "?" of the file is an "ij" too
     });
     return woorden;
 }

@@ -52,6 +52,7 @@ private slots:
         Geval("high", Kruiswoord, 9, 19);
         Geval("in between", Zweeds, 12, 14);
         Geval("Sudoku", Sudoku, 9, 9);
+        Geval("Sudoku of another size, of a file", Sudoku, 12, 14);
         Geval("Filippine", Filippine, 16, 19);
     }
     void theWholeBoard()
@@ -211,6 +212,8 @@ private slots:
         QCOMPARE(bord.Pic(), Raster(breedte, hoogte));
         QCOMPARE(bord.Groot(), Tegels(bord.Venster.PicVak->Image(), breedte, hoogte));
         QCOMPARE(bord.Venster.Label1->size(), QSize(breedte * 30 + 14, hoogte * 30 + 14));
+        QCOMPARE(bord.Venster.PicR->geometry(), QRect(breedte * 30 + 14 + 13, 52, 30, hoogte * 30 + 14));
+        QCOMPARE(bord.Venster.PicO->geometry(), QRect(12, hoogte * 30 + 14 + 53, breedte * 30 + 14, 20));
     }
 };
 

@@ -194,8 +194,9 @@ private slots:
     void theStepsOfLoad()
     {
         Woordbord bord;
-        for (const char *naam : {"Zee.txt", "appels.TXT", "Boom.txt", "Boom.lst", "txt"})
+        for (const char *naam : {"Zee.txt", "appels.TXT", "Boom.txt", "Boom.lst", "txt", "nr. 2.txt", ".txt"})
             bord.Bank.Schrijf(u"Woordlijsten/"_s + QLatin1String(naam), "x");
+        QDir(bord.Bank.Map()).mkdir(u"Woordlijsten/map.txt"_s);
         MainForm &main = bord.Venster;
         bord.VulPaneel();
         main.List3->SetItems({u"oud"_s});
@@ -205,7 +206,7 @@ private slots:
             [&] { return (main.LoadKnop->pos() == plaats ? QString() : u"gedrukt "_s) + Woorden(*main.List3); });
         main.LoadKnop->click();
         QCOMPARE(verloop.Stappen, QStringList{u"0.2 s | gedrukt oud"_s});
-        QCOMPARE(Woorden(*main.List3), u"appels|Boom|Zee"_s);
+        QCOMPARE(Woorden(*main.List3), u"|appels|Boom|nr. 2|Zee"_s);
         QCOMPARE(bord.Veranderd(ervoor), u"List3"_s);
     }
 
@@ -256,8 +257,8 @@ private slots:
         Geval("blanks within quotes count", QByteArray("\" ab \"\r\nab"), "4", u" AB "_s);
         Geval("so do hard blanks and tabs",
               QByteArray("\xA0"
-                         "ab\t\r\nab"),
-              "4", u"\u00A0AB\t"_s);
+                         "ab\t\r\n\tabc\r\nab"),
+              "4", u"\u00A0AB\t|\tABC"_s);
         Geval("each as often as it stands there", QByteArray("ab,ab\r\nab"), "2", "AB|AB|AB");
         Geval("an empty file", QByteArray(""), "Alles", "");
         Geval("a long line", QByteArray(10000, 'a'), "Alles", QString(10000, u'A'));
@@ -282,6 +283,25 @@ private slots:
         const qsizetype aantal = woorden.isEmpty() ? 0 : woorden.split(u'|').size();
         QCOMPARE(main.Label8->Caption(), QString::number(aantal));
         QCOMPARE(bord.Veranderd(ervoor), u"Label8 List2 List3"_s);
+    }
+
+    void aListIsFoundByItsWholeName_data()
+    {
+        QTest::addColumn<QString>("naam");
+        for (const QString &naam : {u""_s, u" aan zee "_s, u"nr. 2"_s, u"R&D 'x' één"_s, u"x.txt"_s})
+            Geval(u"'%1'"_s.arg(naam).toUtf8(), naam);
+    }
+    void aListIsFoundByItsWholeName()
+    {
+        QFETCH(QString, naam);
+        Woordbord bord;
+        for (const QString &andere : {u"aan zee"_s, u"nr"_s, u"x"_s})
+            bord.Lijst(andere, "fout");
+        bord.Lijst(naam, "kat");
+        MainForm &main = bord.Venster;
+        main.LoadKnop->click();
+        Kies(*main.List3, naam);
+        QCOMPARE(Woorden(*main.List2), u"KAT"_s);
     }
 
     void eitherAllIsAll()

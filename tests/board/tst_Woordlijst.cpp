@@ -83,6 +83,7 @@ void tst_Woordlijst::linesOfSoManyCellsAreFound_data()
     rij("capitals of the file are small letters first", "IJSBEER\r\niJs\r\n", 6, {"IJSBEER"});
     rij("a question mark becomes ij", "?s\r\n", 2, {"IJS"});
     rij("a line is one word", "aa,p\r\n\"aa\"\r\n", 4, {"AA,P", "\"AA\""});
+    rij("blanks are cells", " ab\r\nab \r\nab\r\n\tab\xA0\r\n", 3, {" AB", "AB "});
     rij("accents", "\xE9\xE9n\r\n", 3, {u"\u00C9\u00C9N"_s});
     rij("nothing", "", 2, {});
 }
