@@ -169,10 +169,10 @@ private slots:
     void theCopyButtonTakesTheWordOfTheMainWindow()
     {
         Bord bord;
+        bord.InBewerking();
         bord.Venster.CopyLabel->SetCaption(u"Den Haag "_s);
         TekstForm form;
         form.Text2->setText(u"eerder"_s);
-        bord.InBewerking();
         const Stand ervoor = EditorStand(bord);
         Klik(bord, *form.CopyKnop, [&] { QCOMPARE(form.Text2->text(), u"eerder"_s); });
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
