@@ -15,7 +15,7 @@ class tst_MainForm : public QObject
 private slots:
     void everyControlIsAtItsPlace()
     {
-        Bord bord;
+        VersBord bord;
         const MainForm &main = bord.Venster;
         QCOMPARE(Misplaatst(main, {{"Frame8", 180, 90, 7410, 540}, // the board's load gives it the width of the plate
                                    {"Label1", 180, 780, 7410, 8760},
@@ -108,7 +108,7 @@ private slots:
 
     void theTabKeyGoesThroughTheSudokuPanel()
     {
-        Bord bord;
+        VersBord bord;
         bord.Begin(Sudoku, 9, 9);
         bord.Venster.ToonPuzzel(u"Raster Atelier"_s);
         const QString volgorde = TabVolgorde(bord.Venster);
@@ -118,7 +118,7 @@ private slots:
 
     void texts()
     {
-        Bord bord;
+        VersBord bord;
         QStringList teksten;
         for (const Label *label : bord.Venster.findChildren<Label *>())
             teksten += label->objectName() + u'=' + label->Caption();
@@ -260,7 +260,7 @@ private slots:
 
     void theSudokuPanel()
     {
-        Bord bord;
+        VersBord bord;
         MainForm &main = bord.Venster;
         const QColor paneel(230, 230, 190);
         QCOMPARE(main.Frame9->grab().toImage().pixelColor(3, 3), paneel);
@@ -349,7 +349,7 @@ private slots:
 
     void theLengthsToChooseFrom()
     {
-        Bord bord;
+        VersBord bord;
         QCOMPARE(Items(*bord.Venster.Combo1).join(u' '),
                  u"Alles 2 3 4 5 6 7 8 9 10 11 12 13 14 15 16 17 18 19 20 Alles"_s);
         QCOMPARE(bord.Venster.Combo1->currentIndex(), 0);

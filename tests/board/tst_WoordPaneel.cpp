@@ -45,8 +45,8 @@ private slots:
             QCOMPARE(bord.Venster.Label16->Caption(), u"Woordlengte (%1)"_s.arg(lengte));
         }
         bord.Venster.ScrolLengte->setSliderDown(true); // while it is dragged too
-        bord.Venster.ScrolLengte->setSliderPosition(7);
-        QCOMPARE(bord.Venster.Label16->Caption(), u"Woordlengte (7)"_s);
+        bord.Venster.ScrolLengte->setSliderPosition(8);
+        QCOMPARE(bord.Venster.Label16->Caption(), u"Woordlengte (8)"_s);
         QCOMPARE(bord.Veranderd(ervoor), u"Label16 ScrolLengte"_s);
     }
 
@@ -54,8 +54,6 @@ private slots:
     {
         Woordbord bord("kat\r\noog\r\nstreek\r\n");
         MainForm &main = bord.Venster;
-        QCOMPARE(main.Label3->Caption(), u"0 Woorden in lijst"_s);
-        bord.VulPaneel();
         bord.VulList1();
         main.Label3->SetCaption(u"0 Woorden in lijst"_s);
         main.ScrolLengte->setValue(3);
@@ -160,7 +158,6 @@ private slots:
         QFETCH(int, letters);
         Woordbord bord;
         MainForm &main = bord.Venster;
-        bord.VulPaneel();
         main.Label8->SetCaption(u"oud"_s);
         main.Label9->SetCaption(u"oud"_s);
         main.CopyLabel->SetCaption(u"oud"_s);
@@ -198,7 +195,6 @@ private slots:
             bord.Bank.Schrijf(u"Woordlijsten/"_s + QLatin1String(naam), "x");
         QDir(bord.Bank.Map()).mkdir(u"Woordlijsten/map.txt"_s);
         MainForm &main = bord.Venster;
-        bord.VulPaneel();
         main.List3->SetItems({u"oud"_s});
         const Stand ervoor = bord.Nu();
         const QPoint plaats = main.LoadKnop->pos();
@@ -272,7 +268,6 @@ private slots:
         Woordbord bord;
         bord.Lijst(u"Dieren"_s, inhoud);
         MainForm &main = bord.Venster;
-        bord.VulPaneel();
         main.LoadKnop->click();
         main.Combo1->setCurrentIndex(main.Combo1->findText(lengte));
         main.List2->SetItems({u"oud"_s});
@@ -299,6 +294,7 @@ private slots:
             bord.Lijst(andere, "fout");
         bord.Lijst(naam, "kat");
         MainForm &main = bord.Venster;
+        main.Combo1->setCurrentText(u"Alles"_s);
         main.LoadKnop->click();
         Kies(*main.List3, naam);
         QCOMPARE(Woorden(*main.List2), u"KAT"_s);
@@ -324,6 +320,7 @@ private slots:
         Woordbord bord;
         bord.Lijst(u"Dieren"_s, "kat\r\nijsbeer\r\n");
         MainForm &main = bord.Venster;
+        main.Combo1->setCurrentText(u"Alles"_s);
         main.LoadKnop->click();
         Kies(*main.List3, u"Dieren"_s);
         main.Combo1->setCurrentIndex(2); // 3
@@ -354,6 +351,7 @@ private slots:
         Woordbord bord;
         bord.Lijst(u"Plaatsen"_s, "Amsterdam\r\nDoetinchem\r\n");
         MainForm &main = bord.Venster;
+        main.Combo1->setCurrentText(u"Alles"_s);
         main.LoadKnop->click();
         Kies(*main.List3, u"Plaatsen"_s);
         Kies(*main.List2, u"DOETINCHEM"_s);

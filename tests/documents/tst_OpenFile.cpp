@@ -178,7 +178,6 @@ private slots:
         SchrijfBeeld(bord, u"Reis1.bmp"_s, QSize(271, 271), qRgb(9, 9, 9));
         SchrijfBeeld(bord, u"Reis2.bmp"_s, QSize(1083, 1083), qRgb(9, 9, 9));
         Open(u"Reis"_s);
-        bord.VulPaneel();
         const Stand eerst = bord.Nu();
         bord.InBewerking();
         for (PictureBox *pic : {bord.Venster.Pic, bord.Venster.PicGroot})

@@ -11,13 +11,13 @@
 
 #include <QSignalBlocker>
 
-/// The main window with the empty board that the program starts with.
-struct Bord
+/// The main window with the empty board, as the program starts with it.
+struct VersBord
 {
     Testbank Bank;
     MainForm Venster;
 
-    Bord()
+    VersBord()
     {
         AppPath = Bank.Map();
         BeginWaarden();
@@ -33,25 +33,9 @@ struct Bord
         TekenBord(breedte, hoogte);
     }
 
-    /// Puts the word panel and the level of a Sudoku into another state than they start with, so that it shows when
-    /// something puts them back.
-    void VulPaneel()
-    {
-        const QSignalBlocker stil(Venster.List3); // there is no such word list
-        for (ListBox *lijst : {Venster.List1, Venster.List2, Venster.List3}) {
-            lijst->SetItems({QStringLiteral("AAP"), QStringLiteral("NOOT")});
-            lijst->SetListIndex(1);
-        }
-        Venster.Label3->SetCaption(QStringLiteral("2 Woorden gevonden"));
-        Venster.ScrolLengte->setValue(7);
-        Venster.Combo1->setCurrentIndex(4);
-        Venster.Option[2]->setChecked(true);
-    }
-
     /// Gives all that a puzzle leaves alone when it comes on the board another value than it starts with.
     void AllesAnders()
     {
-        VulPaneel();
         Wijs(1, 1);
         Venster.Line1->X2 = VakMaat;
         VakZwart[5] = true;
@@ -62,10 +46,9 @@ struct Bord
         PaginaTekst = QStringLiteral("voet");
     }
 
-    /// As in the midst of work: changed, with a row, the frame round a cell, the line of a word and words to choose.
+    /// As in the midst of work: changed, with a row, the frame round a cell and the line of a word.
     void InBewerking()
     {
-        VulPaneel();
         PuzzelGewijzigd = true;
         Venster.VoegRijenToe({{QStringLiteral("A-01 / 1-H"), {}, QStringLiteral("aap"), QStringLiteral("-")}});
         Venster.ToonAantal();
@@ -105,6 +88,24 @@ struct Bord
     {
         const QTreeWidgetItem *rij = Venster.ListView1->topLevelItem(index);
         return rij ? QStringList{rij->text(0), rij->text(1), rij->text(2), rij->text(3)}.join(u'|') : QString();
+    }
+};
+
+/// The same with a word panel and a level of a Sudoku that are not as they start, so that it shows when something puts
+/// them back.
+struct Bord : VersBord
+{
+    Bord()
+    {
+        const QSignalBlocker stil(Venster.List3); // there is no such word list
+        for (ListBox *lijst : {Venster.List1, Venster.List2, Venster.List3}) {
+            lijst->SetItems({QStringLiteral("AAP"), QStringLiteral("NOOT")});
+            lijst->SetListIndex(1);
+        }
+        Venster.Label3->SetCaption(QStringLiteral("2 Woorden gevonden"));
+        Venster.ScrolLengte->setValue(7);
+        Venster.Combo1->setCurrentIndex(4);
+        Venster.Option[2]->setChecked(true);
     }
 };
 
