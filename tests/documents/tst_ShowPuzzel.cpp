@@ -529,7 +529,9 @@ private slots:
 
     void theButtonClosesIt()
     {
-        const Veld veld;
+        Veld veld;
+        veld.InBewerking();
+        const Stand ervoor = veld.Nu();
         ShowPuzzel form;
         form.show();
         const QPoint plaats = form.ExitKnop->pos();
@@ -544,6 +546,7 @@ private slots:
         }
         QCOMPARE(gezien, (QList<QPoint>{{2, 2}, {0, 0}}));
         QVERIFY(form.Unloaded() && !form.isVisible());
+        QCOMPARE(veld.Veranderd(ervoor), QString());
     }
 
     // While the window is open the board may be drawn on: it shows the board as it was.
