@@ -37,9 +37,8 @@ public:
 
 } // namespace
 
-ListBox::ListBox(QWidget *ouder) : RowChoice(ouder)
+ListBox::ListBox(QWidget *ouder) : RowChoice(ouder, new PassendeRij)
 {
-    setItemDelegate(new PassendeRij(this));
     setModel(&model_);
     setUniformItemSizes(true);
 }

@@ -5,7 +5,7 @@
 #include <QHeaderView>
 #include <QStyleOption>
 
-ListView::ListView(const QList<Column> &columns, QWidget *ouder) : RowChoice(ouder)
+ListView::ListView(const QList<Column> &columns, QWidget *ouder) : RowChoice(ouder, new BeginVanTekst)
 {
     setRootIsDecorated(false);
     setUniformRowHeights(true);

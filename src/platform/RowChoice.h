@@ -23,10 +23,12 @@ public:
 template <class View> class RowChoice : public View
 {
 protected:
-    explicit RowChoice(QWidget *ouder) : View(ouder)
+    /// @param rijen how a row is shown, which becomes the list's own
+    RowChoice(QWidget *ouder, BeginVanTekst *rijen) : View(ouder)
     {
         this->setEditTriggers(View::NoEditTriggers);
-        this->setItemDelegate(new BeginVanTekst(this));
+        rijen->setParent(this);
+        this->setItemDelegate(rijen);
     }
 
     /// A row was chosen, or the chosen one was clicked again.

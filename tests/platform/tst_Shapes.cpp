@@ -21,6 +21,23 @@ template <class Teken> struct MetTeken
     }
 };
 
+/// Scales of a screen, in the column "ratio".
+static void Schalen()
+{
+    QTest::addColumn<double>("ratio");
+    for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
+        Geval(QByteArray::number(ratio), ratio);
+}
+
+/// What a screen of that scale shows of a box.
+static QImage OpSchaal(PictureBox &box, double ratio)
+{
+    QImage beeld((QSizeF(box.size()) * ratio).toSize(), QImage::Format_RGB32);
+    beeld.setDevicePixelRatio(ratio);
+    box.render(&beeld);
+    return beeld;
+}
+
 /// Counts how often a widget is painted.
 class Schilder : public QObject
 {
@@ -102,12 +119,7 @@ private slots:
         QCOMPARE(Getoond(blad.Box), verwacht);
     }
 
-    void aStraightLineIsWholeAtAnyScale_data()
-    {
-        QTest::addColumn<double>("ratio");
-        for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
-            Geval(QByteArray::number(ratio), ratio);
-    }
+    void aStraightLineIsWholeAtAnyScale_data() { Schalen(); }
     void aStraightLineIsWholeAtAnyScale()
     {
         QFETCH(double, ratio);
@@ -121,9 +133,7 @@ private slots:
                 blad.Mark.X2 = (plaats + stap.x()) * 15;
                 blad.Mark.Y2 = (plaats + stap.y()) * 15;
                 blad.Mark.Toon();
-                QImage beeld((QSizeF(blad.Box.size()) * ratio).toSize(), QImage::Format_RGB32);
-                beeld.setDevicePixelRatio(ratio);
-                blad.Box.render(&beeld);
+                const QImage beeld = OpSchaal(blad.Box, ratio);
                 const QRect vlak = InktVlak(beeld, beeld.rect());
                 QVERIFY2(past(vlak.width(), stap.x() + 2), qPrintable(QString::number(vlak.width())));
                 QVERIFY2(past(vlak.height(), stap.y() + 2), qPrintable(QString::number(vlak.height())));
@@ -175,12 +185,7 @@ private slots:
         QCOMPARE(Getoond(blad.Box), verwacht);
     }
 
-    void anOutlineIsWholeAtAnyScale_data()
-    {
-        QTest::addColumn<double>("ratio");
-        for (const double ratio : {1.0, 1.25, 1.5, 1.75, 2.0})
-            Geval(QByteArray::number(ratio), ratio);
-    }
+    void anOutlineIsWholeAtAnyScale_data() { Schalen(); }
     void anOutlineIsWholeAtAnyScale()
     {
         QFETCH(double, ratio);
@@ -189,9 +194,7 @@ private slots:
         blad.Mark.BorderWidth = 2;
         for (const int plaats : {15, 30, 45, 60}) { // where it falls between two pixels, too
             blad.Mark.Toon(plaats, plaats, 450, 450);
-            QImage beeld((QSizeF(blad.Box.size()) * ratio).toSize(), QImage::Format_RGB32);
-            beeld.setDevicePixelRatio(ratio);
-            blad.Box.render(&beeld);
+            const QImage beeld = OpSchaal(blad.Box, ratio);
             const QRect vlak = InktVlak(beeld, beeld.rect());
             for (int y = vlak.top(); y <= vlak.bottom(); ++y)
                 for (int x = vlak.left(); x <= vlak.right(); ++x) {

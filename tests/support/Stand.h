@@ -34,8 +34,6 @@ inline QVariantList Inhoud(const QWidget &control)
         return {knop->isChecked()};
     if (const auto *schuif = qobject_cast<const QScrollBar *>(&control))
         return {schuif->value()};
-    if (const auto *optie = qobject_cast<const QRadioButton *>(&control))
-        return {optie->isChecked()};
     QVariantList inhoud;
     if (const auto *lijst = qobject_cast<const ListBox *>(&control)) {
         inhoud += lijst->ListIndex();
