@@ -66,20 +66,41 @@ static void VraagGrotePaginas([[maybe_unused]] QImage &beeld)
 #endif
 }
 
+/// A picture in which nothing has been drawn yet, not even a colour. Raises Fout::GeheugenVol.
+static QImage LeegBeeld(QSize maat)
+{
+    QImage beeld(maat, QImage::Format_RGB32);
+    if (beeld.isNull())
+        throw Fout(Fout::GeheugenVol);
+    VraagGrotePaginas(beeld);
+    return beeld;
+}
+
 QImage &PictureBox::Beeld() const
 {
     const QSize nodig = beeld_.size().expandedTo(size()).expandedTo(QSize(1, 1)); // a box may be without a side
     if (beeld_.size() != nodig) {
-        QImage groter(nodig, QImage::Format_RGB32);
-        if (groter.isNull())
-            throw Fout(Fout::GeheugenVol);
-        VraagGrotePaginas(groter);
+        QImage groter = LeegBeeld(nodig);
         groter.fill(BackColor);
         for (int y = 0; y < beeld_.height(); ++y)
             std::copy_n(beeld_.constScanLine(y), beeld_.width() * 4, groter.scanLine(y));
         beeld_ = groter;
     }
     return beeld_;
+}
+
+void PictureBox::Betegel(const QImage &tegel, int stap)
+{
+    if (size().isEmpty())
+        return;
+    if (!beeld_.rect().contains(rect()))
+        beeld_ = LeegBeeld(size()); // every pixel gets its colour here: wiping them first would take as long again
+    for (int x = 0; x == 0 || x - stap + tegel.width() < width(); x += stap)
+        Plak(tegel, tegel.rect(), tegel.rect().translated(x, 0), PlakWijze::Kopie);
+    // The other rows are the first one again, pasted whole: long copies are several times as fast as short ones.
+    const QImage rij = beeld_.copy(0, 0, width(), tegel.height());
+    for (int y = stap; y - stap + tegel.height() < height(); y += stap)
+        Plak(rij, rij.rect(), rij.rect().translated(0, y), PlakWijze::Kopie);
 }
 
 void PictureBox::Vul(QRect vlak, QRgb kleur)

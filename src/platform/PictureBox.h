@@ -29,6 +29,10 @@ public:
     /// Clears all and shows the picture from the top left, one pixel to the pixel. A box with AutoSize shares the
     /// pixels with the picture as long as it is not drawn on.
     void SetPicture(const QImage &beeld);
+    /// Covers all that is visible with a tile, at every `stap` pixels from the top left: 1 to the tile's own side,
+    /// where less lets each tile lie over the edge of the one before. What is hidden may be wiped. Raises
+    /// Fout::GeheugenVol.
+    void Betegel(const QImage &tegel, int stap);
     /// What is visible now; a null picture of a box without a side. Shares its pixels with the box as long as the box
     /// is not drawn on.
     QImage Image() const;

@@ -108,6 +108,50 @@ private slots:
         QCOMPARE(box.Aantal(Blauw), 1200);
     }
 
+    void tilesCoverAll_data()
+    {
+        QTest::addColumn<QSize>("maat");
+        QTest::addColumn<int>("stap");
+        const auto Geval = [](const char *naam, QSize maat, int stap) { QTest::newRow(naam) << maat << stap; };
+        Geval("side by side", {18, 12}, 6);
+        Geval("side by side, the last ones cut off", {20, 15}, 6);
+        Geval("each over the edge of the one before", {22, 14}, 4);
+        Geval("one, over the edges of none", {6, 6}, 4);
+        Geval("one, cut off", {3, 2}, 6);
+        Geval("one, of which less shows than would lie over another", {2, 1}, 3);
+    }
+    void tilesCoverAll()
+    {
+        QFETCH(QSize, maat);
+        QFETCH(int, stap);
+        QImage verwacht(maat, QImage::Format_RGB32);
+        QPainter painter(&verwacht);
+        for (int y = 0; y == 0 || y - stap + 6 < maat.height(); y += stap)
+            for (int x = 0; x == 0 || x - stap + 6 < maat.width(); x += stap)
+                painter.drawImage(x, y, Bont(6, 6));
+        painter.end();
+        PixelBox box(1, 1);
+        for (const QSize eerst : {QSize(1, 1), QSize(40, 1), QSize(40, 30)}) {
+            box.Maat(eerst.width(), eerst.height());
+            box.BoxFull(0, 0, 99, 99, Rood);
+            box.Maat(maat.width(), maat.height());
+            box.Betegel(Bont(6, 6), stap);
+            QCOMPARE(box.Image(), verwacht);
+        }
+        box.Maat(maat.width() + 30, maat.height() + 30); // beyond whatever there was
+        QCOMPARE(box.Image().copy(QRect({0, 0}, maat)), verwacht);
+        QCOMPARE(box.GetPixel(maat.width() + 29, maat.height() + 29), Wit);
+    }
+
+    void withoutASideThereAreNoTiles()
+    {
+        PictureBox box(nullptr);
+        box.SetSize(0, 300);
+        box.Betegel(Bont(6, 6), 6);
+        box.SetSize(300, 300);
+        QCOMPARE(InktVlak(box.Image(), box.rect()), QRect());
+    }
+
     void aPictureWipesWhatWasDrawn()
     {
         PixelBox box(40, 30);
