@@ -2,7 +2,7 @@
 
 #include "Adressen.h"
 
-#include "platform/Kleur.h"
+#include "board/Kleuren.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -24,7 +24,7 @@ static QString OverTekst()
                .arg(QLocale::system().toString(programma.lastModified(), QLocale::ShortFormat));
 }
 
-AboutForm::AboutForm() : Form(u"AboutForm"_s, u"About Rasteratelier..."_s, 6390, 2910, RGB(230, 230, 190))
+AboutForm::AboutForm() : Form(u"AboutForm"_s, u"About Rasteratelier..."_s, 6390, 2910, Kleuren::Paneel)
 {
     Image1 = MaakBeeld("Image1", u"Raster Atelier"_s, u"rasteratelier"_s);
     Label1 = MaakUitleg("Label1", OverTekst());

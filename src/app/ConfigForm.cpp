@@ -1,13 +1,14 @@
 #include "app/ConfigForm.h"
 
 #include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "platform/Kleur.h"
 
 using namespace Qt::StringLiterals;
 
 static constexpr std::array VakjesKleuren{RGB(230, 250, 190), RGB(190, 230, 230), RGB(250, 150, 150)}; // of KleurVakjes
 
-ConfigForm::ConfigForm() : Form(u"ConfigForm"_s, u"Instellingen"_s, 6900, 4200, RGB(230, 230, 190))
+ConfigForm::ConfigForm() : Form(u"ConfigForm"_s, u"Instellingen"_s, 6900, 4200, Kleuren::Paneel)
 {
     Label2 = MaakLabel("Label2", QString());
     MaakKleurBalken();

@@ -80,6 +80,11 @@ bool BestandBestaat(const QString &pad)
     return Files::FileExists(pad);
 }
 
+void MeldGeenDatabase()
+{
+    MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+}
+
 void ToonSpecialeTekens()
 {
     MsgBox(u"Bijzondere combinaties\r\n"

@@ -55,6 +55,8 @@ void Wachten(double seconden, QEventLoop::ProcessEventsFlags welke = QEventLoop:
 QString HaalGebruiker();
 /// Whether there is a file, and no folder, at a path of Files::Pad.
 bool BestandBestaat(const QString &pad);
+/// Says that the word database, or another file of the library, could not be read.
+void MeldGeenDatabase();
 /// Shows how letters with an accent and other signs are typed.
 void ToonSpecialeTekens();
 /// The first character upper case, the rest lower case.

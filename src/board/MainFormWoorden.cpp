@@ -121,12 +121,12 @@ void MainForm::OkKnop_Click()
         const Screen::Bezig bezig;
         List1->Clear();
         Wachten(0);
-        List1->SetItems(ZoekLengte(Files::Lees(DatabasePad()), ScrolLengte->value()));
+        List1->SetItems(WoordenVanLengte(Files::Lees(DatabasePad()), ScrolLengte->value()));
     });
     if (gevonden)
         Label3->SetCaption(WoordenGevonden(*List1));
     else
-        MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+        MeldGeenDatabase();
 }
 
 void MainForm::LoadKnop_Click()

@@ -23,7 +23,7 @@ QByteArray SchrijfWoordlijst(const QStringList &woorden)
     return inhoud;
 }
 
-QStringList ZoekLengte(QByteArray database, qsizetype cellen)
+QStringList WoordenVanLengte(QByteArray database, qsizetype cellen)
 {
     QStringList woorden;
     const QByteArray klein = KleineLetters(std::move(database));

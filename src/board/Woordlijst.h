@@ -11,4 +11,4 @@ QStringList LeesWoordlijst(QByteArrayView inhoud);
 QByteArray SchrijfWoordlijst(const QStringList &woorden);
 
 /// The lines of a database that take so many cells, in capitals.
-QStringList ZoekLengte(QByteArray database, qsizetype cellen);
+QStringList WoordenVanLengte(QByteArray database, qsizetype cellen);

@@ -1,6 +1,7 @@
 #include "documents/ShowPuzzel.h"
 
 #include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "board/MainForm.h"
 #include "platform/Getallen.h"
 #include "platform/Kleur.h"
@@ -26,7 +27,7 @@ static QString VeldTitel()
         .arg(BoardHeight);
 }
 
-ShowPuzzel::ShowPuzzel() : Form(u"ShowPuzzel"_s, VeldTitel(), 9300, 6440, RGB(230, 230, 190))
+ShowPuzzel::ShowPuzzel() : Form(u"ShowPuzzel"_s, VeldTitel(), 9300, 6440, Kleuren::Paneel)
 {
     PicCont = Maak<PictureBox>("PicCont", QString());
     SlidePic = Maak<PictureBox>("SlidePic", u"Orgineel puzzelveld"_s, PicCont);

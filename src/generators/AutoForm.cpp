@@ -1,6 +1,7 @@
 #include "generators/AutoForm.h"
 
 #include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "board/LangeIJ.h"
 #include "board/MainForm.h"
 #include "board/Raster.h"
@@ -19,7 +20,7 @@ using namespace Qt::StringLiterals;
 constexpr auto LangeIJ = "IJ"_L1;
 constexpr auto Code = "?"_L1;
 
-AutoForm::AutoForm() : Form(u"AutoForm"_s, u"Automatische woordzoeker"_s, 10200, 6450, RGB(230, 230, 190), true)
+AutoForm::AutoForm() : Form(u"AutoForm"_s, u"Automatische woordzoeker"_s, 10200, 6450, Kleuren::Paneel, true)
 {
     picGrid = Maak<PictureBox>("picGrid", u"Puzzelveld"_s);
     Text1 = Maak<TextBox>("Text1", u"Woordenlijst"_s);

@@ -1,6 +1,7 @@
 #include "wordlib/AddForm.h"
 
 #include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "board/WoordPaden.h"
 #include "board/Woordlijst.h"
 #include "platform/Berichten.h"
@@ -13,7 +14,7 @@
 
 using namespace Qt::StringLiterals;
 
-AddForm::AddForm() : Form(u"AddForm"_s, u"Woordlijsten bewerken"_s, 9150, 4800, RGB(230, 230, 190))
+AddForm::AddForm() : Form(u"AddForm"_s, u"Woordlijsten bewerken"_s, 9150, 4800, Kleuren::Paneel)
 {
     Label4 = MaakLabel("Label4", u"Onderwerp"_s);
     List2 = Maak<ListBox>("List2", u"Onderwerpen"_s);

@@ -1,7 +1,8 @@
 #include "wordlib/ChemischForm.h"
 
+#include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "board/WoordPaden.h"
-#include "platform/Berichten.h"
 #include "platform/Canvas.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
@@ -11,7 +12,7 @@
 
 using namespace Qt::StringLiterals;
 
-ChemischForm::ChemischForm() : Form(u"ChemischForm"_s, u"Scheikundige symbolen (0)"_s, 8535, 4965, RGB(230, 230, 190))
+ChemischForm::ChemischForm() : Form(u"ChemischForm"_s, u"Scheikundige symbolen (0)"_s, 8535, 4965, Kleuren::Paneel)
 {
     Picture = MaakBeeld("Picture", QString(), u"scheikunde"_s);
     Label2 = MaakLabel("Label2", u"Naam                              Symbool           Atoomnummer"_s);
@@ -42,7 +43,7 @@ void ChemischForm::VulElementen()
         return gelezen;
     }();
     if (!heel) {
-        MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+        MeldGeenDatabase();
         return;
     }
     setWindowTitle(u"Scheikundige symbolen (%1)"_s.arg(Combo1->count()));

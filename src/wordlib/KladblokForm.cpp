@@ -1,6 +1,7 @@
 #include "wordlib/KladblokForm.h"
 
 #include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "board/TekstRegels.h"
 #include "board/WoordPaden.h"
 #include "platform/Berichten.h"
@@ -26,7 +27,7 @@ KladblokForm::KladblokForm() : Form(u"KladblokForm"_s, u"Kladblok"_s, 9000, 6000
 
     Form_Resize();
 
-    Kleur(Text1, RGB(230, 230, 190), RGB(0, 0, 0));
+    Kleur(Text1, Kleuren::Paneel, RGB(0, 0, 0));
     Text1->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     Text1->setFont(Lettertype(u"Arial"_s, 9.75, false));
     TG[LetterAtStart - SmallestLetter]->setChecked(true);

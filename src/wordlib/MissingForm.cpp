@@ -1,5 +1,6 @@
 #include "wordlib/MissingForm.h"
 
+#include "board/Kleuren.h"
 #include "board/MainForm.h"
 #include "board/WoordPaden.h"
 #include "platform/CodePage.h"
@@ -22,7 +23,7 @@ constexpr int AantalLetters = 19;
 constexpr QRgb KleurVrij = RGB(230, 240, 250);
 constexpr QRgb KleurInGebruik = RGB(200, 200, 200);
 
-MissingForm::MissingForm() : Form(u"MissingForm"_s, u"Ontbrekende Letters"_s, 8145, 5130, RGB(230, 230, 190), true)
+MissingForm::MissingForm() : Form(u"MissingForm"_s, u"Ontbrekende Letters"_s, 8145, 5130, Kleuren::Paneel, true)
 {
     List1 = Maak<ListBox>("List1", u"Gevonden woorden"_s);
     Label8 = MaakLabel("Label8", u"0 Woorden gevonden"_s);

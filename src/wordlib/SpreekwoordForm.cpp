@@ -1,5 +1,6 @@
 #include "wordlib/SpreekwoordForm.h"
 
+#include "board/Kleuren.h"
 #include "board/WoordPaden.h"
 #include "platform/Berichten.h"
 #include "platform/Files.h"
@@ -37,7 +38,7 @@ const Bron &BronVan(size_t Index)
 } // namespace
 
 SpreekwoordForm::SpreekwoordForm()
-    : Form(u"SpreekwoordForm"_s, u"Spreekwoorden en Gezegden"_s, 9000, 3900, RGB(230, 230, 190), true)
+    : Form(u"SpreekwoordForm"_s, u"Spreekwoorden en Gezegden"_s, 9000, 3900, Kleuren::Paneel, true)
 {
     List1 = Maak<ListBox>("List1", u"Bibliotheek"_s);
     List2 = Maak<ListBox>("List2", u"Betekenissen"_s);

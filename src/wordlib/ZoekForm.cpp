@@ -1,6 +1,7 @@
 #include "wordlib/ZoekForm.h"
 
 #include "board/Algemeen.h"
+#include "board/Kleuren.h"
 #include "board/MainForm.h"
 #include "board/WoordPaden.h"
 #include "platform/Berichten.h"
@@ -22,7 +23,7 @@ using namespace Qt::StringLiterals;
 /// The ways of searching, by the index of their option.
 enum Wijze { Letters, Begin, Eind, Trefwoord, Klinkers };
 
-ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100, RGB(230, 230, 190), true)
+ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100, Kleuren::Paneel, true)
 {
     List1 = Maak<ListBox>("List1", u"Gevonden woorden"_s);
     Label5 = MaakLabel("Label5", u"Gevonden woorden (0)"_s);
@@ -99,7 +100,7 @@ void ZoekForm::LaadDatabase()
         MaakLetterIndex(Words, PosX, LetterStart);
     });
     if (!gelukt)
-        MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+        MeldGeenDatabase();
 }
 
 // Blanks can't be typed at the ends.
@@ -227,7 +228,7 @@ void ZoekForm::ZoekTrefwoord()
         Lijst([&](const Vondst &vondst) { ::ZoekTrefwoord(database, key, vondst); });
     });
     if (!gelukt)
-        MsgBox(u"Kan database niet vinden..."_s, Knoppen::Ok, Icoon::Kritiek, u"Error"_s);
+        MeldGeenDatabase();
 }
 
 void ZoekForm::ZoekKlinkers()

@@ -1,7 +1,7 @@
 #include "board/Woordlijst.h"
 #include "platform/CodePage.h"
 #include "support/Testbank.h"
-#include "wordlib/Naslag.h"
+#include "wordlib/Tegenproef.h"
 
 #include <random>
 
@@ -92,7 +92,7 @@ void tst_Woordlijst::linesOfSoManyCellsAreFound()
 {
     QFETCH(QByteArray, database);
     QFETCH(int, cellen);
-    QTEST(ZoekLengte(database, cellen), "woorden");
+    QTEST(WoordenVanLengte(database, cellen), "woorden");
 }
 
 void tst_Woordlijst::anyLinesAreSearched()
@@ -105,10 +105,10 @@ void tst_Woordlijst::anyLinesAreSearched()
             database += tekens[toeval() % tekens.size()];
         QStringList verwacht;
         const size_t cellen = toeval() % 6;
-        std::map<size_t, Naslag::Lijst> gevonden = Naslag::Paneel(Naslag::Regels(database.toStdString()));
+        std::map<size_t, Tegenproef::Lijst> gevonden = Tegenproef::Paneel(Tegenproef::Regels(database.toStdString()));
         for (const std::string &woord : gevonden[cellen])
             verwacht += Files::NaarTekst(QByteArray::fromStdString(woord));
-        QCOMPARE(ZoekLengte(database, static_cast<qsizetype>(cellen)), verwacht);
+        QCOMPARE(WoordenVanLengte(database, static_cast<qsizetype>(cellen)), verwacht);
     }
 }
 

@@ -1,5 +1,5 @@
+#include "editors/EditorStand.h"
 #include "editors/Filippine.h"
-#include "editors/Verwacht.h"
 
 #include <QGuiApplication>
 #include <QTimer>

@@ -1,6 +1,6 @@
+#include "editors/EditorStand.h"
 #include "editors/LetterForm.h"
 #include "editors/NummerForm.h"
-#include "editors/Verwacht.h"
 #include "support/Venster.h"
 
 using namespace Qt::StringLiterals;

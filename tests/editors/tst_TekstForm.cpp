@@ -1,4 +1,4 @@
-#include "editors/Verwacht.h"
+#include "editors/EditorStand.h"
 #include "platform/Plaatjes.h"
 #include "support/Venster.h"
 

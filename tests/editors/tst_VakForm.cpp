@@ -1,5 +1,5 @@
+#include "editors/EditorStand.h"
 #include "editors/VakForm.h"
-#include "editors/Verwacht.h"
 #include "platform/Plaatjes.h"
 #include "support/Venster.h"
 

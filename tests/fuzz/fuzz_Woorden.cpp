@@ -8,11 +8,11 @@
 #include "platform/Teksten.h"
 #include "platform/Velden.h"
 #include "wordlib/Database.h"
-#include "wordlib/Naslag.h"
 #include "wordlib/Ontbrekend.h"
+#include "wordlib/Tegenproef.h"
 #include "wordlib/Wisseling.h"
 
-using Naslag::Lijst;
+using Tegenproef::Lijst;
 
 /// What a search finds, in its order.
 static Lijst Gevonden(auto zoek)
@@ -36,8 +36,8 @@ static void LeesItems(QByteArrayView inhoud)
 
 static void LaadEnZoek(const QByteArray &inhoud, const std::string &key)
 {
-    const Lijst words = Naslag::Words(inhoud.toStdString());
-    const std::vector<int> starts = Naslag::LetterStarts(words);
+    const Lijst words = Tegenproef::Words(inhoud.toStdString());
+    const std::vector<int> starts = Tegenproef::LetterStarts(words);
     Woorden Words = LeesWoorden(inhoud);
     std::vector<qint32> tabel;
     LetterIndex index{};
@@ -54,12 +54,12 @@ static void LaadEnZoek(const QByteArray &inhoud, const std::string &key)
     const Zoekgebied gebied{Words, static_cast<qint32>(Words.size()) - 1};
     const auto N = static_cast<qsizetype>(key.size());
     EIS(Gevonden([&](auto v) { unscramble(gebied, index, key, N, 2, v); }) ==
-        Naslag::Letters(words, starts, key, key.size(), 2));
+        Tegenproef::Letters(words, starts, key, key.size(), 2));
     EIS(Gevonden([&](auto v) { ZoekBegin(gebied, key, v); }) ==
-        Naslag::Die(words, [&](auto &w) { return Naslag::Begint(w, key); }));
+        Tegenproef::Die(words, [&](auto &w) { return Tegenproef::Begint(w, key); }));
     EIS(Gevonden([&](auto v) { ZoekEind(gebied, key, v); }) ==
-        Naslag::Die(words, [&](auto &w) { return Naslag::Eindigt(w, key); }));
-    EIS(Gevonden([&](auto v) { ZoekKlinkers(gebied, v); }) == Naslag::OpLengte(Naslag::MetKlinkers(words)));
+        Tegenproef::Die(words, [&](auto &w) { return Tegenproef::Eindigt(w, key); }));
+    EIS(Gevonden([&](auto v) { ZoekKlinkers(gebied, v); }) == Tegenproef::OpLengte(Tegenproef::MetKlinkers(words)));
     negeer([&] { // it ends beyond the words
         ZoekLengte({Words, gebied.Laatste + 1}, static_cast<qint16>(N), [&](auto w) { EIS(std::ssize(w) == N); });
         EIS(false);
@@ -68,19 +68,20 @@ static void LaadEnZoek(const QByteArray &inhoud, const std::string &key)
 
 static void ZoekRegels(const QByteArray &inhoud, const std::string &key)
 {
-    const Lijst regels = Naslag::Regels(inhoud.toStdString());
+    const Lijst regels = Tegenproef::Regels(inhoud.toStdString());
     const QByteArray alsBytes = QByteArray::fromStdString(key), pattern = Hoofdletters(alsBytes);
-    EIS(Gevonden([&](auto v) { ZoekTrefwoord(inhoud, alsBytes, v); }) == Naslag::Trefwoord(regels, key));
+    EIS(Gevonden([&](auto v) { ZoekTrefwoord(inhoud, alsBytes, v); }) == Tegenproef::Trefwoord(regels, key));
     if (!key.empty())
-        EIS(Gevonden([&](auto v) { ZoekWisselingen(inhoud, alsBytes, v); }) == Naslag::Wisselingen(regels, key));
+        EIS(Gevonden([&](auto v) { ZoekWisselingen(inhoud, alsBytes, v); }) == Tegenproef::Wisselingen(regels, key));
     const qsizetype cellen = pattern.size() - pattern.count("IJ");
     EIS(Gevonden([&](auto v) { ZoekOntbrekende(inhoud, pattern, cellen, v); }) ==
-        Naslag::Ontbrekende(Naslag::InHoofdletters(regels), pattern.toStdString(), static_cast<size_t>(cellen)));
+        Tegenproef::Ontbrekende(Tegenproef::InHoofdletters(regels), pattern.toStdString(),
+                                static_cast<size_t>(cellen)));
     QStringList paneel;
-    std::map<size_t, Naslag::Lijst> inCellen = Naslag::Paneel(regels);
+    std::map<size_t, Tegenproef::Lijst> inCellen = Tegenproef::Paneel(regels);
     for (const std::string &woord : inCellen[key.size()])
         paneel += Files::NaarTekst(QByteArray::fromStdString(woord));
-    EIS(ZoekLengte(inhoud, std::ssize(key)) == paneel);
+    EIS(WoordenVanLengte(inhoud, std::ssize(key)) == paneel);
 }
 
 static void LeesEnSchrijfLijst(const QByteArray &inhoud)

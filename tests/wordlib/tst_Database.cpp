@@ -1,12 +1,12 @@
 #include "platform/Teksten.h"
 #include "support/Testbank.h"
 #include "wordlib/Database.h"
-#include "wordlib/Naslag.h"
+#include "wordlib/Tegenproef.h"
 
 #include <random>
 
 using namespace Qt::StringLiterals;
-using Naslag::Lijst;
+using Tegenproef::Lijst;
 
 class tst_Database : public QObject
 {
@@ -248,8 +248,9 @@ void tst_Database::theFirstWordBehindAJumpIsNotTried()
     // "az" fails at once and jumps to the words with b, of which the first one is skipped.
     QCOMPARE(MetLetters(boek, "bzz", 3), "bzz");
     QCOMPARE(MetLetters(boek, "abzz", 4), "az azz bz bzz"); // y jumps, over "zz"
-    QCOMPARE(MetLetters(boek, "bz?", 3), Samen(Naslag::Die(Naslag::Words(boek.Inhoud.toStdString()), [](auto &woord) {
-                 return Naslag::IsTeMaken(woord, "bz?");
+    QCOMPARE(MetLetters(boek, "bz?", 3),
+             Samen(Tegenproef::Die(Tegenproef::Words(boek.Inhoud.toStdString()), [](auto &woord) {
+                 return Tegenproef::IsTeMaken(woord, "bz?");
              }))); // with a wildcard no first letter fails
     // From y to the words with z: the first of them is skipped.
     QCOMPARE(MetLetters(boek, "zzz", 3), "zzz");
@@ -383,12 +384,12 @@ void tst_Database::wordsWithVowelsComeInTheOrderOfTheExchange()
     for (int aantal = 1; aantal < 120; ++aantal)
         for (const int langste : {4, 6, 19}) {
             const Boek boek(WillekeurigeKlinkers(aantal, langste, toeval));
-            QCOMPARE(MetKlinkers(boek),
-                     Samen(Naslag::OpLengte(Naslag::MetKlinkers(Naslag::Words(boek.Inhoud.toStdString())))));
+            QCOMPARE(MetKlinkers(boek), Samen(Tegenproef::OpLengte(
+                                            Tegenproef::MetKlinkers(Tegenproef::Words(boek.Inhoud.toStdString())))));
         }
     const Boek groot(WillekeurigeKlinkers(1500, 19, toeval));
     QCOMPARE(MetKlinkers(groot),
-             Samen(Naslag::OpLengte(Naslag::MetKlinkers(Naslag::Words(groot.Inhoud.toStdString())))));
+             Samen(Tegenproef::OpLengte(Tegenproef::MetKlinkers(Tegenproef::Words(groot.Inhoud.toStdString())))));
 }
 
 // Were they exchanged in the square of their number, the test would not end within its time.
@@ -399,7 +400,7 @@ void tst_Database::manyWordsWithVowelsAreExchanged()
     const Lijst gevonden = Gevonden([&](const Vondst &v) { ZoekKlinkers(boek.Gebied(), v); });
     QVERIFY(gevonden.size() > 130000);
     QVERIFY(std::is_sorted(gevonden.begin(), gevonden.end(), [](auto &a, auto &b) { return a.size() < b.size(); }));
-    Lijst verwacht = Naslag::MetKlinkers(Naslag::Words(boek.Inhoud.toStdString())), alles = gevonden;
+    Lijst verwacht = Tegenproef::MetKlinkers(Tegenproef::Words(boek.Inhoud.toStdString())), alles = gevonden;
     std::sort(alles.begin(), alles.end());
     QVERIFY(alles == verwacht);
 }
@@ -492,7 +493,7 @@ void tst_Database::linesThatContainTheKey()
 /// Compares every search of a database with the reference.
 static void Vergelijk(const QByteArray &inhoud, const std::string &key)
 {
-    using namespace Naslag;
+    using namespace Tegenproef;
     const Boek boek(inhoud);
     const Lijst words = Words(inhoud.toStdString()), regels = Regels(inhoud.toStdString());
     const std::vector<int> starts = LetterStarts(words);

@@ -5,14 +5,14 @@
 #include "support/Testbank.h"
 #include "support/Woorden.h"
 #include "wordlib/Database.h"
-#include "wordlib/Naslag.h"
 #include "wordlib/Ontbrekend.h"
+#include "wordlib/Tegenproef.h"
 #include "wordlib/Wisseling.h"
 
 #include <random>
 #include <set>
 
-using Naslag::Lijst;
+using Tegenproef::Lijst;
 
 class tst_EchteWoorden : public QObject
 {
@@ -73,8 +73,8 @@ void tst_EchteWoorden::initTestCase()
     SortStrings(Woorden_, false);
     BuildHashTable(Woorden_, Tabel_);
     MaakLetterIndex(Woorden_, Gebied().Laatste, LetterStart_);
-    Regels_ = Naslag::Regels(inhoud_.toStdString());
-    Words_ = Naslag::Words(inhoud_.toStdString());
+    Regels_ = Tegenproef::Regels(inhoud_.toStdString());
+    Words_ = Tegenproef::Words(inhoud_.toStdString());
 }
 
 void tst_EchteWoorden::theListIsSortedAndIndexed()
@@ -113,9 +113,9 @@ static Lijst TeMaken(const Lijst &words, const std::string &key)
         vorige = woord[0];
         if (eerste && springers.contains(static_cast<char>(woord[0] - 1)))
             continue;
-        if (woord.size() <= key.size() && !Naslag::IsTeMaken(woord.substr(0, 1), key))
+        if (woord.size() <= key.size() && !Tegenproef::IsTeMaken(woord.substr(0, 1), key))
             springers.insert(woord[0]);
-        if (woord.size() <= key.size() && Naslag::IsTeMaken(woord, key))
+        if (woord.size() <= key.size() && Tegenproef::IsTeMaken(woord, key))
             gevonden.push_back(woord);
     }
     return gevonden;
@@ -131,10 +131,10 @@ void tst_EchteWoorden::wordsOfLetters()
         });
         QVERIFY2(gevonden == TeMaken(Words_, key), key.c_str());
         if (ronde < 10)
-            QVERIFY2(gevonden == Naslag::Letters(Words_, Naslag::LetterStarts(Words_), key, key.size(), 0),
+            QVERIFY2(gevonden == Tegenproef::Letters(Words_, Tegenproef::LetterStarts(Words_), key, key.size(), 0),
                      key.c_str());
         const auto alle = std::count_if(Words_.begin(), Words_.end(), [&](auto &woord) {
-            return woord.size() <= key.size() && Naslag::IsTeMaken(woord, key);
+            return woord.size() <= key.size() && Tegenproef::IsTeMaken(woord, key);
         });
         raak += gevonden.size();
         overgeslagen += static_cast<size_t>(alle) - gevonden.size();
@@ -149,7 +149,8 @@ void tst_EchteWoorden::wordsByTheirBegin()
     for (int ronde = 0; ronde < 100; ++ronde) {
         const std::string key = Key(3 + toeval_() % 8, ronde % 3);
         const Lijst gevonden = Vind([&](const Vondst &v) { ZoekBegin(Gebied(), key, v); });
-        QVERIFY2(gevonden == Naslag::Die(Words_, [&](auto &woord) { return Naslag::Begint(woord, key); }), key.c_str());
+        QVERIFY2(gevonden == Tegenproef::Die(Words_, [&](auto &woord) { return Tegenproef::Begint(woord, key); }),
+                 key.c_str());
         raak += gevonden.size();
     }
     QVERIFY(raak > 1000);
@@ -162,7 +163,7 @@ void tst_EchteWoorden::wordsByTheirEnd()
         std::string key = Key(19, ronde % 3);
         key = key.substr(key.size() - std::min(key.size(), 1 + toeval_() % 8));
         const Lijst gevonden = Vind([&](const Vondst &v) { ZoekEind(Gebied(), key, v); });
-        QVERIFY2(gevonden == Naslag::Die(Words_, [&](auto &woord) { return Naslag::Eindigt(woord, key); }),
+        QVERIFY2(gevonden == Tegenproef::Die(Words_, [&](auto &woord) { return Tegenproef::Eindigt(woord, key); }),
                  key.c_str());
         raak += gevonden.size();
     }
@@ -177,7 +178,8 @@ void tst_EchteWoorden::wordsThatContainAKey()
         const size_t begin = toeval_() % woord.size();
         const std::string key = ronde % 10 == 0 ? Key(4, 1) : woord.substr(begin, 1 + toeval_() % 7);
         const Lijst gevonden = Vind([&](const Vondst &v) { ZoekTrefwoord(inhoud_, key, v); });
-        QVERIFY2(gevonden == Naslag::Die(Regels_, [&](auto &regel) { return regel.find(key) != std::string::npos; }),
+        QVERIFY2(gevonden ==
+                     Tegenproef::Die(Regels_, [&](auto &regel) { return regel.find(key) != std::string::npos; }),
                  key.c_str());
         raak += gevonden.size();
     }
@@ -188,7 +190,7 @@ void tst_EchteWoorden::wordsThatContainAKey()
 void tst_EchteWoorden::wordsWithThreeVowelsInARow()
 {
     const Lijst gevonden = Vind([&](const Vondst &v) { ZoekKlinkers(Gebied(), v); });
-    const Lijst verwacht = Naslag::MetKlinkers(Words_);
+    const Lijst verwacht = Tegenproef::MetKlinkers(Words_);
     Lijst op = gevonden;
     std::sort(op.begin(), op.end());
     QVERIFY(op == verwacht);
@@ -201,7 +203,7 @@ void tst_EchteWoorden::wordsByTheirLength()
 {
     for (qint16 lengte = 0; lengte < 40; ++lengte)
         QVERIFY(Vind([&](const Vondst &v) { ZoekLengte(Gebied(), lengte, v); }) ==
-                Naslag::Die(Words_, [&](auto &woord) { return woord.size() == static_cast<size_t>(lengte); }));
+                Tegenproef::Die(Words_, [&](auto &woord) { return woord.size() == static_cast<size_t>(lengte); }));
 }
 
 void tst_EchteWoorden::wordsOfTheSameLetters()
@@ -216,7 +218,7 @@ void tst_EchteWoorden::wordsOfTheSameLetters()
             std::shuffle(key.begin(), key.end(), toeval_);
         }
         const Lijst gevonden = Vind([&](auto v) { ZoekWisselingen(inhoud_, key, v); });
-        QVERIFY2(gevonden == Naslag::Wisselingen(Regels_, key), key.c_str());
+        QVERIFY2(gevonden == Tegenproef::Wisselingen(Regels_, key), key.c_str());
         raak += gevonden.size();
     }
     QVERIFY(raak > 60);
@@ -224,23 +226,23 @@ void tst_EchteWoorden::wordsOfTheSameLetters()
 
 void tst_EchteWoorden::wordsWithMissingLetters()
 {
-    const Lijst lines = Naslag::InHoofdletters(Regels_);
+    const Lijst lines = Tegenproef::InHoofdletters(Regels_);
     size_t raak = 0;
     for (int ronde = 0; ronde < 40; ++ronde) {
-        const std::string cellen = Naslag::Vervang(Woord(19), "ij", "?");
+        const std::string cellen = Tegenproef::Vervang(Woord(19), "ij", "?");
         std::string captions;
         for (const char cel : cellen) {
             if (toeval_() % 3 != 0)
                 captions += '-';
             else
-                captions += cel == '?' ? "IJ" : Naslag::Zet(std::string(1, cel), true);
+                captions += cel == '?' ? "IJ" : Tegenproef::Zet(std::string(1, cel), true);
         }
         if (ronde % 10 == 9)
             captions.replace(0, 2, "IJ"); // two cells that become one
         const auto pattern = QByteArray::fromStdString(captions);
         const Lijst gevonden =
             Vind([&](auto v) { ZoekOntbrekende(inhoud_, pattern, static_cast<qsizetype>(cellen.size()), v); });
-        QVERIFY2(gevonden == Naslag::Ontbrekende(lines, captions, cellen.size()), captions.c_str());
+        QVERIFY2(gevonden == Tegenproef::Ontbrekende(lines, captions, cellen.size()), captions.c_str());
         raak += gevonden.size();
     }
     QVERIFY(raak > 1000);
@@ -248,12 +250,12 @@ void tst_EchteWoorden::wordsWithMissingLetters()
 
 void tst_EchteWoorden::wordsOfSoManyCells()
 {
-    std::map<size_t, Lijst> gevonden = Naslag::Paneel(Regels_);
+    std::map<size_t, Lijst> gevonden = Tegenproef::Paneel(Regels_);
     for (size_t cellen = 2; cellen <= 19; ++cellen) {
         QStringList verwacht;
         for (const std::string &woord : gevonden[cellen])
             verwacht += Files::NaarTekst(QByteArrayView(woord.data(), std::ssize(woord)));
-        QVERIFY(ZoekLengte(inhoud_, static_cast<qsizetype>(cellen)) == verwacht);
+        QVERIFY(WoordenVanLengte(inhoud_, static_cast<qsizetype>(cellen)) == verwacht);
     }
 }
 

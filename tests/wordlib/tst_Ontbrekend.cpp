@@ -1,6 +1,6 @@
 #include "support/Testbank.h"
-#include "wordlib/Naslag.h"
 #include "wordlib/Ontbrekend.h"
+#include "wordlib/Tegenproef.h"
 
 #include <random>
 
@@ -83,8 +83,8 @@ void tst_Ontbrekend::anyLinesAreSearched()
             pattern += toeval() % 4 == 0 ? "IJ" : QByteArray(1, captions[toeval() % captions.size()]);
         QByteArrayList verwacht;
         for (const std::string &regel :
-             Naslag::Ontbrekende(Naslag::InHoofdletters(Naslag::Regels(database.toStdString())), pattern.toStdString(),
-                                 static_cast<size_t>(cellen)))
+             Tegenproef::Ontbrekende(Tegenproef::InHoofdletters(Tegenproef::Regels(database.toStdString())),
+                                     pattern.toStdString(), static_cast<size_t>(cellen)))
             verwacht += QByteArray::fromStdString(regel);
         QCOMPARE(Gevonden(database, pattern, cellen), verwacht.join('|'));
     }

@@ -1,5 +1,5 @@
 #include "support/Testbank.h"
-#include "wordlib/Naslag.h"
+#include "wordlib/Tegenproef.h"
 #include "wordlib/Wisseling.h"
 
 #include <random>
@@ -83,7 +83,8 @@ void tst_Wisseling::anyLinesAreSearched()
         for (auto lengte = 1 + toeval() % 5; lengte > 0; --lengte)
             key += tekens[toeval() % (ronde % 4 == 0 ? tekens.size() : 4)];
         QByteArrayList verwacht;
-        for (const std::string &regel : Naslag::Wisselingen(Naslag::Regels(database.toStdString()), key.toStdString()))
+        for (const std::string &regel :
+             Tegenproef::Wisselingen(Tegenproef::Regels(database.toStdString()), key.toStdString()))
             verwacht += QByteArray::fromStdString(regel);
         QCOMPARE(Gevonden(database, key), verwacht.join('|'));
     }

@@ -8,7 +8,7 @@
 
 /// The searches of the word database once more, written down as plainly as can be and without anything of the engine:
 /// what it is compared with.
-namespace Naslag {
+namespace Tegenproef {
 
 using Lijst = std::vector<std::string>;
 using Tekst = std::string_view;
@@ -269,4 +269,4 @@ inline std::map<size_t, Lijst> Paneel(const Lijst &regels)
     return gevonden;
 }
 
-} // namespace Naslag
+} // namespace Tegenproef
