@@ -1,5 +1,8 @@
 #pragma once
 
+#include "platform/Canvas.h"
+#include "platform/Kleur.h"
+
 #include <QEventLoop>
 #include <QString>
 
@@ -61,6 +64,10 @@ void MeldGeenDatabase();
 void ToonSpecialeTekens();
 /// The first character upper case, the rest lower case.
 QString EersteHoofdletter(const QString &tekst);
+
+// The letters of the words.
+inline const Letter BordLetter{.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)};      ///< on Pic
+inline const Letter BordLetterGroot{.Punten = 48, .Vet = true, .Kleur = RGB(80, 80, 80)}; ///< on PicGroot
 
 // Where a letter stands in its cell, in twips from the cell's corner.
 inline constexpr int LetterX = 165; ///< on Pic

@@ -28,7 +28,7 @@ void VulLegeVakjes()
 {
     const Screen::Bezig bezig;
     PictureBox &pic = *Main().Pic;
-    pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    pic.ZetLetter(BordLetter);
     const int bord = BordNummer();
     for (int kolom = 0; kolom < BoardWidth && BordNummer() == bord; ++kolom) {
         for (int rij = 0; rij < BoardHeight && BordNummer() == bord; ++rij) {

@@ -129,7 +129,7 @@ void FilippineForm::OkKnop_Click()
         MsgBox(u"Omschrijving en/of Oplossing intypen..."_s, Knoppen::Ok, Icoon::Geen, u"Error"_s);
         return;
     }
-    Main().Pic->ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    Main().Pic->ZetLetter(BordLetter);
     Text2->setText(MetCode(Text2->text()));
     if (Option[1]->isChecked())
         PlaatsZoekwoord();

@@ -2,7 +2,6 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
-#include "platform/Kleur.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,8 +34,9 @@ void LetterForm::OkKnop_Click()
 {
     OkKnop->Druk();
     PictureBox &pic = *Main().Pic;
-    pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
-    Main().PicGroot->ZetLetter({.Naam = u"Arial Narrow"_s, .Punten = 48, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    pic.ZetLetter(BordLetter);
+    Main().PicGroot->ZetLetter({.Naam = u"Arial Narrow"_s});
+    Main().PicGroot->ZetLetter(BordLetterGroot);
     const QString letter = Label2->Caption();
     const int verschuiving = letter.size() == 1 ? LetterVerschuiving(letter.front()) : 0; // "IJ" is no "I"
     pic.PrintOp(CurCol * VakMaat + LetterX + verschuiving, CurRow * VakMaat + LetterY, letter);

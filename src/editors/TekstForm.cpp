@@ -137,8 +137,8 @@ void TekstForm::DrukLetters(const QString &woord) const
 {
     PictureBox &pic = *Main().Pic;
     PictureBox &groot = *Main().PicGroot;
-    pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
-    groot.ZetLetter({.Punten = 48, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    pic.ZetLetter(BordLetter);
+    groot.ZetLetter(BordLetterGroot);
     const Richting &richting = GekozenRichting();
     int kolom = CurCol, rij = CurRow;
     for (const QChar teken : Hoofdletters(woord)) {

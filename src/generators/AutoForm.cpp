@@ -177,7 +177,7 @@ void AutoForm::ExportKnop_Click()
 void AutoForm::TekenLetters()
 {
     PictureBox &pic = *Main().Pic;
-    pic.ZetLetter({.Punten = 12, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    pic.ZetLetter(BordLetter);
     const qsizetype aantal = std::min<qsizetype>(WoordzoekerRaster.size(), qsizetype{BoardWidth} * BoardHeight);
     for (int i = 0; i < aantal; ++i) {
         const QChar letter = WoordzoekerRaster[i];

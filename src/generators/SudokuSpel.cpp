@@ -20,7 +20,7 @@ static int Oplossing(int cel)
 void TekenOplossing()
 {
     PictureBox &groot = *Main().PicGroot;
-    groot.ZetLetter({.Punten = 48, .Vet = true, .Kleur = RGB(80, 80, 80)});
+    groot.ZetLetter(BordLetterGroot);
     for (int cel = 0; cel < 81; ++cel) {
         const int x = 150 + cel % 9 * VakMaatGroot;
         const int y = 150 + cel / 9 * VakMaatGroot;

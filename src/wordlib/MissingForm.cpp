@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 constexpr int Onbekend = 64;
 constexpr int LangeIJ = 91; // comes behind the Z
 
-constexpr int AantalLetters = 19;
+constexpr int MeesteLetters = 19;
 
 constexpr QRgb KleurVrij = RGB(230, 240, 250);
 constexpr QRgb KleurInGebruik = RGB(200, 200, 200);
@@ -31,7 +31,7 @@ MissingForm::MissingForm() : Form(u"MissingForm"_s, u"Ontbrekende Letters"_s, 81
     Label2 = MaakLabel("Label2", QString());
     MaakLetters();
     Label3 = MaakLabel("Label3", QString());
-    HScroll1 = MaakSchuif("HScroll1", u"Woordlengte"_s, 0, AantalLetters);
+    HScroll1 = MaakSchuif("HScroll1", u"Woordlengte"_s, 0, MeesteLetters);
     Label4 = MaakLabel("Label4", u"Woordlengte : "_s);
     Label5 = MaakLabel("Label5", u"0 letters"_s);
     OkKnop = MaakOkKnop();
@@ -72,7 +72,7 @@ MissingForm::MissingForm() : Form(u"MissingForm"_s, u"Ontbrekende Letters"_s, 81
 
 void MissingForm::MaakLetters()
 {
-    for (int i = 1; i <= AantalLetters; ++i) {
+    for (int i = 1; i <= MeesteLetters; ++i) {
         const int links = 2730 + 270 * (i - 1);
         const QString nummer = QString::number(i);
         auto *schuif = Maak<ScrollBar>("", u"Letter "_s + nummer, nullptr, Qt::Vertical);
