@@ -269,7 +269,7 @@ private slots:
     {
         Programma programma;
         Bestuurder bestuurder(u"AboutForm"_s, [](Form &form) { QVERIFY(form.isModal()); });
-        KlikMetDruk(*programma.Main().AboutKnop, [&] { QVERIFY(!QApplication::activeModalWidget()); });
+        KlikMetDruk(*programma.Main().AboutKnop, [&] { QVERIFY(!bestuurder.Gezien()); });
         QVERIFY(bestuurder.Gezien());
     }
 
