@@ -297,6 +297,8 @@ private slots:
         QVERIFY(!bord.Venster.Label2->font().bold());
         QCOMPARE(bord.Venster.windowType(), Qt::Window); // it can be minimised, as no dialog can
         QCOMPARE(bord.Venster.windowIcon().availableSizes(), QList{QSize(128, 128)});
+        QCOMPARE(bord.Venster.windowIcon().pixmap(128).toImage(),
+                 Plaatjes::Pixmap(u"rasteratelier"_s, QSize(128, 128), 1).toImage());
         const int balk = bord.Venster.findChild<QMenuBar *>()->sizeHint().height();
         QCOMPARE(bord.Venster.maximumSize(), bord.Venster.Pic->parentWidget()->size() + QSize(0, balk));
         QVERIFY(&Main() == &bord.Venster);

@@ -128,8 +128,8 @@ private slots:
     {
         Bord bord;
         NieuwForm form;
-        form.Combo1->setEditText(u" 11"_s);
         form.Combo2->setCurrentIndex(1);
+        form.Combo1->setEditText(u" 11"_s);
         QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal ( 11)"_s);
         QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal (10)"_s);
         form.Combo1->setCurrentIndex(0);

@@ -59,6 +59,8 @@ private slots:
         OpenFile form;
         form.List1->SetListIndex(0);
         QCOMPARE(TabVolgorde(form), u"List1 DelKnop CancelKnop OkKnop"_s);
+        QCOMPARE(Leesnamen(form), (QStringList{u"CancelKnop=Annuleren"_s, u"DelKnop=Puzzel verwijderen"_s,
+                                               u"List1=Puzzels"_s, u"OkKnop=Ok"_s}));
     }
 
     void asItOpens()

@@ -82,6 +82,8 @@ private slots:
         Bord bord;
         SaveForm form;
         QCOMPARE(TabVolgorde(form), u"Text1 CancelKnop SaveKnop"_s);
+        QCOMPARE(Leesnamen(form), (QStringList{u"Bar=Voortgang"_s, u"CancelKnop=Annuleren"_s, u"SaveKnop=Opslaan"_s,
+                                               u"Text1=Naam van de puzzel"_s}));
     }
 
     void asItOpens()

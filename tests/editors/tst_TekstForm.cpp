@@ -45,6 +45,13 @@ private slots:
         PuzzelType = static_cast<quint8>(soort);
         TekstForm form;
         QTEST(TabVolgorde(form), "volgorde");
+        QCOMPARE(Leesnamen(form),
+                 (QStringList{
+                     u"CancelKnop=Annuleren"_s, u"Check1=Oplossing omgekeerd"_s, u"Combo1=Vaknummer Kruiswoordpuzzel"_s,
+                     u"CopyKnop=Copy tekst vanaf hoofdscherm"_s, u"Image1=Richting"_s, u"OkKnop=Ok"_s,
+                     u"Option1=Oplossing Horizontaal Plaatsen"_s, u"Option2=Oplossing Vertikaal Plaatsen"_s,
+                     u"Option3=Diagonaal naar rechtsonder Plaatsen"_s, u"Option4=Diagonaal naar linksonder plaatsen"_s,
+                     u"Text1=Omschrijving"_s, u"Text2=Oplossing"_s}));
     }
 
     void asItOpens()

@@ -51,6 +51,9 @@ private slots:
         Bord bord;
         VakForm form;
         QCOMPARE(TabVolgorde(form), u"Text1 HScroll1 CancelKnop OkKnop"_s);
+        QCOMPARE(Leesnamen(form), (QStringList{u"CancelKnop=Annuleren"_s, u"HScroll1=Soort Vakje"_s,
+                                               u"ImgO=Pijl omlaag"_s, u"ImgR=Pijl naar rechts"_s, u"OkKnop=Ok"_s,
+                                               u"Pic=Voorbeeld van het vakje"_s, u"Text1=Omschrijving"_s}));
     }
 
     void asItOpens()

@@ -64,6 +64,8 @@ private slots:
     void aPictureComesBackPixelForPixel();
     void anotherReaderSeesTheSamePicture();
     void aPictureThatAnotherProgramWroteIsRead();
+    void aPictureOfAnyKindIsReadAsItIs_data();
+    void aPictureOfAnyKindIsReadAsItIs();
     void aLoadedPictureStaysWhenItsFileGoes();
     void aBitmapFileHasThirtyTwoBits_data();
     void aBitmapFileHasThirtyTwoBits();
@@ -112,6 +114,30 @@ void tst_PictureFiles::aPictureThatAnotherProgramWroteIsRead()
     QVERIFY(BontBeeld().convertToFormat(QImage::Format_Mono).save(Volledig("b.bmp"), "bmp"));
     QCOMPARE(Files::LoadPicture(Volledig("b.bmp")),
              BontBeeld().convertToFormat(QImage::Format_Mono).convertToFormat(QImage::Format_RGB32));
+}
+
+void tst_PictureFiles::aPictureOfAnyKindIsReadAsItIs_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QByteArray pixels;
+    for (int i = 0; i < 12; ++i)
+        pixels += Bytes(i * 0x081420 + 0x102030);
+    const QByteArray vulling(2, 0); // so that the pixels begin at a multiple of four, as those of our own do
+    Geval("top row first", Bitmap(4, -3, 32, 0, vulling, pixels));
+    Geval("top row first, at an odd place", Bitmap(4, -3, 32, 0, "x", pixels));
+    Geval("bottom row first", Bitmap(4, 3, 32, 0, vulling, pixels));
+    Geval("24 bits", Bitmap(4, -3, 24, 0, vulling, pixels.first(4 * 3 * 3)));
+    Geval("red and blue exchanged",
+          Bitmap(4, -3, 32, 3, Bytes(0xFF) + Bytes(0xFF00) + Bytes(0xFF0000) + vulling, pixels));
+}
+
+void tst_PictureFiles::aPictureOfAnyKindIsReadAsItIs()
+{
+    QFETCH(QByteArray, bytes);
+    bank_->Schrijf(u"a.bmp"_s, bytes);
+    const QImage verwacht = QImage::fromData(bytes, "bmp").convertToFormat(QImage::Format_RGB32);
+    QCOMPARE(verwacht.size(), QSize(4, 3));
+    QCOMPARE(Files::LoadPicture(Volledig("a.bmp")), verwacht);
 }
 
 void tst_PictureFiles::aLoadedPictureStaysWhenItsFileGoes()
@@ -166,6 +192,9 @@ void tst_PictureFiles::whatIsNoBitmapGivesNoPicture_data()
     Geval("two letters", QByteArray("BM"));
     Geval("zeroes", QByteArray(1000, 0));
     Geval("all bits set", QByteArray(1000, '\xFF'));
+    const QByteArray onze = Bitmap(13, -7, 32, 0, QByteArray(2, 0), QByteArray(13 * 4 * 7, 'x'));
+    Geval("another first letter", 'A' + onze.sliced(1));
+    Geval("another second letter", "BA" + onze.sliced(2));
     Geval("letters behind a bitmap's two", "BM" + QByteArray(1000, 'x'));
     Geval("a text", QByteArray("Puzzel\r\n").repeated(20));
     QByteArray png;

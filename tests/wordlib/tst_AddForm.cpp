@@ -60,6 +60,11 @@ private slots:
         Woordbord bord;
         AddForm form;
         QCOMPARE(TabVolgorde(form), u"List2 List1 Text1 Text2 NieuwKnop DelKnop AddKnop CancelKnop SaveKnop"_s);
+        QCOMPARE(Leesnamen(form),
+                 (QStringList{u"AddKnop=Woord toevoegen"_s, u"Bar=Voortgang"_s, u"CancelKnop=Annuleren"_s,
+                              u"DelKnop=Woord verwijderen"_s, u"List1=Woorden"_s, u"List2=Onderwerpen"_s,
+                              u"NieuwKnop=Nieuwe woordlijst aanmaken"_s, u"SaveKnop=Woordlijst opslaan"_s,
+                              u"Text1=Puzzelwoord"_s, u"Text2=Onderwerp"_s}));
     }
 
     void asItOpens()

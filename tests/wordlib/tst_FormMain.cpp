@@ -43,6 +43,8 @@ private slots:
         Woordbord bord;
         FormMain form;
         QCOMPARE(TabVolgorde(form), u"Text1 List1 OkKnop ExportKnop"_s);
+        QCOMPARE(Leesnamen(form), (QStringList{u"ExportKnop=Copyeer de gevonden woorden"_s, u"List1=Gevonden woorden"_s,
+                                               u"OkKnop=Start zoeken"_s, u"Text1=Trefwoord"_s}));
     }
 
     void asItOpens()

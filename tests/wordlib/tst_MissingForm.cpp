@@ -102,6 +102,13 @@ private slots:
         Woordbord bord;
         MissingForm form;
         QCOMPARE(TabVolgorde(form), u"List1 HScroll1 OkKnop CancelKnop ExportKnop"_s);
+        QStringList namen{u"CancelKnop=Annuleren"_s,   u"ExportKnop=Woordenlijst exporteren naar hoofdscherm"_s,
+                          u"HScroll1=Woordlengte"_s,   u"HelpPic=Uitleg Ontbrekende letters"_s,
+                          u"List1=Gevonden woorden"_s, u"OkKnop=Ok"_s};
+        for (int i = 1; i <= 19; ++i)
+            namen += u"VScroll(%1)=Letter %1"_s.arg(i);
+        namen.sort();
+        QCOMPARE(Leesnamen(form), namen);
         form.HScroll1->setValue(2);
         QCOMPARE(TabVolgorde(form), u"List1 VScroll(1) VScroll(2) HScroll1 OkKnop CancelKnop ExportKnop"_s);
     }

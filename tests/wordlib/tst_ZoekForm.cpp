@@ -67,6 +67,12 @@ private slots:
         Woordbord bord("aal");
         ZoekForm form;
         QCOMPARE(TabVolgorde(form), u"Text1 Option1(0) Knop ExportKnop List1"_s);
+        QCOMPARE(Leesnamen(form),
+                 (QStringList{
+                     u"ExportKnop=Copy woorden t/m 20 letters"_s, u"Knop=Starten"_s, u"List1=Gevonden woorden"_s,
+                     u"Option1(0)=Woorden uit bovenstaande letters"_s, u"Option1(1)=Woorden die beginnen met..."_s,
+                     u"Option1(2)=Woorden die eindigen op..."_s, u"Option1(3)=Woorden waar het trefwoord in voorkomt"_s,
+                     u"Option1(4)=Minimaal 3 klinkers achter elkaar"_s, u"Picture1=Wacht"_s, u"Text1=Trefwoord"_s}));
     }
 
     void asItOpens()
