@@ -53,6 +53,7 @@ private slots:
         Geval("in between", Zweeds, 12, 14);
         Geval("Sudoku", Sudoku, 9, 9);
         Geval("Sudoku of another size, of a file", Sudoku, 12, 14);
+        Geval("Sudoku that is wider than high", Sudoku, 14, 12);
         Geval("Filippine", Filippine, 16, 19);
     }
     void theWholeBoard()

@@ -1,6 +1,7 @@
 #include "board/WoordPaden.h"
 #include "support/Onbevoegd.h"
 #include "support/Verloop.h"
+#include "support/Verwacht.h"
 #include "support/Woordbord.h"
 
 using namespace Qt::StringLiterals;
@@ -204,6 +205,14 @@ private slots:
         QCOMPARE(verloop.Stappen, QStringList{u"0.2 s | gedrukt oud"_s});
         QCOMPARE(Woorden(*main.List3), u"|appels|Boom|nr. 2|Zee"_s);
         QCOMPARE(bord.Veranderd(ervoor), u"List3"_s);
+    }
+
+    void theFolderIsReadAfterThePress()
+    {
+        Woordbord bord;
+        bord.Lijst(u"Zee"_s, "x");
+        KlikMetDruk(*bord.Venster.LoadKnop, [&] { bord.Lijst(u"Aarde"_s, "x"); });
+        QCOMPARE(Woorden(*bord.Venster.List3), u"Aarde|Zee"_s);
     }
 
     void withoutAFolderTheOldNamesStay_data()

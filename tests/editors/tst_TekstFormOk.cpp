@@ -211,6 +211,7 @@ private slots:
         const QString woord = u"ij"_s + QString(lengte - 1, u'a');
         VulIn(form, {0, 0, 0, woord});
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::Overloop));
+        QVERIFY(TekstVanFout([&] { form.OkKnop_Click(); }).endsWith(u" (een woord van meer dan 254 letters)"_s));
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QVERIFY(!form.Unloaded());
         QCOMPARE(form.Text2->text(), woord);

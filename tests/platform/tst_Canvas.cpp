@@ -405,6 +405,7 @@ private slots:
     {
         Doek doek;
         QCOMPARE(FoutVan([&] { doek.Scale(1, 0, 1, 10); }), int{Fout::OngeldigeWaarde});
+        QVERIFY(TekstVanFout([&] { doek.Scale(1, 0, 1, 10); }).endsWith(u" (een schaal zonder oppervlak)"_s));
         QCOMPARE(FoutVan([&] { doek.Scale(0, 3, 10, 3); }), int{Fout::OngeldigeWaarde});
         QCOMPARE(doek.ScaleMode(), ScaleModes::Twips);
         doek.SetSize(0, 300);

@@ -154,6 +154,18 @@ private slots:
         QCOMPARE(laag.pos(), dialoog.pos());
     }
 
+    // As the window manager shows it again that was put away.
+    void aWindowThatComesBackStaysWhereTheUserPutIt()
+    {
+        TestVenster venster;
+        venster.show();
+        venster.move(-40, -50);
+        QShowEvent event;
+        QSpontaneKeyEvent::setSpontaneous(&event);
+        qApp->notify(&venster, &event); // sendEvent would take that back
+        QCOMPARE(venster.pos(), QPoint(-40, -50));
+    }
+
     void itBelongsToTheWindowThatIsActive()
     {
         TestVenster eerste;

@@ -141,14 +141,7 @@ private slots:
 
     void aFailureTellsTheText()
     {
-        const auto tekstVan = [](const QString &tekst) {
-            try {
-                Getallen::NaarByte(tekst);
-            } catch (const Fout &fout) {
-                return fout.tekst();
-            }
-            return QString();
-        };
+        const auto tekstVan = [](const QString &tekst) { return TekstVanFout([&] { Getallen::NaarByte(tekst); }); };
         QVERIFY(tekstVan(u"drie"_s).endsWith("(drie)"_L1));
         QVERIFY(tekstVan(u"300"_s).endsWith("(300)"_L1));
         QVERIFY(tekstVan(QString(1000, u'x')).endsWith(u" ("_s + QString(40, u'x') + u')'));

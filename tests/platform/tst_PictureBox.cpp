@@ -360,6 +360,13 @@ private slots:
         QCOMPARE(box.Image(), voor);
     }
 
+    void anImpossibleSizeIsTold()
+    {
+        PixelBox box;
+        QVERIFY(TekstVanFout([&] { box.SetSize(-1, 15); }).endsWith(u" (een negatieve maat)"_s));
+        QVERIFY(TekstVanFout([&] { box.SetSize(1e9, 1e9); }).endsWith(u" (een te grote afbeelding)"_s));
+    }
+
     void theLargestPictureFits()
     {
         const PictureBox box(nullptr);

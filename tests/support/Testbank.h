@@ -102,6 +102,17 @@ template <class Opdracht> int FoutVan(Opdracht &&opdracht)
     return 0;
 }
 
+/// What the failure of a command says; empty when there is none.
+template <class Opdracht> QString TekstVanFout(Opdracht &&opdracht)
+{
+    try {
+        opdracht();
+    } catch (const Fout &fout) {
+        return fout.tekst();
+    }
+    return {};
+}
+
 /// The main function of a test program with windows, under the program's own style.
 int TestMain(int argc, char *argv[], int (*voer)(int, char **));
 
