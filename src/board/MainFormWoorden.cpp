@@ -3,7 +3,6 @@
 #include "board/MainForm.h"
 #include "board/WoordPaden.h"
 #include "board/Woordlijst.h"
-#include "platform/Berichten.h"
 #include "platform/Files.h"
 #include "platform/Fout.h"
 #include "platform/Kleur.h"
