@@ -342,8 +342,10 @@ private slots:
         Programma programma;
         if (index == 7)
             programma.Scherm.Begin(Kruiswoord, 16, 19);
+        programma.Scherm.InBewerking();
         programma.Scherm.Klik(Qt::LeftButton, 3, 4);
         programma.Main().SoortPlaatsing->close();
+        const Stand ervoor = programma.Scherm.Nu();
         bool kader = false;
         Bestuurder bestuurder(venster, [&](Form &form) {
             kader = programma.Main().Shape1->isVisible();
@@ -353,6 +355,7 @@ private slots:
         QVERIFY(bestuurder.Gezien());
         QVERIFY(kader); // the frame stays while the editor is open
         QVERIFY(programma.Main().Shape1->isHidden());
+        QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Shape1"_s); // the line of a word stays
     }
 
     void aClickOnAFilippineOpensItsEditor()
@@ -380,6 +383,7 @@ private slots:
     {
         QFETCH(int, index);
         Programma programma;
+        programma.Scherm.InBewerking();
         programma.Scherm.Klik(Qt::LeftButton, 3, 4);
         programma.Main().SoortPlaatsing->close();
         const Stand ervoor = programma.Scherm.Nu();

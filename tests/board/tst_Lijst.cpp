@@ -104,7 +104,10 @@ private slots:
         Bord bord;
         PuzzelType = soort;
         bord.Venster.VoegRijenToe({{plaats, {}, oplossing, u"-"_s}});
+        bord.Venster.Shape1->show();
+        const Stand ervoor = bord.Nu();
         bord.Venster.ListView1_ItemClick();
+        QCOMPARE(bord.Veranderd(ervoor), u"Line1 Line1.Punten"_s);
         QVERIFY(!bord.Venster.Line1->isHidden());
         QCOMPARE(Lijn(bord), lijn);
     }
@@ -211,10 +214,12 @@ private slots:
     {
         Bord bord;
         bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, QString(73, u'a'), {}}});
+        const Stand ervoor = bord.Nu();
         QCOMPARE(FoutVan([&] { bord.Venster.ListView1_ItemClick(); }), int(Fout::Overloop));
         Form::Voer(u"lijst"_s, [&] { bord.Venster.ListView1_ItemClick(); });
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QVERIFY(bord.Bank.Script.Gezien[0].Tekst.contains(u"Overloop"_s));
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void aClickOfThePointerShowsTheLineAgain()
@@ -283,7 +288,8 @@ private slots:
     {
         Bord bord;
         bord.InBewerking();
-        bord.Venster.VoegRijenToe({{u"A-02 / 17-H"_s, {}, u"wijn"_s, u"-"_s}});
+        PuzzelGewijzigd = false;
+        bord.Venster.VoegRijenToe({{u"A-02 / 17-H"_s, {}, u" Wijn "_s, u"-"_s}});
         bord.Venster.ToonAantal();
         Kies(bord, 1);
         QVERIFY(!bord.Venster.Line1->isHidden());
@@ -293,9 +299,10 @@ private slots:
         QCOMPARE(bord.Veranderd(ervoor), QString());
         bord.Venster.DelKnop_Click();
         QCOMPARE(bord.Veranderd(ervoor), u"Label11 Line1 ListView1"_s);
-        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wil je (wijn) verwijderen uit de lijst?"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wil je ( Wijn ) verwijderen uit de lijst?"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u" Delete"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
         QCOMPARE(bord.Rij(0), u"A-01 / 1-H||aap|-"_s);
         QCOMPARE(bord.Venster.Label11->Caption(), u"1 Items"_s);
@@ -325,15 +332,27 @@ private slots:
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
     }
 
+    void nothingIsAskedOnceTheWindowIsClosed()
+    {
+        Bord bord;
+        bord.Venster.show();
+        bord.Venster.VoegRijenToe({{u"-"_s, {}, u"een"_s, {}}});
+        KlikMetDruk(*bord.Venster.DelKnop, [&] { bord.Venster.close(); });
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
+    }
+
     void deletingTheOnlyRow()
     {
         Bord bord;
         bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
         bord.Venster.ListView1_ItemClick();
+        PuzzelGewijzigd = true;
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
         bord.Venster.DelKnop_Click();
         QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
         QVERIFY(bord.Venster.Line1->isHidden());
+        QVERIFY(PuzzelGewijzigd); // this too is left as it was
     }
 
     void anEmptyListOnlyShowsThePressEffect()

@@ -53,7 +53,8 @@ class tst_Opvullen : public QObject
     Q_OBJECT
 
     /// The board with a letter in each cell, column after column, each printed by itself.
-    static QImage MetLetters(const QImage &pic, int breedte, int hoogte, const QString &letters)
+    static QImage MetLetters(const QImage &pic, int breedte, int hoogte, const QString &letters,
+                             const QString &font = u"Arial"_s)
     {
         QImage beeld = pic;
         QPainter painter(&beeld);
@@ -61,7 +62,7 @@ class tst_Opvullen : public QObject
             for (int rij = 0; rij < hoogte; ++rij) {
                 const QChar letter = letters[(kolom * hoogte + rij) % letters.size()];
                 const int x = letter == u'W' ? 8 : letter == u'I' ? 15 : 11;
-                const QImage los = Gedrukt({31, 31}, QString(letter), x, 7, u"Arial"_s, 12, true, qRgb(80, 80, 80));
+                const QImage los = Gedrukt({31, 31}, QString(letter), x, 7, font, 12, true, qRgb(80, 80, 80));
                 painter.drawImage(kolom * 30 + 1, rij * 30 + 1, los, 1, 1, 29, 29);
             }
         return beeld;
@@ -92,12 +93,45 @@ private slots:
         Letters = letters;
         Bord bord;
         bord.Begin(Woordzoeker, maat.width(), maat.height());
+        bord.InBewerking(); // the frame and the line stay
+        PuzzelGewijzigd = false;
+        VakZwart.fill(true); // which pixels are white isn't asked of it
         const Stand ervoor = bord.Nu();
         const QImage leeg = bord.Pic();
         VulLegeVakjes();
         QCOMPARE(bord.Pic(), MetLetters(leeg, maat.width(), maat.height(), letters));
         QCOMPARE(bord.Veranderd(ervoor), u"Pic"_s); // the puzzle doesn't count as changed
         QVERIFY(!QGuiApplication::overrideCursor());
+    }
+
+    void theFontKeepsItsName()
+    {
+        Bord bord;
+        bord.Begin(Woordzoeker, 9, 9);
+        const QImage leeg = bord.Pic();
+        bord.Venster.Pic->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = qRgb(0, 0, 0)});
+        VulLegeVakjes();
+        QCOMPARE(bord.Pic(), MetLetters(leeg, 9, 9, Letters, u"Courier New"_s));
+        QCOMPARE(Lettersoort(*bord.Venster.Pic), u"Courier New 12 1 ff505050"_s);
+    }
+
+    void eachCellIsLookedAtWhenItsTurnComes()
+    {
+        Bord bord;
+        bord.Begin(Woordzoeker, 9, 9);
+        bord.Klik(Qt::RightButton, 5, 5);
+        bool eerste = true;
+        KijkKlok klok([&] {
+            if (std::exchange(eerste, false)) {
+                bord.Klik(Qt::RightButton, 5, 5);
+                bord.Klik(Qt::RightButton, 8, 8);
+            }
+        });
+        VulLegeVakjes();
+        QCOMPARE(Stappen.count(u"Rnd"_s), 80);
+        QVERIFY(HeeftInkt(bord.Pic(), Binnen(5, 5)));
+        QCOMPARE(InktVlak(bord.Pic(), Binnen(8, 8), qRgb(60, 60, 60)), Binnen(8, 8)); // no letter on it
+        QVERIFY(!HeeftInkt(bord.Pic(), Binnen(8, 8).adjusted(1, 1, -1, -1), qRgb(60, 60, 60)));
     }
 
     void aSecondFillChangesNothing()

@@ -197,6 +197,7 @@ private slots:
                 QStringList aan;
                 for (int i = 1; i <= 9; ++i) {
                     const QAction *item = bord.Venster.SoortVakTekst[static_cast<std::size_t>(i)];
+                    QVERIFY(item->isVisible());
                     if (!item->isSeparator() && item->isEnabled())
                         aan += QString::number(i);
                 }
@@ -267,12 +268,15 @@ private slots:
         QSignalSpy editor(&bord.Venster, &MainForm::EditorGekozen);
         bord.Venster.show();
         bord.Begin(soort, 9, 9);
+        bord.InBewerking();
         bord.Wijs(1, 1);
         bord.Venster.Pic_MouseDown(Qt::RightButton, QPoint(120, 80));
         bord.Venster.Pic_MouseDown(Qt::MiddleButton, QPoint(120, 80));
         QVERIFY(editor.isEmpty());
         bord.Venster.Shape1->BorderColor = Qt::black;
+        const Stand ervoor = bord.Nu();
         bord.Venster.Pic_MouseDown(Qt::LeftButton, QPoint(120, 80));
+        QCOMPARE(bord.Veranderd(ervoor), u"Shape1 %1"_s.arg(menu).trimmed()); // the line of a word stays
         QCOMPARE(bord.Venster.Shape1->BorderColor, qRgb(0, 200, 0));
         QCOMPARE(bord.Venster.SoortPlaatsing->isVisible(), menu == "SoortPlaatsing"_L1);
         QCOMPARE(bord.Venster.SudokuMenu->isVisible(), menu == "SudokuMenu"_L1);

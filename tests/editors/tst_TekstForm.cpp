@@ -54,11 +54,21 @@ private slots:
                      u"Text1=Omschrijving"_s, u"Text2=Oplossing"_s}));
     }
 
+    void asItOpens_data()
+    {
+        QTest::addColumn<int>("soort");
+        Geval("Zweeds", 1);
+        Geval("Woordzoeker", 2);
+        Geval("Kruiswoord", 3);
+    }
     void asItOpens()
     {
+        QFETCH(int, soort);
         Bord bord;
-        bord.Wijs(2, 6);
+        PuzzelType = static_cast<quint8>(soort);
         bord.InBewerking();
+        QCOMPARE(TekstForm().windowTitle(), u"Oplossing Plaatsen op Coordinaten"_s); // nothing was pointed at yet
+        bord.Wijs(2, 6);
         {
             TekstForm eerder;
             eerder.Option[1]->setChecked(true);
@@ -177,12 +187,15 @@ private slots:
     {
         Bord bord;
         bord.InBewerking();
-        bord.Venster.CopyLabel->SetCaption(u"Den Haag "_s);
+        bord.Venster.CopyLabel->SetCaption(u"Delft"_s);
         TekstForm form;
         form.Text2->setText(u"eerder"_s);
         const Stand ervoor = EditorStand(bord);
-        Klik(bord, *form.CopyKnop, [&] { QCOMPARE(form.Text2->text(), u"eerder"_s); });
-        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+        Klik(bord, *form.CopyKnop, [&] {
+            QCOMPARE(form.Text2->text(), u"eerder"_s);
+            bord.Venster.CopyLabel->SetCaption(u"Den Haag "_s);
+        });
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"CopyLabel"_s);
         QCOMPARE(form.focusWidget(), form.Text1);     // it stays where it was
         QCOMPARE(form.Text2->text(), u"Den Haag "_s); // as it stands there
         QCOMPARE(form.Label2->Caption(), u"Oplossing (9)"_s);

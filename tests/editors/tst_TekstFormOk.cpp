@@ -55,10 +55,10 @@ struct Borden
     {
         Groot.Druk(letter, QPoint(cel.x() * 120 + 40, cel.y() * 120 + 24), Lettertype(NaamGroot, 48, true), Grijs);
     }
-    void Nummer(QPoint cel, const QString &nummer, bool vet = true)
+    void Nummer(QPoint cel, const QString &nummer, bool vet = true, bool vetGroot = true)
     {
         Pic.Druk(nummer, cel * 30 + QPoint(3, 1), Lettertype(Naam, 6, vet), Zwart);
-        Groot.Druk(nummer, cel * 120 + QPoint(10, 4), Lettertype(NaamGroot, 20, vet), Zwart);
+        Groot.Druk(nummer, cel * 120 + QPoint(10, 4), Lettertype(NaamGroot, 20, vetGroot), Zwart);
     }
     void Vergelijk(const Bord &bord) const
     {
@@ -124,6 +124,8 @@ private slots:
         QCOMPARE(bord.Venster.Rijen(), (QList{Rij{u"B-03 / 34-H"_s, u"omschrijving"_s, oplossing, u"-"_s}}));
         QCOMPARE(LaatsteOplossing, oplossing);
         QCOMPARE(form.Text2->text(), oplossing);
+        QCOMPARE(Lettersoort(*bord.Venster.Pic), u"Arial 12 1 ff505050"_s); // without a letter too
+        QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial Narrow 48 1 ff505050"_s);
     }
 
     void wordsOnAndBeyondTheBoard_data()
@@ -241,6 +243,7 @@ private slots:
         Geval("printed as typed", u"012"_s, u"12"_s);
         Geval("not from the list", u"100"_s, u"100"_s);
         Geval("below the list", u"-3"_s, u"-3"_s);
+        Geval("rounded to the even one", u"3.5"_s, u"4"_s);
     }
     void theNumberOfAKruiswoord()
     {
@@ -249,10 +252,11 @@ private slots:
         for (const bool vet : {true, false}) {
             Bord bord;
             PuzzelType = Kruiswoord;
-            bord.Venster.Pic->FontBold = bord.Venster.PicGroot->FontBold = vet; // the number takes it as it is
+            bord.Venster.Pic->FontBold = vet; // the number takes it as it is, on either board
+            bord.Venster.PicGroot->FontBold = !vet;
             Borden verwacht(bord);
             Plaats(bord, {2, 3, 1, u"aap"_s, u"dier"_s, getypt});
-            verwacht.Nummer({2, 3}, getypt, vet);
+            verwacht.Nummer({2, 3}, getypt, vet, !vet);
             verwacht.Letter({2, 3}, u"A"_s);
             verwacht.Letter({2, 4}, u"A"_s);
             verwacht.Letter({2, 5}, u"P"_s);
@@ -286,7 +290,7 @@ private slots:
         QCOMPARE(Verschil(ervoor, EditorStand(bord)),
                  u"LaatsteOplossing Label11 ListView1 Pic PicGroot PuzzelGewijzigd"_s);
         if (soort == Kruiswoord)
-            verwacht.Nummer({2, 3}, u"1"_s, false);
+            verwacht.Nummer({2, 3}, u"1"_s, false, false);
         verwacht.Letter({2, 3}, u"O"_s);
         if (soort == Woordzoeker)
             verwacht.GroteLetter({2, 3}, u"O"_s);
@@ -295,6 +299,7 @@ private slots:
         QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial 48 1 ff505050"_s);
         QCOMPARE(bord.Venster.Label11->Caption(), u"2 Items"_s);
         QCOMPARE(bord.Rij(0), u"A-01 / 1-H||aap|-"_s);
+        QCOMPARE(bord.Venster.ListView1->currentIndex().row(), 0); // it stays the selected one
         QCOMPARE(bord.Rij(1), u"C-04 / 51-H|letter|o|"_s + (soort == Kruiswoord ? u"1"_s : u"-"_s));
         QCOMPARE(LaatsteOplossing, u"o"_s);
         QVERIFY(PuzzelGewijzigd);
@@ -323,16 +328,17 @@ private slots:
     {
         Bord bord;
         bord.Wijs(2, 3);
-        Stand ervoor = EditorStand(bord);
         TekstForm form;
+        bord.Venster.Label6->SetCaption(u"hier"_s); // whatever stands there
+        Stand ervoor = EditorStand(bord);
         form.VoegRegelToe(u"V"_s, u"Dier"_s, u"Aap"_s, 12);
-        QList<Rij> rijen{{u"C-04 / 51-V"_s, u"Dier"_s, u"Aap"_s, u"-"_s}};
+        QList<Rij> rijen{{u"hier-V"_s, u"Dier"_s, u"Aap"_s, u"-"_s}};
         QCOMPARE(bord.Venster.Rijen(), rijen);
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"ListView1"_s);
         PuzzelType = Kruiswoord;
         ervoor = EditorStand(bord);
         form.VoegRegelToe(u"H"_s, QString(), u"noot"_s, 12);
-        rijen += Rij{u"C-04 / 51-H"_s, QString(), u"noot"_s, u"12"_s};
+        rijen += Rij{u"hier-H"_s, QString(), u"noot"_s, u"12"_s};
         QCOMPARE(bord.Venster.Rijen(), rijen);
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), u"ListView1"_s);
         QVERIFY(!form.Unloaded());
@@ -351,6 +357,25 @@ private slots:
         });
         QVERIFY(form.Unloaded());
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);
+    }
+
+    void whatStandsThereAfterThePressIsPlaced()
+    {
+        Bord bord;
+        PuzzelType = Kruiswoord;
+        Borden verwacht(bord);
+        bord.Wijs(2, 3);
+        TekstForm form;
+        VulIn(form, {2, 3, 0, u"eerder"_s, u"vroeger"_s, u"1"_s, false});
+        Klik(bord, *form.OkKnop, [&] {
+            bord.Wijs(4, 6);
+            VulIn(form, {4, 6, 1, u"wij"_s, u"later"_s, u"2"_s, true});
+        });
+        verwacht.Nummer({4, 6}, u"2"_s);
+        verwacht.Letter({4, 6}, u"IJ"_s);
+        verwacht.Letter({4, 7}, u"W"_s, -45);
+        verwacht.Vergelijk(bord);
+        QCOMPARE(bord.Rij(0), u"E-07 / 101-V|later|wij|2"_s);
     }
 
     void whatAKindDoesNotAskForIsNotMissed()

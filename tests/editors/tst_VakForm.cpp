@@ -59,8 +59,9 @@ private slots:
     void asItOpens()
     {
         Bord bord;
-        bord.Wijs(2, 6);
         bord.InBewerking();
+        QCOMPARE(VakForm().windowTitle(), u"Informatievakje Plaatsen op Coordinaten"_s); // nothing was pointed at yet
+        bord.Wijs(2, 6);
         {
             VakForm eerder;
             eerder.HScroll1->setValue(6);

@@ -102,6 +102,7 @@ private slots:
         TekenVak(groot, kolom, rij, soort);
         QCOMPARE(Verschil(bord.Pic(), pic.Beeld), QString());
         QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
+        QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial Narrow 13 1 ff000000"_s); // for no text too
     }
 
     void anotherKindIsABoxWithItsTextAlone()
@@ -200,6 +201,7 @@ private slots:
         rij(u"seven, the last one in the cell below"_s, 1, letters, 0);
         rij(u"seven in a split cell"_s, 6, letters, 150);
         rij(u"empty lines move the text down"_s, 7, {u""_s, u""_s, u""_s, u"ONDER"_s}, 0);
+        rij(u"blanks move the text to the right"_s, 1, {u"   A"_s, u" B"_s}, 0);
         rij(u"an empty line in between"_s, 1, {u"BOVEN"_s, u""_s, u"ONDER"_s}, 0);
         rij(u"a break at the end is a line"_s, 5, letters.first(4) + QStringList{u""_s}, 150);
         rij(u"capitals"_s, 2, {u"ÉÉN IJS"_s, u"ÇÀ VA"_s}, 0);
@@ -337,6 +339,42 @@ private slots:
         QVERIFY(form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(HeeftInkt(bord.Groot(), BinnenGroot(2, 3)));
+    }
+
+    void whatStandsThereAfterThePressIsPlaced()
+    {
+        Bord bord;
+        Verwacht pic(bord.Pic()), groot(bord.Groot());
+        bord.Wijs(2, 3);
+        VakForm form;
+        form.HScroll1->setValue(5);
+        form.Text1->SetText(u"eerder"_s);
+        Klik(bord, *form.OkKnop, [&] {
+            form.HScroll1->setValue(8);
+            form.Text1->SetText(u"later"_s);
+            bord.Wijs(4, 6);
+            KleurVakjes = 3;
+            OrgineelRood = qRed(Groen);
+            OrgineelGroen = qGreen(Groen);
+            OrgineelBlauw = qBlue(Groen);
+        });
+        pic.En(Tegel(8, qRgb(244, 154, 149)), QPoint(120, 180));
+        TekenVak(groot, 4, 6, 8);
+        DrukRegel(groot, 4, 6, 0, u"LATER"_s);
+        QCOMPARE(Verschil(bord.Pic(), pic.Beeld), QString());
+        QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
+    }
+
+    void closedDuringThePressEffectItPlacesNothing()
+    {
+        Bord bord;
+        bord.Wijs(2, 3);
+        const Stand ervoor = EditorStand(bord);
+        VakForm form;
+        form.show();
+        Klik(bord, *form.OkKnop, [&] { form.close(); });
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
     void aClueOfTenThousandCharacters()
