@@ -90,6 +90,7 @@ private slots:
         Geval("lower left", Woordzoeker, "D-01 / 4-L", "abcd", van(1575, 225, 225, 1575));
         Geval("Kruiswoord to the right", Kruiswoord, "A-19 / 289-H", "aap", van(225, 8325, 1125, 8325));
         Geval("Kruiswoord down", Kruiswoord, "A-01 / 1-V", "aap", van(225, 225, 225, 1125));
+        Geval("on a board of a typed size", Woordzoeker, "[-20 / 597-H", "ab", van(11925, 8775, 12375, 8775));
         Geval("one letter", Zweeds, "A-01 / 1-H", "a", van(225, 225, 225, 225));
         Geval("no letter", Zweeds, "C-01 / 3-H", "", van(1125, 225, 675, 225)); // a cell back
         Geval("blanks are cells", Zweeds, "A-01 / 1-H", " DE AAP ", van(225, 225, 3375, 225));

@@ -32,6 +32,7 @@ private slots:
         Bord bord;
         bord.Venster.Pic_MouseMove(x, y);
         QCOMPARE(bord.Venster.Label6->Caption(), opschrift);
+        QVERIFY(!PuzzelGewijzigd);
     }
 
     void everyCellIsFoundFromEdgeToEdge()
@@ -84,6 +85,9 @@ private slots:
         QCOMPARE(bord.Venster.Label6->Caption(), u"[-20 / 597"_s);
         bord.Wijs(29, 24);
         QCOMPARE(bord.Venster.Label6->Caption(), u"^-25 / 750"_s);
+        bord.Venster.Pic_MouseDown(Qt::LeftButton, QPoint());
+        bord.Venster.SoortPlaatsing->close();
+        QCOMPARE(bord.Venster.Shape1->geometry(), QRect(29 * 30 + 1, 24 * 30 + 1, 30, 30));
     }
 
     void theCoordinatesByKind_data()

@@ -153,6 +153,7 @@ private slots:
         Geval("small ones are two", "ijIJij", 5, "ijijij");
         Geval("accents", "ZEEËN", 5, "zeeën");
         Geval("signs stand as they are", "<B>&CO", 6, "<b>&co");
+        Geval("blanks too", " DE AAP ", 8, " de aap ");
         Geval("none", "", 0, "");
     }
     void aChosenWordIsCopied()
@@ -217,6 +218,19 @@ private slots:
         QCOMPARE(Woorden(*bord.Venster.List3), u"Aarde|Zee"_s);
     }
 
+    void nothingIsReadOnceTheWindowIsClosed()
+    {
+        Woordbord bord("kat\r\n");
+        bord.Lijst(u"Zee"_s, "x");
+        MainForm &main = bord.Venster;
+        const Stand ervoor = bord.Nu();
+        for (ImageButton *knop : {main.OkKnop, main.LoadKnop}) {
+            main.show();
+            KlikMetDruk(*knop, [&] { main.close(); });
+            QCOMPARE(bord.Veranderd(ervoor), QString());
+        }
+    }
+
     void withoutAFolderTheOldNamesStay_data()
     {
         QTest::addColumn<QString>("hoe");
@@ -267,6 +281,7 @@ private slots:
                          "ab\t\r\n\tabc\r\nab"),
               "4", u"\u00A0AB\t|\tABC"_s);
         Geval("each as often as it stands there", QByteArray("ab,ab\r\nab"), "2", "AB|AB|AB");
+        Geval("a question mark stays one", QByteArray("wat?\r\n?\r\nij?"), "4", "WAT?");
         Geval("an empty file", QByteArray(""), "Alles", "");
         Geval("a long line", QByteArray(10000, 'a'), "Alles", QString(10000, u'A'));
         Geval("bytes above 127", QByteArray("\x80\xE9\xFF\xDF"), "4", u"€ÉŸß"_s);

@@ -31,6 +31,7 @@ private slots:
         Geval("first", Woordzoeker, 0, 0);
         Geval("last", Kruiswoord, 15, 18);
         Geval("of a Filippine", Filippine, 15, 0);
+        Geval("of a typed size", Zweeds, 20, 4);
     }
     void aRightClickBlacksOutAndClears()
     {
@@ -39,7 +40,7 @@ private slots:
         QFETCH(int, rij);
         const QRgb vol = qRgb(1, 2, 3);
         Bord bord;
-        bord.Begin(soort, 16, 19);
+        bord.Begin(soort, std::max(16, kolom + 1), 19);
         bord.Venster.Pic->BoxFull(0, 0, 1e5, 1e5, vol); // so that it is seen what is wiped
         bord.Venster.PicGroot->BoxFull(0, 0, 1e6, 1e6, vol);
         bord.Klik(Qt::MiddleButton, kolom, rij);
@@ -149,6 +150,7 @@ private slots:
         bord.Begin(soort, 9, 9);
         bord.InBewerking(); // the frame and the line stay where they are
         bord.Klik(Qt::MiddleButton, 4, 4);
+        QCOMPARE(CurCell, 41);
         QVERIFY(!bord.Venster.Shape1->isHidden() && !bord.Venster.Line1->isHidden());
         const Stand ervoor = bord.Nu();
         bord.Klik(Qt::RightButton, 4, 4);

@@ -237,6 +237,8 @@ private slots:
         form.Text1->setText(omschrijving);
         form.Text2->setText(oplossing);
         form.Combo1->setEditText(nummer);
+        form.Option[1]->setChecked(true);
+        form.Check1->setChecked(true);
         form.OkKnop->setFocus();
         Klik(bord, *form.OkKnop);
         QCOMPARE(form.focusWidget(), soort == Woordzoeker ? static_cast<QWidget *>(form.Text2) : form.OkKnop);
@@ -247,7 +249,10 @@ private slots:
         QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
         QVERIFY(!form.Unloaded());
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+        QCOMPARE(form.Text1->text(), omschrijving); // all that was filled in stays
         QCOMPARE(form.Text2->text(), oplossing);
+        QCOMPARE(form.Combo1->currentText(), nummer);
+        QVERIFY(form.Option[1]->isChecked() && form.Check1->isChecked());
     }
 
     void aNumberThatIsNoneFails_data()

@@ -177,6 +177,25 @@ private slots:
         }
     }
 
+    void aBoardOfATypedSize()
+    {
+        for (const quint8 soort : {Woordzoeker, Kruiswoord}) {
+            Bord bord;
+            bord.Begin(soort, 20, 22);
+            Borden verwacht(bord);
+            Plaats(bord, {17, 20, 0, u"vier"_s});
+            if (soort == Kruiswoord)
+                verwacht.Nummer({17, 20}, u"1"_s);
+            const QStringList letters{u"V"_s, u"I"_s, u"E"_s};
+            for (int i = 0; i < letters.size(); ++i) {
+                verwacht.Letter({17 + i, 20}, letters[i], i == 1 ? 60 : 0);
+                if (soort == Woordzoeker)
+                    verwacht.GroteLetter({17 + i, 20}, letters[i]);
+            }
+            verwacht.Vergelijk(bord);
+        }
+    }
+
     void aWordOf254LettersMayRunOff()
     {
         Bord bord;
@@ -211,12 +230,14 @@ private slots:
         const Stand ervoor = EditorStand(bord);
         TekstForm form;
         const QString woord = u"ij"_s + QString(lengte - 1, u'a');
-        VulIn(form, {0, 0, 0, woord});
+        VulIn(form, {0, 0, 0, woord, u"dier"_s, u"7"_s});
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::Overloop));
         QVERIFY(TekstVanFout([&] { form.OkKnop_Click(); }).endsWith(u" (een woord van meer dan 254 letters)"_s));
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QVERIFY(!form.Unloaded());
+        QCOMPARE(form.Text1->text(), u"dier"_s);
         QCOMPARE(form.Text2->text(), woord);
+        QCOMPARE(form.Combo1->currentText(), u"7"_s);
     }
 
     void aReversedWordKeepsItsIj()

@@ -105,6 +105,19 @@ private slots:
         QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial Narrow 13 1 ff000000"_s); // for no text too
     }
 
+    void aBoardOfATypedSize()
+    {
+        Bord bord;
+        bord.Begin(Zweeds, 20, 22);
+        Verwacht pic(bord.Pic()), groot(bord.Groot());
+        Plaats(bord, 18, 20, 8, u"ver weg"_s);
+        pic.En(Tegel(8, Licht), QPoint(540, 600));
+        TekenVak(groot, 18, 20, 8);
+        DrukRegel(groot, 18, 20, 0, u"VER WEG"_s);
+        QCOMPARE(Verschil(bord.Pic(), pic.Beeld), QString());
+        QCOMPARE(Verschil(bord.Groot(), groot.Beeld), QString());
+    }
+
     void anotherKindIsABoxWithItsTextAlone()
     {
         Bord bord;
@@ -391,7 +404,9 @@ private slots:
         OrgineelRood = -1; // what a settings file may hold
         const Stand ervoor = EditorStand(bord);
         VakForm form;
+        form.Text1->SetText(u"tekst"_s);
         QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::OngeldigArgument));
+        QCOMPARE(form.Text1->Text(), u"tekst"_s);
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
         QVERIFY(!form.Unloaded());
         OrgineelRood = 300; // above 255 counts as 255
