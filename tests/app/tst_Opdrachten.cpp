@@ -343,19 +343,21 @@ private slots:
         if (index == 7)
             programma.Scherm.Begin(Kruiswoord, 16, 19);
         programma.Scherm.InBewerking();
-        programma.Scherm.Klik(Qt::LeftButton, 3, 4);
-        programma.Main().SoortPlaatsing->close();
-        const Stand ervoor = programma.Scherm.Nu();
-        bool kader = false;
-        Bestuurder bestuurder(venster, [&](Form &form) {
-            kader = programma.Main().Shape1->isVisible();
-            QVERIFY(form.windowTitle().endsWith(u"D-05 / 68"_s));
-        });
-        programma.Main().SoortVakTekst[static_cast<std::size_t>(index)]->trigger();
-        QVERIFY(bestuurder.Gezien());
-        QVERIFY(kader); // the frame stays while the editor is open
-        QVERIFY(programma.Main().Shape1->isHidden());
-        QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Shape1"_s); // the line of a word stays
+        for (const int kolom : {3, 5}) { // the second one is a new window
+            programma.Scherm.Klik(Qt::LeftButton, kolom, 4);
+            programma.Main().SoortPlaatsing->close();
+            const Stand ervoor = programma.Scherm.Nu();
+            bool kader = false;
+            Bestuurder bestuurder(venster, [&](Form &form) {
+                kader = programma.Main().Shape1->isVisible();
+                QVERIFY(form.windowTitle().endsWith(kolom == 3 ? u"D-05 / 68"_s : u"F-05 / 70"_s));
+            });
+            programma.Main().SoortVakTekst[static_cast<std::size_t>(index)]->trigger();
+            QVERIFY(bestuurder.Gezien());
+            QVERIFY(kader); // the frame stays while the editor is open
+            QVERIFY(programma.Main().Shape1->isHidden());
+            QCOMPARE(programma.Scherm.Veranderd(ervoor), u"Shape1"_s); // the line of a word stays
+        }
     }
 
     void aClickOnAFilippineOpensItsEditor()

@@ -113,6 +113,15 @@ private slots:
         QCOMPARE(Lijn(bord), lijn);
     }
 
+    void ofTwoWordsInOnePlaceTheChosenOneIsShown()
+    {
+        Bord bord;
+        const QString plaats = u"A-01 / 1-H"_s;
+        bord.Venster.VoegRijenToe({{plaats, {}, u"aap"_s, u"-"_s}, {plaats, {}, u"schaap"_s, u"-"_s}});
+        Kies(bord, 1);
+        QCOMPARE(Lijn(bord), QRectF(QPointF(225, 225), QPointF(2475, 225)));
+    }
+
     void theLineIsRedAndTwoPixelsWide()
     {
         Bord bord;
@@ -294,12 +303,14 @@ private slots:
         bord.Venster.ToonAantal();
         Kies(bord, 1);
         QVERIFY(!bord.Venster.Line1->isHidden());
+        bord.Venster.DelKnop->setFocus();
         const Stand ervoor = bord.Nu();
         bord.Bank.Script.Antwoorden = {Antwoord::Nee, Antwoord::Ja};
         KlikMetDruk(*bord.Venster.DelKnop, [&] { QVERIFY(bord.Bank.Script.Gezien.isEmpty()); });
         QCOMPARE(bord.Veranderd(ervoor), QString());
         bord.Venster.DelKnop_Click();
         QCOMPARE(bord.Veranderd(ervoor), u"Label11 Line1 ListView1"_s);
+        QCOMPARE(bord.Venster.focusWidget(), bord.Venster.DelKnop);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wil je ( Wijn ) verwijderen uit de lijst?"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u" Delete"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
@@ -346,7 +357,7 @@ private slots:
     void deletingTheOnlyRow()
     {
         Bord bord;
-        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, u"-"_s}});
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, u"vraag"_s, {}, u"-"_s}});
         bord.Venster.ListView1_ItemClick();
         PuzzelGewijzigd = true;
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
@@ -354,6 +365,7 @@ private slots:
         QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
         QVERIFY(bord.Venster.Line1->isHidden());
         QVERIFY(PuzzelGewijzigd); // this too is left as it was
+        QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Wil je () verwijderen uit de lijst?"_s); // a word of blanks
     }
 
     void anEmptyListOnlyShowsThePressEffect()

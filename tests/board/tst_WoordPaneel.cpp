@@ -59,6 +59,7 @@ private slots:
         main.List1->SetListIndex(1);
         main.Label3->SetCaption(u"0 Woorden in lijst"_s);
         main.ScrolLengte->setValue(3);
+        main.OkKnop->setFocus();
         const Stand ervoor = bord.Nu();
         const QPoint plaats = main.OkKnop->pos();
         Verloop verloop([&] {
@@ -73,6 +74,7 @@ private slots:
                               u"lijst KAT OOG | zandloper KAT OOG 0 Woorden in lijst"_s}));
         QCOMPARE(main.Label3->Caption(), u"2 Woorden gevonden"_s);
         QCOMPARE(main.List1->ListIndex(), -1);
+        QCOMPARE(main.focusWidget(), main.OkKnop);
         QCOMPARE(bord.Veranderd(ervoor), u"Label3 List1"_s);
         QVERIFY(!Zandloper());
     }
@@ -150,6 +152,7 @@ private slots:
         Geval("a word", "KAT", 3, "kat");
         Geval("IJ is one letter", "IJSBEER", 6, "ijsbeer");
         Geval("each IJ", "IJIJ", 2, "ijij");
+        Geval("one letter", "IJ", 1, "ij");
         Geval("small ones are two", "ijIJij", 5, "ijijij");
         Geval("accents", "ZEEËN", 5, "zeeën");
         Geval("signs stand as they are", "<B>&CO", 6, "<b>&co");
@@ -200,6 +203,7 @@ private slots:
         QDir(bord.Bank.Map()).mkdir(u"Woordlijsten/map.txt"_s);
         MainForm &main = bord.Venster;
         main.List3->SetItems({u"oud"_s});
+        main.LoadKnop->setFocus();
         const Stand ervoor = bord.Nu();
         const QPoint plaats = main.LoadKnop->pos();
         Verloop verloop(
@@ -207,6 +211,7 @@ private slots:
         main.LoadKnop->click();
         QCOMPARE(verloop.Stappen, QStringList{u"0.2 s | gedrukt oud"_s});
         QCOMPARE(Woorden(*main.List3), u"|appels|Boom|nr. 2|Zee"_s);
+        QCOMPARE(main.focusWidget(), main.LoadKnop);
         QCOMPARE(bord.Veranderd(ervoor), u"List3"_s);
     }
 
@@ -298,8 +303,10 @@ private slots:
         main.Combo1->setCurrentIndex(main.Combo1->findText(lengte));
         main.List2->SetItems({u"oud"_s});
         main.Label8->SetCaption(u"oud"_s);
+        main.List3->setFocus();
         const Stand ervoor = bord.Nu();
         Kies(*main.List3, u"Dieren"_s);
+        QCOMPARE(main.focusWidget(), main.List3);
         QCOMPARE(Woorden(*main.List2), woorden);
         const qsizetype aantal = woorden.isEmpty() ? 0 : woorden.split(u'|').size();
         QCOMPARE(main.Label8->Caption(), QString::number(aantal));
@@ -395,10 +402,12 @@ private slots:
     {
         Woordbord bord;
         bord.AllesAnders(); // with a word chosen in each list
+        bord.Venster.List2->setFocus();
         const Stand ervoor = bord.Nu();
-        bord.Venster.GeefWoorden({u"vos"_s, u"zeeën"_s, u"Aal"_s});
-        QCOMPARE(bord.List1(), u"VOS ZEEËN AAL"_s); // in their order
-        QCOMPARE(bord.Venster.Label3->Caption(), u"3 Woorden gevonden"_s);
+        bord.Venster.GeefWoorden({u"vos"_s, u"zeeën"_s, u"Aal"_s, u"Vos"_s});
+        QCOMPARE(bord.List1(), u"VOS ZEEËN AAL VOS"_s); // in their order, and each of them
+        QCOMPARE(bord.Venster.focusWidget(), bord.Venster.List2);
+        QCOMPARE(bord.Venster.Label3->Caption(), u"4 Woorden gevonden"_s);
         QCOMPARE(bord.Veranderd(ervoor), u"Label3 List1"_s);
         QCOMPARE(bord.Venster.List1->ListIndex(), -1);
     }

@@ -156,9 +156,11 @@ private slots:
         TekstForm form;
         const QString plaatjes[]{u"richting-h"_s, u"richting-v"_s, u"richting-r"_s, u"richting-l"_s};
         QCOMPARE(form.Image1->Picture(), plaatjes[0]);
+        form.CopyKnop->setFocus();
         for (const qsizetype i : {3, 2, 1, 0}) {
             form.Option[i]->click();
             QCOMPARE(form.Image1->Picture(), plaatjes[i]);
+            QCOMPARE(form.focusWidget(), form.CopyKnop);
         }
     }
 

@@ -104,6 +104,7 @@ private slots:
         rij("accents", u"CAFé"_s, u"C A F É"_s, u"café"_s);
         rij("letters without a capital", u"Maßstabµ"_s, u"M A ß S T A B µ"_s, u"maßstabµ"_s);
         rij("letters from outside the code page", u"Łódź"_s, u"Ł Ó D ź"_s, u"Łódź"_s);
+        rij("a tab", u"a\tb"_s, u"A \t B"_s, u"a\tb"_s);
         rij("a hard space", u"\u00a0a\u00a0b"_s, u"\u00a0 A \u00a0 B"_s, u"\u00a0a\u00a0b"_s);
         rij("nothing but blanks", u"   "_s, QString(), QString());
     }
@@ -211,8 +212,9 @@ private slots:
     void blanksAndIjDoNotMakeAWordTooLong()
     {
         Bord bord;
-        Plaats(bord, {15, 3, 0, u"ij "_s.repeated(254)});
-        QCOMPARE(bord.Rij(0), u"P-04 / 64-H|omschrijving|"_s + u"ij"_s.repeated(254) + u"|-"_s);
+        const QString lang(1000, u'x'); // a clue may be of any length
+        Plaats(bord, {15, 3, 0, u"ij "_s.repeated(254), lang});
+        QCOMPARE(bord.Rij(0), u"P-04 / 64-H|"_s + lang + u'|' + u"ij"_s.repeated(254) + u"|-"_s);
     }
 
     void aWordOfMoreThan254LettersFailsBeforeAnythingIsPrinted_data()
@@ -264,6 +266,7 @@ private slots:
         Geval("printed as typed", u"012"_s, u"12"_s);
         Geval("not from the list", u"100"_s, u"100"_s);
         Geval("below the list", u"-3"_s, u"-3"_s);
+        Geval("between blanks", u" 7 "_s, u"7"_s);
         Geval("rounded to the even one", u"3.5"_s, u"4"_s);
     }
     void theNumberOfAKruiswoord()
