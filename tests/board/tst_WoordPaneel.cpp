@@ -184,6 +184,23 @@ private slots:
         QCOMPARE(bord.Veranderd(dan), u"CopyLabel Label8 List2"_s);
     }
 
+    void aWordThatIsClickedAgainIsCopiedAgain()
+    {
+        Woordbord bord;
+        MainForm &main = bord.Venster;
+        for (ListBox *lijst : {main.List1, main.List2})
+            lijst->SetItems({lijst->objectName()});
+        for (int keer = 0; keer < 2; ++keer)
+            for (ListBox *lijst : {main.List1, main.List2}) {
+                main.Label8->SetCaption(QString());
+                main.Label9->SetCaption(QString());
+                QTest::mouseClick(lijst->viewport(), Qt::LeftButton, {}, QPoint(5, 5));
+                QCOMPARE(main.CopyLabel->Caption(), lijst->objectName().toLower());
+                QCOMPARE(main.Label9->Caption() + main.Label8->Caption(),
+                         lijst == main.List1 ? u"Lengte (5) letters"_s : u"5 Letters"_s);
+            }
+    }
+
     void theLengthOfAWordIsSeenWhole()
     {
         Woordbord bord;

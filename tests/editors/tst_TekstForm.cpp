@@ -204,6 +204,21 @@ private slots:
         QVERIFY(!form.Unloaded());
     }
 
+    void enterInABoxPlacesNothing()
+    {
+        Bord bord;
+        bord.Wijs(2, 3);
+        const Stand ervoor = EditorStand(bord);
+        TekstForm form;
+        form.Text1->setText(u"dier"_s);
+        form.Text2->setText(u"aap"_s);
+        for (QWidget *box : std::initializer_list<QWidget *>{form.Text1, form.Text2, form.Combo1})
+            QTest::keyClick(box, Qt::Key_Return);
+        QVERIFY(!form.Unloaded());
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
     void whatIsMissingIsSaid_data()
     {
         QTest::addColumn<int>("soort");

@@ -306,6 +306,7 @@ private slots:
         bord.InBewerking();
         PuzzelGewijzigd = false;
         bord.Venster.CopyLabel->SetCaption(u"woord"_s);
+        bord.Venster.Label11->SetCaption(u"7 Items"_s); // the rows are counted
         bord.Wijs(2, 3);
         LaatsteOplossing.clear();
         const Stand ervoor = EditorStand(bord);
