@@ -69,6 +69,8 @@ private slots:
         Kies(bord, 1);
         bord.Venster.VoegRijenToe({{u"-"_s, {}, u"drie"_s, {}}});
         QCOMPARE(gekozen(), 1);
+        bord.Venster.ToonAantal();
+        QCOMPARE(bord.Venster.Label11->Caption(), u"3 Items"_s); // tied to a place or not
     }
 
     void theLineRunsFromFirstToLastCell_data()
@@ -338,7 +340,9 @@ private slots:
         Bord bord;
         bord.Venster.VoegRijenToe({{u"-"_s, {}, u"een"_s, {}}, {u"-"_s, {}, u"twee"_s, {}}});
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
+        bord.Venster.Line1->show();
         KlikMetDruk(*bord.Venster.DelKnop, [&] { Kies(bord, 1); });
+        QVERIFY(bord.Venster.Line1->isHidden()); // whichever word it was of
         QVERIFY(bord.Bank.Script.Gezien.value(0).Tekst.contains(u"(twee)"_s));
         QCOMPARE(bord.Rij(0), u"-||een|"_s);
         QCOMPARE(bord.Venster.ListView1->topLevelItemCount(), 1);

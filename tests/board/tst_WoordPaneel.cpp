@@ -253,6 +253,17 @@ private slots:
         }
     }
 
+    void anEmptyFolderHasNoNames()
+    {
+        Woordbord bord;
+        bord.Lijst(u"Zee"_s, "x");
+        bord.Venster.LoadKnop->click();
+        QCOMPARE(Woorden(*bord.Venster.List3), u"Zee"_s);
+        QFile::remove(bord.Bank.Map() + u"/Woordlijsten/Zee.txt"_s);
+        bord.Venster.LoadKnop->click();
+        QCOMPARE(Woorden(*bord.Venster.List3), QString());
+    }
+
     void withoutAFolderTheOldNamesStay_data()
     {
         QTest::addColumn<QString>("hoe");
@@ -427,6 +438,9 @@ private slots:
         QCOMPARE(bord.Venster.Label3->Caption(), u"4 Woorden gevonden"_s);
         QCOMPARE(bord.Veranderd(ervoor), u"Label3 List1"_s);
         QCOMPARE(bord.Venster.List1->ListIndex(), -1);
+        bord.Venster.GeefWoorden({});
+        QCOMPARE(bord.List1(), QString());
+        QCOMPARE(bord.Venster.Label3->Caption(), u"0 Woorden gevonden"_s);
     }
 
     // --- where the words are ---

@@ -201,6 +201,9 @@ private slots:
         QCOMPARE(form.focusWidget(), form.Text1);     // it stays where it was
         QCOMPARE(form.Text2->text(), u"Den Haag "_s); // as it stands there
         QCOMPARE(form.Label2->Caption(), u"Oplossing (9)"_s);
+        bord.Venster.CopyLabel->SetCaption(QString()); // nothing is copied too
+        form.CopyKnop->click();
+        QCOMPARE(form.Text2->text(), QString());
         QVERIFY(!form.Unloaded());
     }
 
