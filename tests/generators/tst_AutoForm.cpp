@@ -54,10 +54,10 @@ static QImage BordBeeld(const QString &letters, int breedte, int hoogte, const Q
     return beeld.Beeld;
 }
 
-/// So many characters: the alphabet and the code of the long IJ, again and again.
+/// So many characters: the alphabet, the code of the long IJ and what else a word may have, again and again.
 static QString Letters(int aantal)
 {
-    return u"WI?ABCDEFGHJKLMNOPQRSTUVXYZ"_s.repeated(aantal).left(aantal);
+    return u"WI?Éµ4'ABCDEFGHJKLMNOPQRSTUVXYZ"_s.repeated(aantal).left(aantal);
 }
 
 /// Whether a word can be read in a grid, in any of the eight directions.
@@ -299,6 +299,8 @@ private slots:
         Geval("accents", "", "reünie", "REÜNIE");
         Geval("the long IJ", "", "ijs", "IJS");
         Geval("behind a line end", "AAP\r\n", "noot", "AAP\r\n\r\nNOOT");
+        Geval("once more", "AAP", "aap", "AAP\r\nAAP");
+        Geval("a question mark", "", "wat?", "WAT?");
         Geval("nothing", "AAP", "", "AAP");
         Geval("nothing to nothing", "", "", "");
         Geval("blanks only", "AAP", "   ", "AAP");
@@ -392,6 +394,19 @@ private slots:
         QTEST(blad.Form.picGrid->FontSize, "punten");
         QCOMPARE(blad.Form.picGrid->FontName, u"Arial"_s);
         QVERIFY(blad.Form.picGrid->FontBold);
+    }
+
+    void theSizeOfTheLettersIsThatOfSizesThatAreRefusedToo()
+    {
+        Blad blad;
+        VulIn(blad.Form, u"AAP"_s, u"16"_s, u"19"_s);
+        blad.Form.OkKnop->click();
+        QCOMPARE(blad.Form.picGrid->FontSize, 8.0);
+        VulIn(blad.Form, u"NOOT"_s, u"1"_s, u"19"_s);
+        blad.Form.OkKnop->click();
+        QCOMPARE(blad.Gezien().size(), 1);
+        QCOMPARE(blad.Form.picGrid->FontSize, 12.0);
+        QCOMPARE(Woorden(blad.Form), u"AAP"_s); // the words come behind them
     }
 
     void theLongIJWhileTheEngineWorks_data()
@@ -505,6 +520,7 @@ private slots:
         Geval("an empty line", "AAP\r\n\r\nNOOT", "");
         Geval("a single letter", "A", "A");
         Geval("a blank within", "EEN TWEE", "EEN TWEE");
+        Geval("a blank in front", " AAP\r\nAAP ", " AAP"); // one behind it takes a cell that is filled later
     }
     void whatIsNoWordIsToldToo()
     {

@@ -271,6 +271,8 @@ private slots:
                 QVERIFY(spel.Venster.Shape1->isHidden());
                 const QString veranderd = spel.Veranderd(ervoor); // of PicGroot its letter, the first time
                 QVERIFY2(veranderd == "Pic PicGroot Shape1"_L1 || veranderd == "Pic Shape1"_L1, qPrintable(veranderd));
+                SuMe_Click(cijfer); // once more gives the same
+                QCOMPARE(Verschil(spel.Pic(), MetKeuze(pic, cel, cijfer, kleur)), QString());
             }
         }
         QCOMPARE(Lettersoort(*spel.Venster.PicGroot), u"Arial Narrow 48 1 ff000000"_s);
@@ -420,7 +422,10 @@ private slots:
         CurCell = 82;
         QCOMPARE(spel.Veranderd(ervoor), QString());
         spel.Schud(1); // 81 cells in the corner
-        QCOMPARE(spel.Pic().size(), QSize(16 * 30 + 1, 19 * 30 + 1));
+        QCOMPARE(Verschil(spel.Pic().copy(0, 0, 271, 271), PuzzelBeeld(Gegeven(spel.Pic()))), QString());
+        QVERIFY(spel.Pic().copy(271, 0, 210, 571) == Raster(16, 19, Banden).copy(271, 0, 210, 571));
+        QCOMPARE(Verschil(spel.Groot().copy(0, 0, 1083, 1083), OplossingBeeld(spel.Venster.PicVak->Image())),
+                 QString());
     }
 };
 

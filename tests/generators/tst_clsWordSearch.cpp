@@ -514,8 +514,8 @@ private slots:
 
     void aLoadedPuzzleIsTheSavedOne()
     {
-        Zoeker bewaard(4, 3, {u"ab"_s, u""_s, u"é€"_s});
-        bewaard.SrchName = u"Naam"_s;
+        Zoeker bewaard(4, 3, {u"ab"_s, u""_s, u"é€"_s, u" er al  "_s, u"ab"_s});
+        bewaard.SrchName = u" Naam  "_s;
         bewaard.MakeMetZaad(8);
         WoordzoekerRaster = u"vorige"_s;
         PixelBox box, andere;
@@ -526,10 +526,10 @@ private slots:
         Zoeker geladen(9, 9, {u"er al"_s});
         geladen.Canvas = &andere;
         geladen.Load(Pad());
-        QCOMPARE(geladen.SrchName, u"Naam"_s);
+        QCOMPARE(geladen.SrchName, u" Naam  "_s);
         QCOMPARE(geladen.GridWidth(), qint16{4});
         QCOMPARE(geladen.GridHeight(), qint16{3});
-        QCOMPARE(geladen.Words.JoinWords(), u"er al\r\nab\r\n\r\né€"_s);
+        QCOMPARE(geladen.Words.JoinWords(), u"er al\r\nab\r\n\r\né€\r\n er al  \r\nab"_s);
         QCOMPARE(andere.Image(), box.Image());
         QCOMPARE(WoordzoekerRaster, u"vorige"_s); // loading leaves it alone
 
@@ -576,7 +576,7 @@ private slots:
 
     void theGridOfAFileIsReadBeforeItsCellsAreCounted()
     {
-        const QByteArray inhoud = "N\r\n256\r\n128\r\n0\r\nAB\r\n";
+        const QByteArray inhoud = "N\r\n256\r\n128\r\n0\r\n  AB \r\n";
         bank_->Schrijf(u"zoeker.txt"_s, inhoud);
         Zoeker zoeker(5, 5, {});
         QCOMPARE(FoutVan([&] { zoeker.Load(Pad()); }), int{Fout::Overloop});

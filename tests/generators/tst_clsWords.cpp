@@ -67,14 +67,16 @@ private slots:
         clsWords words = Verzameling({u"EEN"_s});
         words.Add(u"TWEE"_s, u"Sleutel"_s);
         words.Add(u"DRIE"_s, u"é"_s);
+        words.Add(u"VIER"_s, u" "_s);
         QCOMPARE(words.Item(u"sLEUTEL"_s).Word, u"TWEE"_s);
         QCOMPARE(words.Item(u"É"_s).Word, u"DRIE"_s);
+        QCOMPARE(words.Item(u" "_s).Word, u"VIER"_s);
         for (const QString &sleutel : {u"Sleute"_s, u"TWEE"_s, u"2"_s, QString()}) {
             QCOMPARE(FoutVan([&] { words.Item(sleutel); }), int{Fout::OngeldigArgument});
             QCOMPARE(FoutVan([&] { words.Remove(sleutel); }), int{Fout::OngeldigArgument});
         }
         words.Remove(u"SLEUTEL"_s);
-        QCOMPARE(InVolgorde(words), (QStringList{u"EEN"_s, u"DRIE"_s}));
+        QCOMPARE(InVolgorde(words), (QStringList{u"EEN"_s, u"DRIE"_s, u"VIER"_s}));
     }
 
     void aKeyThatIsThereIsRefused()

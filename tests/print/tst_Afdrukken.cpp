@@ -94,6 +94,12 @@ private slots:
     void asItOpens()
     {
         Printbord bord;
+        {
+            Afdrukken vorige; // nothing of it stays
+            vorige.Check1->setChecked(true);
+            vorige.Check2->setChecked(true);
+            vorige.CancelKnop->click();
+        }
         Afdrukken form;
         QCOMPARE(form.windowTitle(), u"Puzzel afdrukken (Zolder)"_s);
         QCOMPARE(form.size(), QSize((6000 - 90) / 15, (3960 - 450) / 15));
@@ -246,6 +252,7 @@ private slots:
         Geval("of no entry", "Kelder", "-1", "Zolder");
         Geval("part of one", "Kant", "-1", "Zolder");
         Geval("in capitals", "KANTOOR", "-1", "Zolder");
+        Geval("a blank behind it", "Zolder ", "-1", "Zolder");
         Geval("nothing", "", "-1", "Zolder");
         Geval("its index", "0", "-1", "Zolder");
         Geval("very long", QString(10000, u'x'), "-1", "Zolder");
@@ -344,6 +351,27 @@ private slots:
         QVERIFY(bord.Bank.Script.Voorstellen.isEmpty());
     }
 
+    void whatIsChosenDuringThePressCounts()
+    {
+        Pdfbord bord;
+        bord.Rijen.Alle = QStringList{bord.Rijen.Eerste = u"Kantoor"_s};
+        bord.Begin(Sudoku, 9, 9);
+        Afdrukken form;
+        {
+            const KijkKlok klok([&] {
+                if (Zandloper())
+                    return;
+                form.Check1->setChecked(true);
+                form.Check2->setChecked(true);
+                form.Combo2->setCurrentIndex(1);
+            });
+            form.PrintKnop->click();
+        }
+        const PdfLezer pdf(bord.Pad); // it did not go to the queue
+        QVERIFY(pdf.Teksten(1).value(1).startsWith("9000,300 "_L1));
+        QCOMPARE(pdf.Beelden(1).size(), 2);
+    }
+
     void closingItDuringThePressPrintsNothing()
     {
         Pdfbord bord;
@@ -380,6 +408,8 @@ private slots:
         QFETCH(bool, oplossing);
         Pdfbord bord;
         bord.Begin(Sudoku, 9, 10);
+        BoardWidth = 8; // of the globals, not of the pictures
+        BoardHeight = 11;
         PuzzelNaam = u"Reis"_s;
         PaginaTekst = u"www.voorbeeld.nl"_s;
         bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2025, 12, 31), QTime(23, 59, 58)));
@@ -389,9 +419,9 @@ private slots:
         if (tijd)
             teksten += u"9000,300 12 vet #5a0000 23:59:58 / 31-12-2025"_s;
         QCOMPARE(pdf.Teksten(1), teksten + QStringList{u"600,16200 9 #000000 www.voorbeeld.nl"_s});
-        QStringList beelden{u"600,900 6750x7500"_s};
+        QStringList beelden{u"600,900 6000x8250"_s};
         if (oplossing)
-            beelden += u"600,8400 6750x7500"_s;
+            beelden += u"600,8400 6000x8250"_s;
         QCOMPARE(pdf.Beelden(1), beelden);
         QCOMPARE(pdf.Beeld(0).convertToFormat(QImage::Format_RGB32), bord.Pic());
         if (oplossing)
@@ -416,6 +446,11 @@ private slots:
         bord.Druk();
         QCOMPARE(bord.Bank.Script.Voorstellen.size(), 1);
         QCOMPARE(QFileInfo(bord.Bank.Script.Voorstellen[0]).fileName(), u" Reis  naar zee .pdf"_s);
+        PuzzelNaam = u"Winter"_s; // the next one, on the same printer
+        bord.Bank.Script.Bestanden = {bord.Pad};
+        bord.Druk();
+        QCOMPARE(QFileInfo(bord.Bank.Script.Voorstellen[1]).fileName(), u"Winter.pdf"_s);
+        QCOMPARE(PdfLezer(bord.Pad).Kenmerk(u"Title"_s), u"Winter"_s);
     }
 
     void withoutAFileNothingIsPrinted()

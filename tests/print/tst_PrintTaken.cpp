@@ -110,14 +110,22 @@ private slots:
         QCOMPARE(rol.Titel, u"Reis"_s);
     }
 
-    void anEmptyNameAndAnEmptyFoot()
+    void nameAndFootAsTheyAre_data()
     {
+        QTest::addColumn<QString>("naam");
+        QTest::addColumn<QString>("voet");
+        Geval("empty", "", "");
+        Geval("blanks round them", "  Reis ", " www.voorbeeld.nl  ");
+    }
+    void nameAndFootAsTheyAre()
+    {
+        QFETCH(QString, naam);
+        QFETCH(QString, voet);
         Drukwerk werk = Proef();
-        werk.PuzzelNaam.clear();
-        werk.PaginaTekst.clear();
+        werk.PuzzelNaam = naam;
+        werk.PaginaTekst = voet;
         QCOMPARE(Gedaan(PrintSudoku, werk),
-                 (QStringList{Naamregel(QString()), Drukrol::Beeld("Pic", 600, 900, 6750, 7500), Voet(QString()),
-                              u"einde"_s}));
+                 (QStringList{Naamregel(naam), Drukrol::Beeld("Pic", 600, 900, 6750, 7500), Voet(voet), u"einde"_s}));
     }
 
     void aFootOfThousandCharacters()
@@ -161,9 +169,11 @@ private slots:
         const Drukwerk werk = Proef({{u"-"_s, u""_s, u"Auto"_s, u"-"_s},
                                      {u"B-02 / 18-R"_s, u"IJsje één ß"_s, u""_s, u"-"_s},
                                      {},
-                                     {u"C-02 / 19-H"_s, u"-"_s, u"ijs"_s, u"-"_s}});
+                                     {u"C-02 / 19-H"_s, u"-"_s, u"ijs"_s, u"-"_s},
+                                     {u" A-01 "_s, u"  wat? "_s, u" r?k  "_s, u"-"_s},
+                                     {u" A-01 "_s, u"  wat? "_s, u" r?k  "_s, u"-"_s}});
         QStringList hoort = ZweedsBegin();
-        for (int i = 0; i < 4; ++i)
+        for (int i = 0; i < 6; ++i)
             hoort += LijstRij(i, werk.Rijen[i]);
         QCOMPARE(Gedaan(PrintZweeds, werk), hoort + Slot);
     }
@@ -194,6 +204,9 @@ private slots:
         werk.Rijen = Rijen(60);
         werk.BoardHeight = 23; // 15300: the next one is at 15540
         QCOMPARE(Gedaan(PrintWoordzoeker, werk).at(3), Klein(3000, 15300, 9, u"AAP2"_s));
+        werk.BoardHeight = 24; // each word fills a column
+        QCOMPARE(Gedaan(PrintWoordzoeker, werk).mid(2, 2),
+                 (QStringList{Klein(600, 15900, 9, u"AAP1"_s), Klein(3000, 15900, 9, u"AAP2"_s)}));
     }
 
     void woordzoekerTakesCapitalsWithinTheCodePage()
@@ -202,11 +215,15 @@ private slots:
         QCOMPARE(Gedaan(PrintWoordzoeker, werk).at(2), Klein(600, 7500, 9, u"IJSBEER ÉÉN ß"_s));
     }
 
-    void woordzoekerGivesAnEmptyWordItsLine()
+    void woordzoekerGivesEveryWordItsLine()
     {
-        const Drukwerk werk = Proef({{u"-"_s, u"-"_s, u""_s, u"-"_s}, {u"-"_s, u"-"_s, u"aap"_s, u"-"_s}});
-        QCOMPARE(Gedaan(PrintWoordzoeker, werk).mid(2),
-                 QStringList({Klein(600, 7500, 9, QString()), Klein(600, 7740, 9, u"AAP"_s)}) + Slot);
+        QList<Rij> rijen;
+        for (const QString &woord : {u""_s, u" aap "_s, u"wat?"_s, u"wat?"_s})
+            rijen += Rij{u"-"_s, u"-"_s, woord, u"-"_s};
+        QCOMPARE(Gedaan(PrintWoordzoeker, Proef(rijen)).mid(2),
+                 QStringList({Klein(600, 7500, 9, QString()), Klein(600, 7740, 9, u" AAP "_s),
+                              Klein(600, 7980, 9, u"WAT?"_s), Klein(600, 8220, 9, u"WAT?"_s)}) +
+                     Slot);
     }
 
     void kruiswoordHasTwoPagesAndItsHeadings()
@@ -225,13 +242,18 @@ private slots:
                                      {u"A-09 / 12-H"_s, u"Boom"_s, u"eik"_s, u"9"_s},
                                      {u"B-02 / 12-V"_s, u"Vogel"_s, u"mees"_s, u"10"_s},
                                      {u"C-02 / 12-V"_s, u""_s, u"mees"_s, u"99"_s},
-                                     {u"C-03 / 12-H"_s, u"Stad"_s, u"ede"_s, u"100"_s}});
-        QCOMPARE(Gedaan(PrintKruiswoord, werk).mid(6),
-                 (QStringList{Klein(690, 900, 8, u"1. huis dier"_s, false),
-                              Klein(4290, 900, 8, u"1. vloeibaar én nat"_s, false),
-                              Klein(690, 1110, 8, u"9. boom"_s, false), Klein(4200, 1110, 8, u"10. vogel"_s, false),
-                              Klein(4200, 1320, 8, u"99. "_s, false), Klein(600, 1320, 8, u"100. stad"_s, false)} +
-                  Slot));
+                                     {u"C-03 / 12-H"_s, u"Stad"_s, u"ede"_s, u"100"_s},
+                                     {u"C-04 / 12-H"_s, u" Wie? "_s, u"-"_s, u"3"_s},
+                                     {u"C-04 / 12-H"_s, u" Wie? "_s, u"-"_s, u"3"_s},
+                                     {u"C-04 / 12-V"_s, u"-"_s, u"ik"_s, u"3"_s}});
+        QCOMPARE(
+            Gedaan(PrintKruiswoord, werk).mid(6),
+            (QStringList{Klein(690, 900, 8, u"1. huis dier"_s, false),
+                         Klein(4290, 900, 8, u"1. vloeibaar én nat"_s, false), Klein(690, 1110, 8, u"9. boom"_s, false),
+                         Klein(4200, 1110, 8, u"10. vogel"_s, false), Klein(4200, 1320, 8, u"99. "_s, false),
+                         Klein(600, 1320, 8, u"100. stad"_s, false), Klein(690, 1530, 8, u"3.  wie? "_s, false),
+                         Klein(690, 1740, 8, u"3.  wie? "_s, false), Klein(4290, 1530, 8, u"3. -"_s, false)} +
+             Slot));
     }
 
     void kruiswoordNumbers_data()
@@ -351,6 +373,18 @@ private slots:
     {
         const Drukwerk werk = Proef({{u"01"_s, u"ijsbeer één ß"_s, u"a"_s, u"-"_s}});
         QCOMPARE(Gedaan(PrintFilippine, werk).at(3), Klein(990, 5850, 9, u"IJSBEER ÉÉN ß"_s));
+    }
+
+    void filippineGivesEveryRowItsLine()
+    {
+        QList<Rij> rijen;
+        for (const QString &omschrijving : {u""_s, u"-"_s, u" wie? "_s, u" wie? "_s})
+            rijen += Rij{u"07"_s, omschrijving, u"a"_s, u"-"_s};
+        QStringList hoort;
+        for (int i = 0; i < 4; ++i)
+            hoort += {Klein(705, 5850 + 240 * i, 9, u"7."_s),
+                      Klein(990, 5850 + 240 * i, 9, rijen[i].Omschrijving.toUpper())};
+        QCOMPARE(Gedaan(PrintFilippine, Proef(rijen)).mid(2), hoort + Slot);
     }
 
     void boardsOfAnySize_data()
