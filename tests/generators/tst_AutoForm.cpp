@@ -683,7 +683,7 @@ private slots:
         const QString letter = Lettersoort(*main.PicGroot);
         PuzzelNaam = u"blijft"_s;
         WoordzoekerRaster = Letters(180);
-        VulIn(blad.Form, u"Ijs\r\nRIJ\r\nwat?\r\n kaap \r\nNijmegen"_s, u"12"_s, u"15"_s);
+        VulIn(blad.Form, u"Ijs\r\nRIJ\r\nwat?\r\n kaap \r\nNijmegen\r\nNijmegen"_s, u"12"_s, u"15"_s);
         const Stand ervoor = blad.Scherm.Nu();
         KlikMetDruk(*blad.Form.ExportKnop, [&] { QCOMPARE(blad.Scherm.Veranderd(ervoor), QString()); });
 
@@ -700,8 +700,8 @@ private slots:
         QStringList rijen;
         for (int i = 0; i < main.ListView1->topLevelItemCount(); ++i)
             rijen += blad.Scherm.Rij(i);
-        QCOMPARE(rijen.join(u' '), u"-|-|IJS|- -|-|RIJ|- -|-|WATIJ|- -|-| KAAP |- -|-|NIJMEGEN|-"_s);
-        QCOMPARE(main.Label11->Caption(), u"5 Items"_s);
+        QCOMPARE(rijen.join(u' '), u"-|-|IJS|- -|-|RIJ|- -|-|WATIJ|- -|-| KAAP |- -|-|NIJMEGEN|- -|-|NIJMEGEN|-"_s);
+        QCOMPARE(main.Label11->Caption(), u"6 Items"_s);
         QVERIFY(main.Line1->isHidden());
         QCOMPARE(blad.Scherm.Veranderd(ervoor),
                  u"BoardHeight BoardWidth Frame8 Label1 Label11 Label12 Line1 ListView1 Main Pic PicGroot PicO PicR "
@@ -733,7 +733,9 @@ private slots:
         VulIn(blad.Form, u"IJSBEER\r\nWINTER"_s, u"10"_s, u"11"_s);
         blad.Form.OkKnop->click();
         blad.Form.Unload();
-        AutoForm nieuwe; // the grid outlives the window that made it
+        AutoForm nieuwe; // the grid outlives the window that made it, and isn't shown in another one
+        QCOMPARE(nieuwe.picGrid->Image(), Doek(305, 305, Achter));
+        QCOMPARE(nieuwe.Combo1->currentText() + u'x' + nieuwe.Combo2->currentText(), u"12x15"_s);
         nieuwe.Combo1->setEditText(u"10"_s);
         nieuwe.Combo2->setEditText(u"11"_s);
         nieuwe.ExportKnop->click();
@@ -794,6 +796,8 @@ private slots:
         QFETCH(QSize, maat);
         Blad blad;
         WoordzoekerRaster = Letters(letters);
+        for (PictureBox *box : {blad.Scherm.Venster.Pic, blad.Scherm.Venster.PicGroot})
+            box->BoxFull(0, 0, 1e6, 1e6, qRgb(1, 2, 3)); // the board starts anew, also in the size that it has
         VulIn(blad.Form, u"AAP"_s, breedte, hoogte);
         blad.Form.ExportKnop->click();
         QVERIFY(blad.Gezien().isEmpty() && blad.Form.Unloaded());
@@ -877,6 +881,8 @@ private slots:
         const QString lang(20, u'M');  // wider than the box, and not as wide as two of it
         const QString klein(30, u'l'); // it fits as it stands, and would not in capitals
         VulIn(blad.Form, u"AAP\r\n"_s + lang + u"\r\n"_s + klein + u"\r\nNOOT"_s, u"12"_s, u"15"_s);
+        blad.Form.OkKnop->click();
+        QCOMPARE(Woorden(blad.Form), u"AAP|"_s + lang + u'|' + klein.toUpper() + u"|NOOT"_s); // there it is one
         blad.Form.ExportKnop->click();
         const QList<Rij> rijen = blad.Scherm.Venster.Rijen();
         QCOMPARE(rijen.size(), 5);

@@ -147,8 +147,8 @@ private slots:
             if (int(float(Toeval::Rnd()) * 10 + 1) < grens)
                 gegeven += cel;
 
+        spel.InBewerking();
         spel.Kies(40);
-        spel.Venster.Line1->show();
         spel.Venster.Pic->FontBold = false;
         spel.Venster.Option[niveau]->click();
         const Stand ervoor = spel.Nu();
@@ -257,6 +257,7 @@ private slots:
     {
         Spel spel;
         spel.Schud(1);
+        spel.InBewerking();
         for (const int cel : {0, 8, 40, 72, 80, 13, 60}) {
             for (int cijfer = 1; cijfer <= 9; ++cijfer) {
                 const QImage pic = spel.Pic();

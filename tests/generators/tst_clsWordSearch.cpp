@@ -502,6 +502,9 @@ private slots:
         Zoeker zoeker(3, 2, {u"ab"_s});
         zoeker.Save(Pad());
         QVERIFY(!QFile::exists(Pad()));
+        bank_->Schrijf(u"zoeker.txt"_s, "oud");
+        zoeker.Save(Pad());
+        QCOMPARE(bank_->Inhoud(u"zoeker.txt"_s), "oud");
     }
 
     void failuresOfFilesComeThrough()
@@ -563,6 +566,7 @@ private slots:
             bank_->Schrijf(u"zoeker.txt"_s, heel == 0 ? QByteArray() : regels.first(heel).join("\r\n") + "\r\n");
             Zoeker zoeker(5, 5, {u"er al"_s});
             zoeker.SrchName = u"vorige"_s;
+            const QString raster = zoeker.MakeMetZaad(1);
             Notities canvas;
             zoeker.Canvas = &canvas;
             QCOMPARE(FoutVan([&] { zoeker.Load(Pad()); }), 62);
@@ -571,6 +575,8 @@ private slots:
             QCOMPARE(zoeker.GridHeight(), static_cast<qint16>(heel < 3 ? 5 : 2));
             QCOMPARE(zoeker.Words.Count(), 1 + std::max(0, static_cast<int>(heel) - 4));
             QCOMPARE(canvas.Regels, QStringList());
+            zoeker.Save(bank_->Map() + u"/weer.txt"_s); // of the grid nothing was read
+            QVERIFY(bank_->Inhoud(u"weer.txt"_s).endsWith("\r\n" + Files::NaarBytes(raster) + "\r\n"));
         }
     }
 

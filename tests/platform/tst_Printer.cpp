@@ -173,7 +173,7 @@ private slots:
     void pagesFollowOneAnother()
     {
         Begin();
-        printer_->FontSize = 10;
+        printer_->ZetLetter({.Punten = 10, .Vet = true, .Kleur = Blauw});
         printer_->PrintOp(600, 300, u"een"_s);
         printer_->CurrentX = 50;
         printer_->NewPage();
@@ -183,8 +183,8 @@ private slots:
         printer_->NewPage();
         const PdfLezer pdf = Klaar();
         QCOMPARE(pdf.Paginas(), 3);
-        QCOMPARE(pdf.Teksten(1), QStringList{u"600,300 10 #000000 een"_s});
-        QCOMPARE(pdf.Teksten(2), QStringList{u"0,0 10 #000000 twee"_s});
+        QCOMPARE(pdf.Teksten(1), QStringList{u"600,300 10 vet #00005a een"_s});
+        QCOMPARE(pdf.Teksten(2), QStringList{u"0,0 10 vet #00005a twee"_s});
         QCOMPARE(pdf.Teksten(3), QStringList());
     }
 
@@ -316,6 +316,7 @@ private slots:
         Geval("another ending", u"Winter.v2"_s, u"Winter.v2.pdf"_s);
         Geval("in capitals", u"Winter.PDF"_s, u"Winter.PDF"_s);
         Geval("no dot", u"Winterpdf"_s, u"Winterpdf.pdf"_s);
+        Geval("not at the end", u"Winter.pdf.oud"_s, u"Winter.pdf.oud.pdf"_s);
     }
     void aNameGetsItsEnding()
     {
@@ -339,6 +340,7 @@ private slots:
         QCOMPARE(bank_->Script.Gezien.size(), 2);
         QCOMPARE(bank_->Script.Gezien[0].Tekst, u"oud.pdf bestaat al, vervangen?"_s);
         QCOMPARE(bank_->Script.Gezien[0].Titel, u"Afdrukken"_s);
+        QVERIFY(bank_->Script.Gezien[0].Soort == Knoppen::JaNee && bank_->Script.Gezien[0].Plaatje == Icoon::Geen);
         QCOMPARE(bank_->Inhoud(u"oud.pdf"_s), "oud");
         printer_->EndDoc();
         QCOMPARE(PdfLezer(Pad(u"oud.pdf"_s)).Teksten(1), QStringList{u"0,0 8.25 #000000 nieuw"_s});

@@ -410,12 +410,13 @@ private slots:
         bord.Begin(Sudoku, 9, 10);
         BoardWidth = 8; // of the globals, not of the pictures
         BoardHeight = 11;
-        PuzzelNaam = u"Reis"_s;
+        bord.Venster.Shape1->Toon(15, 15, VakMaat, VakMaat); // no part of the picture
+        PuzzelNaam = u"Reis"_s.repeated(13);
         PaginaTekst = u"www.voorbeeld.nl"_s;
         bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2025, 12, 31), QTime(23, 59, 58)));
         bord.Druk(tijd, oplossing);
         const PdfLezer pdf(bord.Pad);
-        QStringList teksten{u"600,300 12 vet #00005a Puzzelnaam : Reis"_s};
+        QStringList teksten{u"600,300 12 vet #00005a Puzzelnaam : "_s + PuzzelNaam};
         if (tijd)
             teksten += u"9000,300 12 vet #5a0000 23:59:58 / 31-12-2025"_s;
         QCOMPARE(pdf.Teksten(1), teksten + QStringList{u"600,16200 9 #000000 www.voorbeeld.nl"_s});
@@ -510,9 +511,11 @@ private slots:
     void aFailureInTheHeadIsSilentToo()
     {
         Pdfbord bord;
-        bord.Bank.Script.BijBestand = [] { throw Fout(Fout::GeheugenVol); };
-        bord.Druk();
-        QVERIFY(!QFileInfo::exists(bord.Pad));
+        for (const auto &mislukt : {+[] { throw Fout(Fout::GeheugenVol); }, +[] { throw std::bad_alloc(); }}) {
+            bord.Bank.Script.BijBestand = mislukt;
+            bord.Druk();
+            QVERIFY(!QFileInfo::exists(bord.Pad));
+        }
     }
 
     void aQueueThatHasGone()
