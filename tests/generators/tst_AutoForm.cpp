@@ -343,8 +343,8 @@ private slots:
     {
         QTest::addColumn<QString>("gevolg");
         Geval("AddKnop", "NOOT MIES");
-        Geval("OkKnop", "NOOT 110");
-        Geval("ExportKnop", "10x11");
+        Geval("OkKnop", "NOOT 160 10");
+        Geval("ExportKnop", "16x10 -|-|NOOT|-");
     }
     void whatIsTypedDuringThePressCounts()
     {
@@ -353,14 +353,14 @@ private slots:
         VulIn(form, u"AAP"_s, u"9"_s, u"9"_s);
         auto *knop = Vind<ImageButton>(form, QLatin1String(QTest::currentDataTag()));
         KlikMetDruk(*knop, [&] {
-            VulIn(form, u"NOOT"_s, u"10"_s, u"11"_s);
+            VulIn(form, u"NOOT"_s, u"16"_s, u"10"_s);
             form.Text2->setText(u"mies"_s);
         });
         QString gevolg = form.Text1->Text().replace("\r\n"_L1, " "_L1);
         if (knop == form.OkKnop)
-            gevolg = u"%1 %2"_s.arg(Woorden(form)).arg(WoordzoekerRaster.size());
+            gevolg = u"%1 %2 %3"_s.arg(Woorden(form)).arg(WoordzoekerRaster.size()).arg(form.picGrid->FontSize);
         if (knop == form.ExportKnop)
-            gevolg = u"%1x%2"_s.arg(BoardWidth).arg(BoardHeight);
+            gevolg = u"%1x%2 "_s.arg(BoardWidth).arg(BoardHeight) + blad.Scherm.Rij(0);
         QTEST(gevolg, "gevolg");
     }
 

@@ -429,6 +429,19 @@ private slots:
             QCOMPARE(pdf.Beeld(1).convertToFormat(QImage::Format_RGB32), bord.Groot());
     }
 
+    void withoutANameAndAText()
+    {
+        Pdfbord bord;
+        bord.Begin(Filippine, 9, 9);
+        PuzzelNaam = u"Reis"_s;
+        bord.Venster.ToonNaam(); // what the menu bar says isn't the name
+        PuzzelNaam.clear();
+        PaginaTekst.clear();
+        bord.Druk();
+        QCOMPARE(PdfLezer(bord.Pad).Teksten(1),
+                 QStringList{u"600,300 12 vet #00005a Puzzelnaam :"_s}); // the reader leaves the last blank out
+    }
+
     void theRowsArePrinted()
     {
         Pdfbord bord;
@@ -438,6 +451,11 @@ private slots:
         const PdfLezer pdf(bord.Pad);
         QCOMPARE(pdf.Beeld(0).convertToFormat(QImage::Format_RGB32), bord.Groot());
         QCOMPARE(pdf.Teksten(2).value(2), u"600,900 8 #323232 12. dier"_s);
+        PuzzelType = Zweeds;
+        bord.Venster.VoegRijenToe(QList<Rij>(299, Rij{u"A-01 / 1-H"_s, u"dier"_s, u"aap"_s, u"12"_s}));
+        bord.Bank.Script.Bestanden = {bord.Pad};
+        bord.Druk();
+        QCOMPARE(PdfLezer(bord.Pad).Paginas(), 2 + 300 / 54 + 1);
     }
 
     void itProposesThePuzzlesName()

@@ -343,6 +343,9 @@ private slots:
         }
         QCOMPARE(Gedaan(PrintFilippine, Proef(rijen)), hoort + Slot);
         QCOMPARE(Gedaan(PrintFilippine, Proef()), hoort.first(2) + Slot);
+        Drukwerk hoger = Proef(rijen);
+        hoger.BoardHeight = 12; // not as the picture is
+        QCOMPARE(Gedaan(PrintFilippine, hoger).at(2), Klein(705, 6750, 9, u"3."_s));
     }
 
     void filippineNumbers_data()
@@ -412,6 +415,7 @@ private slots:
             const QString plaats = u" 600,900 %1x%1"_s.arg(maat * taak.schaal);
             QVERIFY2(is[1].endsWith(plaats), qPrintable(is[1]));
             QCOMPARE(is.last(2), Slot);
+            QCOMPARE(is.contains(Drukrol::Beeld("PicGroot", 600, 600, 10200, 14400)), taak.druk == PrintZweeds);
         }
     }
 
