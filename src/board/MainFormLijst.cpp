@@ -54,11 +54,11 @@ void MainForm::ListView1_ItemClick()
     if (rij.Vaknummer.isEmpty() || rij.Vaknummer == "-"_L1 || !soort || soort->Richtingen.isEmpty())
         return;
     const Plaats plaats = LeesPlaats(rij.Vaknummer);
-    const int lengte = Getallen::AlsInt16(AantalVakjes(rij.Oplossing) * VakMaat) - VakMaat;
+    const Richting *richting = soort->Richtingen.contains(plaats.Richting) ? RichtingVan(plaats.Richting) : nullptr;
+    const int lengte = richting ? Getallen::AlsInt16(AantalVakjes(rij.Oplossing) * VakMaat) - VakMaat : 0;
     Line1->X1 = plaats.Kolom * VakMaat + VakMaat / 2.0;
     Line1->Y1 = plaats.Rij * VakMaat + VakMaat / 2.0;
-    const Richting *richting = RichtingVan(plaats.Richting);
-    if (richting && soort->Richtingen.contains(plaats.Richting)) { // else the end of the line stays where it was
+    if (richting) { // else the end of the line stays where it was
         Line1->X2 = Line1->X1 + richting->Kolommen * lengte;
         Line1->Y2 = Line1->Y1 + richting->Rijen * lengte;
     }

@@ -200,7 +200,7 @@ private slots:
         QFETCH(QString, plaats);
         Bord bord;
         PuzzelType = soort;
-        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}, {plaats, {}, u"noot"_s, {}}});
+        bord.Venster.VoegRijenToe({{u"A-01 / 1-H"_s, {}, u"aap"_s, {}}, {plaats, {}, QString(73, u'o'), {}}});
         bord.Venster.ListView1_ItemClick();
         bord.Venster.Line1->hide();
         Kies(bord, 1);
