@@ -2,12 +2,13 @@
 
 #include "board/Algemeen.h"
 #include "board/MainForm.h"
+#include "platform/TextBox.h"
 
+#include <QLineEdit>
 #include <QMap>
 #include <QVariant>
 
-/// All that can be seen of the puzzle and of the main window, by the names of the globals and the controls. The clock
-/// is left out: it goes on by itself.
+/// All that can be seen of something, by names: the globals of the puzzle, the controls and the items of a window.
 using Stand = QMap<QString, QVariant>;
 
 /// What a picture prints with: font, points, bold, colour.
@@ -34,6 +35,11 @@ inline QVariantList Inhoud(const QWidget &control)
         return {knop->isChecked()};
     if (const auto *schuif = qobject_cast<const QScrollBar *>(&control))
         return {schuif->value()};
+    if (const auto *box = qobject_cast<const QLineEdit *>(&control))
+        return {box->text(), box->cursorPosition(), box->selectedText()};
+    if (const auto *box = qobject_cast<const TextBox *>(&control))
+        return {box->Text(), box->textCursor().position(), box->textCursor().selectedText(), box->font(),
+                box->document()->isUndoAvailable()};
     QVariantList inhoud;
     if (const auto *lijst = qobject_cast<const ListBox *>(&control)) {
         inhoud += lijst->ListIndex();
@@ -50,48 +56,67 @@ inline QVariantList Inhoud(const QWidget &control)
 }
 
 /// Whether something is the window's own, and not of a dialog that belongs to it.
-inline bool IsEigen(const MainForm &main, const QObject *kind)
+inline bool IsEigen(const Form &venster, const QObject *kind)
 {
-    for (const QObject *ouder = kind; ouder != &main; ouder = ouder->parent())
+    for (const QObject *ouder = kind; ouder != &venster; ouder = ouder->parent())
         if (qobject_cast<const QDialog *>(ouder))
             return false;
     return true;
 }
 
+/// The controls and the items of a window.
+inline Stand ControlsVan(const Form &venster)
+{
+    Stand stand;
+    for (const QAction *item : venster.findChildren<QAction *>())
+        if (!item->objectName().isEmpty() && IsEigen(venster, item))
+            stand[item->objectName()] =
+                QVariantList{item->text(), item->isEnabled(), item->isVisible(), item->isChecked()};
+    for (const QWidget *control : venster.findChildren<QWidget *>()) {
+        const QString naam = control->objectName();
+        if (naam.isEmpty() || naam.startsWith(QLatin1String("qt_")) || !IsEigen(venster, control))
+            continue;
+        QVariantList waarden{control->isHidden(), control->isEnabled(), control->toolTip()};
+        if (!control->isWindow()) // a menu is placed when it is shown
+            waarden += control->geometry();
+        stand[naam] = waarden + Inhoud(*control);
+    }
+    return stand;
+}
+
+/// A dialog, with its title, and which control has the focus when it is the active window.
+inline Stand StandVan(const Form &venster)
+{
+    Stand stand = ControlsVan(venster);
+    stand["Titel"] = venster.windowTitle();
+    stand["Focus"] = venster.focusWidget() ? venster.focusWidget()->objectName() : QString();
+    return stand;
+}
+
+/// The puzzle and the main window. The clock is left out: it goes on by itself.
 inline Stand StandVan(const MainForm &main)
 {
     const LineMark &lijn = *main.Line1;
     QVariantList zwart;
     for (const bool isZwart : VakZwart)
         zwart += isZwart;
-    Stand stand{{"PuzzelType", PuzzelType},
-                {"BoardWidth", BoardWidth},
-                {"BoardHeight", BoardHeight},
-                {"CurCol", CurCol},
-                {"CurRow", CurRow},
-                {"CurCell", CurCell},
-                {"PuzzelNaam", PuzzelNaam},
-                {"PuzzelGewijzigd", PuzzelGewijzigd},
-                {"PijlSoort", PijlSoort},
-                {"KleurVakjes", KleurVakjes},
-                {"Orgineel", QVariantList{OrgineelRood, OrgineelGroen, OrgineelBlauw}},
-                {"PaginaTekst", PaginaTekst},
-                {"VakZwart", zwart},
-                {"Main", main.windowTitle()},
-                {"Line1.Punten", QVariantList{lijn.X1, lijn.Y1, lijn.X2, lijn.Y2}}};
-    for (const QAction *item : main.findChildren<QAction *>())
-        if (!item->objectName().isEmpty() && IsEigen(main, item))
-            stand[item->objectName()] = QVariantList{item->text(), item->isEnabled(), item->isVisible()};
-    for (const QWidget *control : main.findChildren<QWidget *>()) {
-        const QString naam = control->objectName();
-        if (naam.isEmpty() || naam.startsWith(QLatin1String("qt_")) || control == main.KlokLabel ||
-            !IsEigen(main, control))
-            continue;
-        QVariantList waarden{control->isHidden(), control->isEnabled()};
-        if (!control->isWindow()) // a menu is placed when it is shown
-            waarden += control->geometry();
-        stand[naam] = waarden + Inhoud(*control);
-    }
+    Stand stand = ControlsVan(main);
+    stand.remove(main.KlokLabel->objectName());
+    stand.insert({{"PuzzelType", PuzzelType},
+                  {"BoardWidth", BoardWidth},
+                  {"BoardHeight", BoardHeight},
+                  {"CurCol", CurCol},
+                  {"CurRow", CurRow},
+                  {"CurCell", CurCell},
+                  {"PuzzelNaam", PuzzelNaam},
+                  {"PuzzelGewijzigd", PuzzelGewijzigd},
+                  {"PijlSoort", PijlSoort},
+                  {"KleurVakjes", KleurVakjes},
+                  {"Orgineel", QVariantList{OrgineelRood, OrgineelGroen, OrgineelBlauw}},
+                  {"PaginaTekst", PaginaTekst},
+                  {"VakZwart", zwart},
+                  {"Main", main.windowTitle()},
+                  {"Line1.Punten", QVariantList{lijn.X1, lijn.Y1, lijn.X2, lijn.Y2}}});
     return stand;
 }
 

@@ -151,6 +151,7 @@ private slots:
         Geval("quotes go", QByteArray("\"TAK, OUD\"\r\n \"KAT\r\n"), "kat\r\n|tak, oud", "2");
         Geval("blanks at the ends go", QByteArray("  OP EEN  \r\n"), "op een", "1");
         Geval("an empty line is a word", QByteArray("TAK\r\n\r\n"), "|tak", "2");
+        Geval("a word twice", QByteArray("KAT\r\nTAK\r\nKAT\r\n"), "kat|kat|tak", "3");
         Geval("empty", QByteArray(""), "", "0");
         Geval("bytes above 127", QByteArray("ZEE\xCBN\r\n\x80\r\n\xFF\r\n"), "zeeën|ÿ|€", "3");
         Geval("a long line", QByteArray(10000, 'A'), QString(10000, u'a'), "1");
@@ -164,7 +165,12 @@ private slots:
         AddForm form;
         form.List1->AddItem(u"oud"_s);
         form.Text1->setText(u"getypt"_s);
+        form.Label2->SetCaption(u"7"_s);
+        form.List2->setFocus();
+        const Stand ervoor = StandVan(form);
         Kies(form, u"Dieren"_s);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Label2 List1 List2 Text2"_s);
+        QCOMPARE(form.List1->ListIndex(), -1);
         QCOMPARE(form.Text2->text(), u"Dieren"_s);
         QStringList gelezen = form.List1->Items(), verwacht = woorden.split(u'|');
         if (inhoud.isEmpty())
@@ -175,7 +181,6 @@ private slots:
         }
         QCOMPARE(gelezen, verwacht);
         QTEST(form.Label2->Caption(), "aantal");
-        QCOMPARE(form.Text1->text(), u"getypt"_s);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
@@ -217,7 +222,9 @@ private slots:
         AddForm form;
         form.List1->SetItems({u"kat"_s, u"vos"_s});
         form.Text1->setText(getypt);
+        form.Text2->setText(u"Dieren"_s);
         form.AddKnop->setFocus();
+        const Stand ervoor = StandVan(form);
         const QPoint plaats = form.AddKnop->pos();
         Verloop verloop([&] { return form.AddKnop->pos() == plaats ? QString() : u"gedrukt "_s + Woorden(form); });
         form.AddKnop->click();
@@ -226,6 +233,8 @@ private slots:
         QCOMPARE(form.Text1->text(), QString());
         QCOMPARE(form.focusWidget(), form.Text1);
         QCOMPARE(form.Label2->Caption(), u"3"_s);
+        QCOMPARE(form.List1->ListIndex(), -1);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Focus Label2 List1 Text1"_s);
     }
 
     void theWordIsTheOneThatStandsThereBehindThePress()
@@ -315,6 +324,9 @@ private slots:
         form.List1->SetItems({u"aal"_s, u"kat"_s, u"vos"_s});
         form.List1->SetListIndex(rij);
         form.Label2->SetCaption(u"7"_s);
+        form.Text1->setText(u"getypt"_s);
+        form.DelKnop->setFocus();
+        const Stand ervoor = StandVan(form);
         const QPoint plaats = form.DelKnop->pos();
         Verloop verloop([&] { return form.DelKnop->pos() == plaats ? QString() : u"gedrukt"_s; });
         verloop.Antwoorden = {ja ? Antwoord::Ja : Antwoord::Nee};
@@ -324,6 +336,7 @@ private slots:
         QTEST(Woorden(form), "woorden");
         QTEST(form.Label2->Caption(), "aantal");
         QCOMPARE(form.List1->ListIndex(), ja ? -1 : rij);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), ja ? u"Label2 List1"_s : QString());
     }
 
     void theWordThatGoesIsTheOneChosenBehindThePress()
@@ -343,11 +356,11 @@ private slots:
     {
         Woordbord bord;
         AddForm form;
-        form.List1->SetItems({u"kat"_s, u"Kat"_s, u"KAT"_s});
+        form.List1->SetItems({u"kat"_s, u"Kat"_s, u"Kat"_s, u"KAT"_s});
         form.List1->SetListIndex(1);
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
         form.DelKnop->click();
-        QCOMPARE(Woorden(form), u"kat|KAT"_s);
+        QCOMPARE(Woorden(form), u"kat|Kat|KAT"_s);
     }
 
     void nothingIsDeletedWithoutAChoice()
@@ -394,9 +407,10 @@ private slots:
         Kies(form, u"Dieren"_s);
         form.NieuwKnop->click();
         QCOMPARE(form.List2->Text(), u"Dieren"_s);
+        bord.Lijst(u"Dieren"_s, "KAT\r\nVOS\r\nAAP\r\n"); // as it is by now
         QTest::mouseClick(form.List2->viewport(), Qt::LeftButton, {},
                           form.List2->visualRect(form.List2->model()->index(0, 0)).center());
-        QCOMPARE(Woorden(form), u"kat|vos"_s);
+        QCOMPARE(Woorden(form), u"aap|kat|vos"_s);
         QCOMPARE(form.Text2->text(), u"Dieren"_s);
     }
 
@@ -423,6 +437,11 @@ private slots:
         QTest::addColumn<QByteArray>("inhoud");
         Geval("in capitals, as sorted", QStringList{u"vos"_s, u"Kat"_s, u"ijsje"_s},
               QByteArray("IJSJE\r\nKAT\r\nVOS\r\n"));
+        Geval("in the order of the list, whatever the bytes", QStringList{u"zon"_s, u"école"_s, u"eb"_s},
+              QByteArray("EB\r\n\xC9"
+                         "COLE\r\nZON\r\n"));
+        Geval("a word twice, and an empty one", QStringList{u"kat"_s, QString(), u"kat"_s},
+              QByteArray("\r\nKAT\r\nKAT\r\n"));
         Geval("bytes of the code page", QStringList{u"zeeën €"_s, u"Ω"_s}, QByteArray("ZEE\xCBN \x80\r\n?\r\n"));
         Geval("a comma, quotes and blanks as they stand", QStringList{u"\"a\", b"_s}, QByteArray("\"A\", B\r\n"));
         Geval("no words: an empty file", QStringList{}, QByteArray(""));
@@ -466,6 +485,7 @@ private slots:
         form.List1->AddItem(u"kat"_s);
         form.Text2->setText(naam);
         form.SaveKnop->setFocus();
+        const Stand ervoor = StandVan(form);
         const QPoint plaats = form.SaveKnop->pos();
         Verloop verloop([&] { return form.SaveKnop->pos() == plaats ? QString() : u"gedrukt"_s; });
         form.SaveKnop->click();
@@ -473,7 +493,7 @@ private slots:
                  (QStringList{u"0.2 s | gedrukt"_s, u"0.2 s |"_s, u"Rasteratelier: Omschrijving invullen a.u.b. |"_s}));
         QCOMPARE(form.focusWidget(), form.Text2);
         QVERIFY(!form.Unloaded());
-        QVERIFY(!form.Text1->isHidden() && form.Bar->isHidden());
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Focus"_s);
         QCOMPARE(bord.Lijsten(), QStringList());
     }
 
@@ -587,6 +607,20 @@ private slots:
         QVERIFY(!Zandloper());
         QCOMPARE(bord.Lijsten(), QStringList{ja ? naam + u".txt"_s : oud}); // the new file has the name as typed
         QCOMPARE(bord.Bank.Inhoud(u"Woordlijsten/"_s + bord.Lijsten()[0]), ja ? QByteArray("KAT\r\n") : lang);
+    }
+
+    void theWordsAreSavedUnderTheNameThatIsGiven()
+    {
+        Woordbord bord;
+        AddForm form;
+        form.List1->AddItem(u"kat"_s);
+        form.Text2->setText(u"Dieren"_s);
+        form.SaveKnop->setFocus();
+        const Stand ervoor = StandVan(form);
+        form.SaveWoorden(u"Vogels"_s);
+        QCOMPARE(bord.Lijsten(), QStringList{u"Vogels.txt"_s});
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Bar Text1"_s);
+        QVERIFY(!form.Unloaded());
     }
 
     void aNewNameLeavesTheOldList()

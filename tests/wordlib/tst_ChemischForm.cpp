@@ -157,6 +157,8 @@ private slots:
         const ChemischForm form;
         QCOMPARE(verloop.Stappen, QStringList{u"Error: Kan database niet vinden... (kritiek) |"_s});
         QTEST(Items(*form.Combo1), "elementen");
+        QCOMPARE(form.Combo1->currentIndex(), -1);
+        QVERIFY(form.Combo1->isEnabled());
         QCOMPARE(form.windowTitle(), u"Scheikundige symbolen (0)"_s);
         QVERIFY(!form.Unloaded());
         QVERIFY(!Zandloper());
@@ -200,9 +202,9 @@ private slots:
         QCOMPARE(Items(*form.Combo1), QStringList{Tin});
         QCOMPARE(form.Combo1->currentIndex(), -1);
         QCOMPARE(form.windowTitle(), u"Scheikundige symbolen (1)"_s);
-        bord.Bank.Schrijf(Pad, "goud-/-Au-/-79\r\ntin-/-Sn-/-50\r\nzilver");
+        bord.Bank.Schrijf(Pad, "tin-/-Sn-/-50\r\ngoud-/-Au-/-79\r\ntin-/-Sn-/-50\r\nzilver");
         form.VulElementen();
-        QCOMPARE(Items(*form.Combo1), (QStringList{Goud, Tin}));
+        QCOMPARE(Items(*form.Combo1), (QStringList{Tin, Goud, Tin})); // in the order of the file
         QCOMPARE(form.windowTitle(), u"Scheikundige symbolen (1)"_s); // after a failure the caption stays
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         bord.Bank.Schrijf(Pad, {});

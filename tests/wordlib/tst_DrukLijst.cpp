@@ -122,6 +122,7 @@ private slots:
         form.List1->SetItems(Woorden_(aantal));
         bord.Bank.Script.Antwoorden = {Antwoord::Nee};
         const int posX = PosX;
+        const Stand ervoor = StandVan(form);
         QVERIFY(form.FilePrint->isEnabled());
         form.FilePrint->trigger();
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
@@ -131,6 +132,7 @@ private slots:
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
         QVERIFY(bord.Bank.Script.Voorstellen.isEmpty()); // No: nothing happens
         QCOMPARE(PosX, posX);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), QString());
         QVERIFY(!form.Unloaded());
     }
 
@@ -143,11 +145,13 @@ private slots:
         form.ZoekLengte(5);
         QCOMPARE(form.List1->ListCount(), 1000);
         form.List1->SetItems({u"aaaaa"_s});
+        const Stand ervoor = StandVan(form);
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
         bord.Bank.Script.Bestanden = {bord.Pad};
         form.FilePrint->trigger();
         QVERIFY(bord.Bank.Inhoud(u"lijst.pdf"_s).startsWith("%PDF"));
         QCOMPARE(QFileInfo(bord.Bank.Script.Voorstellen.value(0)).fileName(), u"Database doorzoeken.pdf"_s);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), QString());
         QCOMPARE(PosX, 3300); // beyond the words that there are: a search fails, and the window stays
         form.Option1[1]->click();
         form.Text1->setText(u"aaa"_s);

@@ -87,13 +87,15 @@ private slots:
         form.List1->AddItem(u"oud"_s);
         form.Text1->setMaxLength(30);
         form.Text1->setText(trefwoord);
+        form.OkKnop->setFocus();
+        const Stand ervoor = StandVan(form);
         const QPoint plaats = form.OkKnop->pos();
         Verloop verloop([&] { return form.OkKnop->pos() == plaats ? QString() : u"gedrukt"_s; });
         verloop.Volg(*form.List1);
         form.OkKnop->click();
         QCOMPARE(verloop.Stappen,
                  (QStringList{u"0.2 s | gedrukt"_s, u"Error: Aleen woorden van 2 t/m 9 letters! (waarschuwing) |"_s}));
-        QCOMPARE(Woorden(form), u"oud"_s);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), QString());
         QVERIFY(!form.Unloaded());
     }
 
@@ -103,6 +105,8 @@ private slots:
         FormMain form;
         form.List1->AddItem(u"oud"_s);
         form.Text1->setText(u"Streek"_s);
+        form.OkKnop->setFocus();
+        const Stand ervoor = StandVan(form);
         const QPoint plaats = form.OkKnop->pos();
         Verloop verloop([&] {
             return form.OkKnop->pos() != plaats
@@ -113,6 +117,8 @@ private slots:
         form.OkKnop->click();
         QCOMPARE(verloop.Stappen, (QStringList{u"0.2 s | gedrukt"_s, u"0 s | zandloper oud"_s, u"lijst | zandloper"_s,
                                                u"lijst Streek | zandloper Streek verborgen"_s}));
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"List1"_s);
+        QCOMPARE(form.List1->ListIndex(), -1);
         QVERIFY(!form.List1->isHidden());
         QVERIFY(!Zandloper());
         QVERIFY(!form.Unloaded());
@@ -231,6 +237,7 @@ private slots:
         QTest::addColumn<QString>("aantal");
         Geval("in capitals, of any length", QStringList{u"Kat"_s, u"Zeeën"_s, QString(30, u'a')},
               QString(30, u'A') + u" KAT ZEEËN"_s, u"3 Woorden gevonden"_s);
+        Geval("a word twice", QStringList{u"Kat"_s, u"Kat"_s, u"Tak"_s}, u"KAT KAT TAK"_s, u"3 Woorden gevonden"_s);
         Geval("none", QStringList{}, QString(), u"0 Woorden gevonden"_s);
     }
     void whatIsHandedOver()

@@ -113,8 +113,11 @@ private slots:
         QFETCH(QString, letter);
         Woordbord bord;
         KladblokForm form;
+        form.TG[index]->trigger();
         form.EditBold->trigger();
+        QCOMPARE(LetterVan(form), letter + u" vet"_s);
         form.EditItalic->trigger();
+        QCOMPARE(LetterVan(form), letter + u" vet schuin"_s);
         for (int ervoor = 0; ervoor < 7; ++ervoor) { // from each of the others, and from itself
             form.TG[ervoor]->trigger();
             form.TG[index]->trigger();
@@ -197,6 +200,7 @@ private slots:
         QCOMPARE(bord.Veranderd(ervoor), QString());
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Geef de naam voor deze woordlijst..."_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Rasteratelier"_s);
         QTEST(bord.Lijsten(), "bestanden");
         QCOMPARE(form.Text1->Text(), u"koe"_s);
         QVERIFY(!form.Unloaded());
@@ -220,7 +224,11 @@ private slots:
         Woordbord bord;
         KladblokForm form;
         form.Text1->SetText(tekst);
+        QTest::keyClicks(form.Text1, u" "_s); // can be undone
+        form.Text1->moveCursor(QTextCursor::End);
+        const Stand ervoor = StandVan(form);
         form.SaveKladblok(u"Lijst"_s);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), QString());
         QCOMPARE(bord.Lijsten(), QStringList{u"Lijst.txt"_s});
         QTEST(bord.Lijst(u"Lijst"_s), "inhoud");
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());

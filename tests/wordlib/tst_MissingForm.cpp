@@ -257,6 +257,8 @@ private slots:
         MissingForm form;
         form.List1->AddItem(u"oud"_s);
         ZetPatroon(form, Waarden(u"-A-"_s));
+        form.OkKnop->setFocus();
+        const Stand ervoor = StandVan(form);
         const QPoint plaats = form.OkKnop->pos();
         Verloop verloop([&] {
             return form.OkKnop->pos() == plaats ? form.List1->Items().join(u' ') + u' ' + form.Label8->Caption()
@@ -268,6 +270,8 @@ private slots:
                                                u"lijst | zandloper  0 Woorden gevonden"_s,
                                                u"lijst KAT | zandloper KAT 0 Woorden gevonden"_s}));
         QCOMPARE(form.Label8->Caption(), u"1 Woorden gevonden"_s);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Label8 List1"_s); // the pattern stays for the next one
+        QCOMPARE(form.List1->ListIndex(), -1);
         QVERIFY(!Zandloper());
         QVERIFY(!form.Unloaded());
     }
@@ -315,6 +319,7 @@ private slots:
         Geval("known letters", "--A---EN-", "AFAARDENS KLAARMENS");
         Geval("nothing is known: every word of the length, in the order of the file", "---", "VOS KAT ÉÉN IJSA");
         Geval("all is known", "KAT", "KAT");
+        Geval("a line twice", "TWEE", "TWEE TWEE");
         Geval("none", "X--", "");
         Geval("the last letter counts", "VOT", "");
         Geval("one cell", "-", "A IJ");
@@ -332,9 +337,26 @@ private slots:
     {
         QFETCH(QString, patroon);
         QFETCH(QString, gevonden);
-        Woordbord bord(Regels({"vos", "kat", "afaardens", "klaarmens", "a", "ij", "ijsbeer", "zij", "ijij", "\xE9\xE9n",
-                               "ijsab", "ijsxy", "ijsa", "", "achttienletterwoor", "negentienletterwoor",
-                               "twintigletterwoorden", QByteArray(10000, 'a')}));
+        Woordbord bord(Regels({"twee",
+                               "vos",
+                               "kat",
+                               "twee",
+                               "afaardens",
+                               "klaarmens",
+                               "a",
+                               "ij",
+                               "ijsbeer",
+                               "zij",
+                               "ijij",
+                               "\xE9\xE9n",
+                               "ijsab",
+                               "ijsxy",
+                               "ijsa",
+                               "",
+                               "achttienletterwoor",
+                               "negentienletterwoor",
+                               "twintigletterwoorden",
+                               QByteArray(10000, 'a')}));
         MissingForm form;
         QCOMPARE(Zoek(form, patroon), gevonden);
         const qsizetype aantal = gevonden.split(u' ', Qt::SkipEmptyParts).size();
@@ -401,6 +423,7 @@ private slots:
               u"VOS "_s + QString(20, u'C') + u" ÉÉN"_s, u"3 Woorden gevonden"_s);
         Geval("IJ is two characters", QStringList{u"IJ"_s + QString(18, u'A'), u"IJ"_s + QString(19, u'B')},
               u"IJ"_s + QString(18, u'A'), u"1 Woorden gevonden"_s);
+        Geval("a word twice", QStringList{u"KAT"_s, u"AAL"_s, u"KAT"_s}, u"KAT AAL KAT"_s, u"3 Woorden gevonden"_s);
         Geval("none", QStringList{}, QString(), u"0 Woorden gevonden"_s);
     }
     void whatIsHandedOver()
@@ -447,15 +470,26 @@ private slots:
                 namen += control->isHidden() ? QString() : control->objectName() + u' ';
             return namen + (form.HelpUitleg->isChecked() ? u"aangevinkt"_s : QString());
         };
+        ZetPatroon(form, Waarden(u"-A-"_s));
+        form.List1->AddItem(u"KAT"_s);
+        form.List1->SetListIndex(0);
+        form.HScroll1->setFocus();
+        const Stand ervoor = StandVan(form);
         for (int keer = 0; keer < 2; ++keer) {
             QCOMPARE(zichtbaar(), u"CancelKnop ExportKnop OkKnop "_s);
+            QCOMPARE(Verschil(ervoor, StandVan(form)), QString());
             form.HelpUitleg->trigger();
             QCOMPARE(zichtbaar(), u"HelpPic OkKnop aangevinkt"_s);
+            QCOMPARE(Verschil(ervoor, StandVan(form)), u"CancelKnop ExportKnop HelpPic HelpUitleg"_s);
             const QImage beeld = Getoond(*form.HelpPic->parentWidget()).copy(form.HelpPic->geometry());
             QCOMPARE(beeld, form.HelpPic->Image()); // it covers the bars and the button
             form.HelpUitleg->trigger();
         }
         QVERIFY(form.HelpPic->geometry().contains(form.OkKnop->geometry()));
+        bord.Database("kat");
+        form.HelpUitleg->trigger();
+        form.OkKnop->click(); // the keyboard reaches it
+        QCOMPARE(zichtbaar(), u"HelpPic OkKnop aangevinkt"_s);
     }
 
     void theHelpSheet()

@@ -184,6 +184,28 @@ private slots:
         QCOMPARE(form.List2->Items().join(u'|'), u"Betekenis : één is geen"_s);
     }
 
+    void theLoadsLeaveTheChoiceOfATable()
+    {
+        const Naslagbord bord;
+        SpreekwoordForm form;
+        form.List1->SetListIndex(1);
+        form.List1_DblClick();
+        form.OkKnop->setFocus();
+        Stand ervoor = StandVan(form);
+        form.LaadBron(3);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Label1 List1 Titel"_s);
+        QCOMPARE(form.HuidigeBron, 1);
+        form.FileCripto[3]->trigger();
+        form.List1->setToolTip(u"oud"_s);
+        ervoor = StandVan(form);
+        form.LaadSpreekwoorden({});
+        QCOMPARE(Verschil(ervoor, StandVan(form)), u"Label1 List1 Titel"_s);
+        QCOMPARE(form.List1->toolTip(), u"oud"_s);
+        QCOMPARE(form.HuidigeBron, 3);
+        QCOMPARE(form.Titel, u"Één"_s);
+        QCOMPARE(form.Betekenis, u"Één is geen"_s);
+    }
+
     void linesAreShownAsTheyStandThere()
     {
         const Naslagbord bord;
@@ -313,8 +335,10 @@ private slots:
         form.FileCripto[1]->trigger();
         QCOMPARE(form.List2->ListCount(), 2);
         form.List1->SetListIndex(1);
+        const Stand ervoor = StandVan(form);
         form.List1_DblClick();
         QCOMPARE(Gemeld(bord.Bank.Script), u"Betekenis: Nee"_s);
+        QCOMPARE(Verschil(ervoor, StandVan(form)), QString());
     }
 
     // --- failures ---
@@ -373,6 +397,7 @@ private slots:
         QCOMPARE(Aangevinkt(form), QString::number(index));
         QCOMPARE(form.HuidigeBron, index);
         QCOMPARE(form.List1->toolTip(), u"oud"_s);
+        QCOMPARE(form.List2->ListCount(), index == 1 ? 0 : 2);
         QVERIFY(!Zandloper());
         QCOMPARE(Gemeld(bord.Bank.Script), QString());
     }

@@ -184,6 +184,11 @@ private slots:
         QVERIFY(bord.Venster.Label2->isHidden());
         QVERIFY(!Zandloper());
         QCOMPARE(PosX, 0);
+        verloop.Bijwerk = [] {};
+        bord.Database("nieuwer");
+        ZoekForm later;
+        QCOMPARE(Gelezen(later), u"nieuwer"_s);
+        QCOMPARE(Gelezen(form), u"nieuw"_s);
     }
 
     void whatIsRead_data()
@@ -291,6 +296,15 @@ private slots:
         index[2] = 1;
         index[3] = 2;
         QCOMPARE(form.LetterStart, index);
+    }
+
+    void theIndexIsKeptWhenThereAreTooManyLetters()
+    {
+        Woordbord bord(Regels(Letters('z') + QByteArrayList{"\xE9"
+                                                            "n"}));
+        ZoekForm form;
+        for (int letter = 2; letter <= 26; ++letter)
+            QCOMPARE(form.LetterStart[static_cast<size_t>(letter)], letter - 1);
     }
 
     void longLinesAreWords()
