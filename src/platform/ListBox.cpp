@@ -63,6 +63,7 @@ void ListBox::SetItems(QStringList teksten)
     if (Sorted)
         SorteerAlfabetisch(teksten);
     model_.setStringList(teksten);
+    scrollToTop();
 }
 
 void ListBox::RemoveItem(int index)

@@ -18,7 +18,7 @@ public:
     bool Sorted = false;
 
     void AddItem(const QString &tekst);
-    /// Fills the list with these texts in one go.
+    /// Fills the list with these texts in one go, and shows it from the first one on.
     void SetItems(QStringList teksten);
     void RemoveItem(int index); ///< leaves nothing selected
     void Clear() { SetItems({}); }

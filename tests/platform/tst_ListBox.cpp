@@ -135,6 +135,11 @@ void tst_ListBox::newItemsAreNotSelected()
     lijst.SetItems({u"wim"_s, u"zus"_s, u"jet"_s});
     QCOMPARE(lijst.ListIndex(), -1);
     QCOMPARE(klik.size(), 0);
+    lijst.SetItems(QStringList(100, u"wim"_s));
+    lijst.scrollToBottom();
+    QVERIFY(lijst.verticalScrollBar()->value() > 0);
+    lijst.SetItems(QStringList(100, u"zus"_s));
+    QCOMPARE(lijst.verticalScrollBar()->value(), 0); // they are shown from the first one on
 }
 
 void tst_ListBox::aSortedListKeepsItsOrder()
