@@ -194,6 +194,7 @@ void MissingForm::HelpUitleg_Click()
 {
     const bool toon = HelpPic->isHidden();
     HelpPic->setVisible(toon);
+    HelpUitleg->setChecked(toon);
     CancelKnop->setVisible(!toon);
     ExportKnop->setVisible(!toon);
 }

@@ -16,3 +16,17 @@ template <class Vorm> QStringList GeefOver(Vorm &form, Woordbord &bord, const QS
     form.ExportKnop->click();
     return verloop.Stappen;
 }
+
+/// Closes a window that found a word during the press of the button that hands over.
+/// @return what that changes of the main window
+template <class Vorm> QString SluitBijOvergave(Vorm &form, Woordbord &bord)
+{
+    bord.VulList1();
+    form.List1->SetItems({QStringLiteral("kat")});
+    form.show();
+    const Stand ervoor = bord.Nu();
+    Verloop verloop;
+    verloop.Bijwerk = [&] { form.close(); };
+    form.ExportKnop->click();
+    return bord.Veranderd(ervoor);
+}

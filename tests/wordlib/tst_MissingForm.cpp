@@ -396,22 +396,32 @@ private slots:
 
     void closingTheWindowEndsASearch()
     {
-        Woordbord bord("kat");
-        MissingForm form;
-        form.HScroll1->setValue(3);
-        form.show();
-        Verloop verloop;
-        verloop.Bijwerk = [&] {
-            if (verloop.Stappen.size() == 2) // while pending events are run
-                form.close();
-        };
-        form.OkKnop->click();
-        QCOMPARE(verloop.Stappen.size(), 2);
-        QCOMPARE(form.List1->Items(), QStringList());
-        QVERIFY(!Zandloper());
+        for (const qsizetype wacht : {1, 2}) { // during the press, and while pending events are run
+            Woordbord bord("kat");
+            MissingForm form;
+            form.HScroll1->setValue(3);
+            form.show();
+            Verloop verloop;
+            verloop.Bijwerk = [&] {
+                if (verloop.Stappen.size() == wacht)
+                    form.close();
+            };
+            form.OkKnop->click();
+            QCOMPARE(verloop.Stappen.size(), wacht);
+            QCOMPARE(form.List1->Items(), QStringList());
+            QVERIFY(!Zandloper());
+        }
     }
 
     // --- the other buttons ---
+
+    void closingTheWindowDuringThePressHandsNothingOver()
+    {
+        Woordbord bord;
+        MissingForm form;
+        QCOMPARE(SluitBijOvergave(form, bord), QString());
+        QVERIFY(!Zandloper());
+    }
 
     void whatIsHandedOver_data()
     {
@@ -475,6 +485,9 @@ private slots:
         form.List1->SetListIndex(0);
         form.HScroll1->setFocus();
         const Stand ervoor = StandVan(form);
+        form.HelpUitleg_Click();
+        QCOMPARE(zichtbaar(), u"HelpPic OkKnop aangevinkt"_s);
+        form.HelpUitleg_Click();
         for (int keer = 0; keer < 2; ++keer) {
             QCOMPARE(zichtbaar(), u"CancelKnop ExportKnop OkKnop "_s);
             QCOMPARE(Verschil(ervoor, StandVan(form)), QString());

@@ -190,6 +190,7 @@ private slots:
         rij("part", 3, dieren, u"aa"_s, u"kaart staart"_s);
         rij("part in capitals", 3, dieren, u"AA"_s, u"kaart staart"_s);
         rij("part: a wildcard is a question mark", 3, {"wat?", "wat"}, u"t?"_s, u"wat?"_s);
+        rij("part: lines with their blanks", 3, {" kat ", "kat"}, u"kat"_s, u" kat  kat"_s);
         rij("vowels", 4, {"kat", "oei", "koeien", "aaiui", "zeeen", "ijs"}, QString(),
             u"aaiui aaiui aaiui koeien koeien oei zeeen"_s);
         rij("vowels in the longest words", 4,
@@ -437,6 +438,13 @@ private slots:
         const QString anders = venster.Bord.Veranderd(ervoor);
         QVERIFY2(anders == "Label3 List1"_L1 || anders == "List1"_L1, qPrintable(anders)); // a count may be the same
         QVERIFY(venster.Form.Unloaded());
+        QVERIFY(!Zandloper());
+    }
+
+    void closingTheWindowDuringThePressHandsNothingOver()
+    {
+        Zoekvenster venster("kat");
+        QCOMPARE(SluitBijOvergave(venster.Form, venster.Bord), QString());
         QVERIFY(!Zandloper());
     }
 
