@@ -331,6 +331,10 @@ void tst_TextBox::aChangedTextIsToldAnew()
     box.clear();
     QCOMPARE(box.LineCount(), 1);
     QCOMPARE(box.Text(), QString());
+    box.SetText(QString(20, u'i'));
+    QCOMPARE(box.LineCount(), 1);
+    box.SetText(QString(20, u'W')); // as many letters, and wider ones
+    QVERIFY(box.LineCount() > 1);
 }
 
 void tst_TextBox::theTextIsPlain()

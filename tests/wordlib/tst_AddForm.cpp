@@ -138,6 +138,9 @@ private slots:
         QDir(bord.Bank.Map()).rmdir(u"Woordlijsten"_s);
         AddForm form;
         QCOMPARE(form.List2->Items(), QStringList());
+        form.List2->AddItem(u"Dieren"_s);
+        form.VulOnderwerpen();
+        QCOMPARE(form.List2->Items(), QStringList());
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
@@ -397,6 +400,25 @@ private slots:
         QCOMPARE(form.Label2->Caption(), u"1"_s);
     }
 
+    void closingTheWindowDuringAPressLeavesTheWords()
+    {
+        for (ImageButton *AddForm::*knop : {&AddForm::AddKnop, &AddForm::DelKnop, &AddForm::NieuwKnop}) {
+            Woordbord bord;
+            AddForm form;
+            form.List1->SetItems({u"kat"_s, u"vos"_s});
+            form.List1->SetListIndex(0);
+            form.Text1->setText(u"mus"_s);
+            form.Text2->setText(u"Dieren"_s);
+            form.show();
+            Verloop verloop;
+            verloop.Bijwerk = [&] { form.close(); };
+            (form.*knop)->click();
+            QCOMPARE(verloop.Stappen, QStringList{u"0.2 s |"_s}); // nothing is asked
+            QCOMPARE(Woorden(form), u"kat|vos"_s);
+            QCOMPARE(form.Text2->text(), u"Dieren"_s);
+        }
+    }
+
     void theChosenSubjectCanBeReadAgain()
     {
         Woordbord bord;
@@ -444,6 +466,7 @@ private slots:
               QByteArray("\r\nKAT\r\nKAT\r\n"));
         Geval("bytes of the code page", QStringList{u"zeeën €"_s, u"Ω"_s}, QByteArray("ZEE\xCBN \x80\r\n?\r\n"));
         Geval("a comma, quotes and blanks as they stand", QStringList{u"\"a\", b"_s}, QByteArray("\"A\", B\r\n"));
+        Geval("a tab and a hard space too", QStringList{u"\tmus\u00A0"_s}, QByteArray("\tMUS\xA0\r\n"));
         Geval("no words: an empty file", QStringList{}, QByteArray(""));
         Geval("a long word", QStringList{QString(10000, u'a')}, QByteArray(10000, 'A') + "\r\n");
     }

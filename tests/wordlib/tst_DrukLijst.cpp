@@ -77,6 +77,16 @@ private slots:
         QCOMPARE(rol.Titel, u"Een titel"_s);
     }
 
+    void wordsArePrintedAsTheyStand()
+    {
+        Bord bord;
+        Drukrol rol;
+        const QStringList woorden{u" Kat "_s, QString(), u"kat"_s, u"kat"_s};
+        DrukLijst(rol, QString(), woorden);
+        for (int i = 0; i < 4; ++i)
+            QCOMPARE(rol.Gedaan[2 + i], Drukrol::Tekst(300 + 3000 * i, 900, 10, false, RGB(90, 90, 90), woorden[i]));
+    }
+
     void wherePosXAndPosYEnd_data()
     {
         QTest::addColumn<int>("aantal");

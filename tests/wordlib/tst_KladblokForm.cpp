@@ -113,11 +113,16 @@ private slots:
         QFETCH(QString, letter);
         Woordbord bord;
         KladblokForm form;
+        QFont hoort = form.Text1->font();
         form.TG[index]->trigger();
+        hoort.setPixelSize(letter.toInt());
+        QCOMPARE(form.Text1->font(), hoort); // nothing else of it changes
         form.EditBold->trigger();
-        QCOMPARE(LetterVan(form), letter + u" vet"_s);
+        hoort.setBold(true);
+        QCOMPARE(form.Text1->font(), hoort);
         form.EditItalic->trigger();
-        QCOMPARE(LetterVan(form), letter + u" vet schuin"_s);
+        hoort.setItalic(true);
+        QCOMPARE(form.Text1->font(), hoort);
         for (int ervoor = 0; ervoor < 7; ++ervoor) { // from each of the others, and from itself
             form.TG[ervoor]->trigger();
             form.TG[index]->trigger();
@@ -148,6 +153,10 @@ private slots:
         form.EditItalic->trigger();
         QCOMPARE(LetterVan(form), u"13"_s);
         QVERIFY(!form.EditItalic->isChecked());
+        form.EditBold_Click();
+        form.EditItalic_Click();
+        QCOMPARE(LetterVan(form), u"13 vet schuin"_s);
+        QVERIFY(form.EditBold->isChecked() && form.EditItalic->isChecked());
         QCOMPARE(form.Text1->Text(), u"woord"_s);
     }
 
@@ -186,6 +195,7 @@ private slots:
         Geval("a sign that no name may hold", "a/b", QStringList());
         Geval("a folder above", "..", QStringList{u"...txt"_s});
         Geval("outside the code page", "日本", QStringList{u"日本.txt"_s});
+        Geval("long", QString(200, u'a'), QStringList{u'A' + QString(199, u'a') + u".txt"_s});
         Geval("longer than a name may be", QString(300, u'a'), QStringList());
     }
     void theNameIsAskedFor()
@@ -204,6 +214,16 @@ private slots:
         QTEST(bord.Lijsten(), "bestanden");
         QCOMPARE(form.Text1->Text(), u"koe"_s);
         QVERIFY(!form.Unloaded());
+    }
+
+    void anEmptyBoxIsSavedToo()
+    {
+        Woordbord bord;
+        KladblokForm form;
+        bord.Bank.Script.Teksten = {u"dieren"_s};
+        form.FileSave->trigger();
+        QCOMPARE(bord.Lijsten(), QStringList{u"Dieren.txt"_s});
+        QCOMPARE(bord.Lijst(u"Dieren"_s), QByteArray());
     }
 
     void theLinesOfTheFile_data()
