@@ -133,6 +133,14 @@ private slots:
         QCOMPARE(Verschil(ervoor, SchuifStand(bord)), QString());
     }
 
+    // The pointer was never on the board: its label still has no place, and the title tells what the label tells.
+    void theTitleHasTheTextOfTheLabel()
+    {
+        Bord bord;
+        for (const Soortvenster &venster : Vensters())
+            QCOMPARE(venster.Maak()->windowTitle(), venster.Titel + u"Coordinaten"_s);
+    }
+
     void theValueIsShownBigAndWhole()
     {
         Bord bord;
@@ -220,10 +228,16 @@ private slots:
     void whileTheThumbIsDraggedTheValueFollows()
     {
         Bord bord;
-        LetterForm form;
-        form.HScroll1->setSliderDown(true);
-        form.HScroll1->setSliderPosition(22);
-        QCOMPARE(form.Label2->Caption(), u"W"_s); // before it is released
+        LetterForm letter;
+        NummerForm nummer;
+        for (SchuifForm *form : QList<SchuifForm *>{&letter, &nummer}) {
+            form->HScroll1->setSliderDown(true);
+            form->HScroll1->setSliderPosition(22);
+        }
+        QCOMPARE(letter.Label2->Caption(), u"W"_s); // before it is released
+        QCOMPARE(nummer.Label2->Caption(), u"22"_s);
+        QCOMPARE(GekozenLetter, u"W"_s);
+        QCOMPARE(GekozenNummer, 22);
     }
 
     void everyLetterInItsCell()
@@ -244,18 +258,25 @@ private slots:
         QVERIFY(bord.Groot() == groot);
     }
 
+    void whatALetterLeavesBehind_data() { ElkeSoort(); }
     void whatALetterLeavesBehind()
     {
+        QFETCH(int, soort);
         Bord bord;
+        bord.Begin(static_cast<quint8>(soort), 9, 9);
         bord.Wijs(2, 3);
+        VakZwart[CurCell] = true; // it is not looked at
         AndereLetters(bord);
         bord.InBewerking();
         PuzzelGewijzigd = false;
         const Stand ervoor = SchuifStand(bord);
         const QImage groot = bord.Groot();
+        Verwacht verwacht(bord.Pic());
         LetterForm form;
         Klik(bord, *form.OkKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
+        verwacht.Druk(u"A"_s, QPoint(71, 97), Lettertype(u"Courier New"_s, 12, true), Grijs);
+        QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
         QCOMPARE(Verschil(ervoor, SchuifStand(bord)), u"Pic PicGroot PuzzelGewijzigd"_s); // no row
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(bord.Groot() == groot); // of which the font alone is set
@@ -319,17 +340,27 @@ private slots:
         QCOMPARE(Lettersoort(*bord.Venster.PicGroot), u"Arial 20 %1 ff000000"_s.arg(vet));
     }
 
+    void whatANumberLeavesBehind_data() { ElkeSoort(); }
     void whatANumberLeavesBehind()
     {
+        QFETCH(int, soort);
         Bord bord;
+        bord.Begin(static_cast<quint8>(soort), 9, 9);
         bord.Wijs(2, 3);
+        VakZwart[CurCell] = true; // it is not looked at
         bord.InBewerking();
         PuzzelGewijzigd = false;
+        bord.Venster.Pic->BoxFull(900, 1350, 1350, 1800, Zwart);
+        const QImage pic = MetNummer(bord.Pic(), QRect(61, 91, 11, 9), u"0"_s, Lettertype(u"Arial"_s, 6, true));
+        const QImage groot =
+            MetNummer(bord.Groot(), QRect(244, 364, 35, 29), u"0"_s, Lettertype(u"Arial Narrow"_s, 20, true));
         const Stand ervoor = SchuifStand(bord);
         NummerForm form;
         Klik(bord, *form.OkKnop, [&] { QVERIFY(!form.Unloaded()); });
         QVERIFY(form.Unloaded());
         QCOMPARE(Verschil(ervoor, SchuifStand(bord)), u"Pic PicGroot PuzzelGewijzigd"_s);
+        QCOMPARE(Verschil(bord.Pic(), pic), QString());
+        QCOMPARE(Verschil(bord.Groot(), groot), QString());
         QVERIFY(PuzzelGewijzigd);
     }
 
@@ -398,12 +429,18 @@ private slots:
         LetterForm letter;
         NummerForm nummer;
         {
-            KijkKlok klok([&] { letter.HScroll1->setValue(16); });
+            KijkKlok klok([&] {
+                letter.HScroll1->setValue(16);
+                bord.Wijs(3, 3);
+            });
             letter.OkKnop->click();
         }
-        verwacht.Druk(u"Q"_s, QPoint(71, 97), Lettertype(u"Arial"_s, 12, true), Grijs);
+        verwacht.Druk(u"Q"_s, QPoint(101, 97), Lettertype(u"Arial"_s, 12, true), Grijs);
         QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
-        KijkKlok klok([&] { nummer.HScroll1->setValue(25); });
+        KijkKlok klok([&] {
+            nummer.HScroll1->setValue(25);
+            bord.Wijs(2, 3);
+        });
         nummer.OkKnop->click();
         QCOMPARE(Verschil(bord.Pic(),
                           MetNummer(verwacht.Beeld, QRect(61, 91, 11, 9), u"25"_s, Lettertype(u"Arial"_s, 6, true))),
@@ -417,9 +454,28 @@ private slots:
         CurCol = 15; // the pointer has not moved since there was a larger board
         CurRow = 18;
         const QImage pic = bord.Pic(), groot = bord.Groot();
-        for (const Soortvenster &venster : Vensters())
-            venster.Maak()->OkKnop_Click();
+        for (const Soortvenster &venster : Vensters()) {
+            PuzzelGewijzigd = false;
+            const auto form = venster.Maak();
+            form->OkKnop_Click();
+            QVERIFY(form->Unloaded() && PuzzelGewijzigd); // as ever
+        }
         QVERIFY(bord.Pic() == pic && bord.Groot() == groot);
+    }
+
+    void aWindowThatIsClosedDuringTheEffectPlacesNothing()
+    {
+        Bord bord;
+        bord.Wijs(2, 3);
+        for (const Soortvenster &venster : Vensters()) {
+            const auto form = venster.Maak();
+            form->show();
+            const Stand ervoor = SchuifStand(bord);
+            KijkKlok klok([&] { form->close(); });
+            form->OkKnop->click();
+            QVERIFY(form->Unloaded());
+            QCOMPARE(Verschil(ervoor, SchuifStand(bord)), QString());
+        }
     }
 
     void aSecondPressDuringTheEffectPlacesItOnce()
