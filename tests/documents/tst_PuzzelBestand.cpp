@@ -25,11 +25,15 @@ private slots:
     void everyRowIsFiveLines()
     {
         const QList<Rij> rijen{{u"  A-01 / 1-H "_s, u" dier, groot \"grijs\""_s, u" olifant "_s, u" - "_s},
-                               {u"B-02 / 18-V"_s, QString(), u"één€"_s, u"12"_s}};
+                               {u"B-02 / 18-V"_s, QString(), u"één€"_s, u"12"_s},
+                               {u"  "_s, u"twee\nregels"_s, u"\"aap\""_s, QString()},
+                               {}};
         QCOMPARE(SchrijfPuzzelLijst(3, 9, 10, rijen),
                  QByteArray("Tessel Hoeksma Software \xAE 2018\r\n3\r\n9\r\n10\r\n" + Streep +
                             "\r\nA-01 / 1-H\r\n dier, groot \"grijs\"\r\n olifant \r\n - \r\n" + Streep +
-                            "\r\nB-02 / 18-V\r\n\r\n\xE9\xE9n\x80\r\n12\r\n" + Streep + "\r\n"));
+                            "\r\nB-02 / 18-V\r\n\r\n\xE9\xE9n\x80\r\n12\r\n" + Streep +
+                            "\r\n\r\ntwee\nregels\r\n\"aap\"\r\n\r\n" + Streep + "\r\n\r\n\r\n\r\n\r\n" + Streep +
+                            "\r\n"));
     }
 
     void onlyBlanksAreTrimmed()
@@ -62,6 +66,7 @@ private slots:
                          mies = "B-01 / 2-H\r\nnoot\r\nmies\r\n-" + einde;
         const char alleenAap[] = "A-01 / 1-H|dier|aap|-", alleenMies[] = "B-01 / 2-H|noot|mies|-";
         Geval("header only", Kop, "", true);
+        Geval("no kind, no banner and another line", "\r\n0\r\n9\r\n9\r\nx\r\n" + aap, alleenAap, true);
         Geval("empty clue keeps its place", Kop + "A-01 / 1-H\r\n\r\naap\r\n-" + einde + mies,
               "A-01 / 1-H||aap|-/B-01 / 2-H|noot|mies|-", true);
         Geval("blank first field is skipped", Kop + "   \r\nx\r\ny\r\nz" + einde + mies, alleenMies, true);

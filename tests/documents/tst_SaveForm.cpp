@@ -1,3 +1,4 @@
+#include "documents/PuzzelBestand.h"
 #include "documents/SaveForm.h"
 #include "platform/Files.h"
 #include "platform/PictureFiles.h"
@@ -30,6 +31,7 @@ public:
             Wachttijden += seconden;
             Welke += welke;
             Zandlopers += Zandloper();
+            Gewijzigd += PuzzelGewijzigd;
         }
     }
     SaveForm *Form = nullptr;
@@ -37,7 +39,7 @@ public:
     QList<int> Breedtes;
     QList<double> Wachttijden;
     QList<QEventLoop::ProcessEventsFlags> Welke;
-    QList<bool> Zandlopers;
+    QList<bool> Zandlopers, Gewijzigd;
 };
 
 class tst_SaveForm : public QObject
@@ -170,6 +172,10 @@ private slots:
         QVERIFY(!form.Unloaded());
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
+        QCOMPARE(form.Text1->text(), naam); // all stays as it was
+        QVERIFY(form.Bar->isHidden());
+        QCOMPARE(form.Label1->Caption(), u"0%"_s);
+        QVERIFY(!QGuiApplication::overrideCursor());
     }
 
     void outerBlanksBelongToTheName()
@@ -193,14 +199,28 @@ private slots:
     {
         Bord bord;
         SaveForm form;
-        form.Text1->setText(u"rei"_s);
         bool getypt = false;
         const KijkKlok klok([&] {
             if (!std::exchange(getypt, true))
-                QTest::keyClicks(form.Text1, u"s"_s);
+                QTest::keyClicks(form.Text1, u"reis"_s);
         });
         form.SaveKnop->click();
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u"Reis.lst"_s, u"reis1.bmp"_s, u"reis2.bmp"_s}));
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+    }
+
+    void aDialogThatIsClosedDuringThePressSavesNothing()
+    {
+        Bord bord;
+        PuzzelGewijzigd = true;
+        SaveForm form;
+        form.Text1->setText(u"reis"_s);
+        form.show();
+        const KijkKlok klok([&] { form.close(); });
+        form.SaveKnop->click();
+        QCOMPARE(klok.Wachttijden, QList<double>{0.2});
+        QVERIFY(bord.Bank.Bestanden(u"Puzzels"_s).isEmpty());
+        QVERIFY(PuzzelGewijzigd);
     }
 
     void theStepsOfASave()
@@ -215,8 +235,10 @@ private slots:
         verloop.Antwoorden = {Antwoord::Ja};
         const KijkSchijf schijf([&] { QVERIFY(Zandloper() && !balk().isEmpty()); }); // as soon as anything is written
         QString naam = form.Text1->text();
+        PuzzelGewijzigd = true;
         form.OpslaanPuzzel(naam);
         QCOMPARE(naam, u"Reis"_s);
+        QVERIFY(PuzzelGewijzigd && !form.Unloaded()); // both are left to the button
         QCOMPARE(verloop.Stappen[0], u"Exist: Naam puzzel bestaat al, overschrijven? (ja of nee) | "_s +
                                          HaalGebruiker()); // who it is, is asked first
         QStringList gedaan;
@@ -244,10 +266,27 @@ private slots:
         QVERIFY(!QGuiApplication::overrideCursor());
     }
 
+    // Only the list of a puzzle tells that there is one of that name.
+    void picturesAloneAreReplacedWithoutAQuestion()
+    {
+        Bord bord;
+        Vul(bord);
+        bord.Bank.Schrijf(u"Puzzels/Reis1.bmp"_s, "oud");
+        bord.Bank.Schrijf(u"Puzzels/Reis2.bmp"_s, "oud");
+        Files::Schrijf(bord.Bank.Thuis() + u"/Pictures/Reis.jpg"_s, "oud");
+        Bewaar(u"Reis"_s);
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        QVERIFY(Files::LoadPicture(bord.Bank.Map() + u"/Puzzels/Reis1.bmp"_s) == bord.Pic());
+        QVERIFY(Files::LoadPicture(bord.Bank.Map() + u"/Puzzels/Reis2.bmp"_s) == bord.Groot());
+        QCOMPARE(QImage(bord.Bank.Thuis() + u"/Pictures/Reis.jpg"_s).size(), bord.Groot().size());
+    }
+
     void aSecondSaveReplacesAllFour()
     {
         Bord bord;
         Vul(bord);
+        PuzzelNaam = u"Reis"_s; // its own name is asked about like another
+        bord.Venster.ToonNaam();
         Bewaar(u"Reis"_s);
         const QString foto = bord.Bank.Thuis() + u"/Pictures/Reis.jpg"_s, puzzels = bord.Bank.Map() + u"/Puzzels/"_s;
         const QByteArray oudeFoto = Files::Lees(foto);
@@ -257,6 +296,7 @@ private slots:
         bord.Bank.Schrijf(u"mydummy.bmp"_s, "of an earlier one");
         bord.Bank.Script.Antwoorden = {Antwoord::Ja};
         Bewaar(u"Reis"_s);
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QVERIFY(Files::LoadPicture(puzzels + u"Reis1.bmp"_s) == bord.Pic());
         QVERIFY(Files::LoadPicture(puzzels + u"Reis2.bmp"_s) == bord.Groot());
         QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Reis.lst"_s).count("\r\n"), 5);
@@ -299,10 +339,14 @@ private slots:
         Vul(bord);
         SaveForm form;
         QString naam = u"vakantie PUZZEL"_s;
+        PuzzelType = 77; // whatever the boards look like
+        BoardWidth = 3;
+        BoardHeight = 4;
         form.SaveLijstPuzzel(naam);
         QCOMPARE(naam, u"Vakantie puzzel"_s);
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), QStringList{u"Vakantie puzzel.lst"_s});
-        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie puzzel.lst"_s).count("\r\n"), 10);
+        QCOMPARE(bord.Bank.Inhoud(u"Puzzels/Vakantie puzzel.lst"_s),
+                 SchrijfPuzzelLijst(77, 3, 4, bord.Venster.Rijen()));
         QVERIFY(PuzzelGewijzigd && !form.Unloaded());
     }
 
@@ -314,8 +358,11 @@ private slots:
         SaveForm form;
         klok.Form = &form;
         form.Text1->setText(u"reis"_s);
+        PuzzelGewijzigd = true;
         form.SaveKnop_Click();
         QCOMPARE(klok.Percentages.size(), 152);
+        QVERIFY(!klok.Gewijzigd.contains(false)); // it counts as saved when all of that is over
+        QVERIFY(!PuzzelGewijzigd);
         QCOMPARE(klok.Percentages.first(7).join(u' '), u"0% 1% 1% 2% 3% 3% 4%"_s);
         for (int i = 0; i <= 150; ++i) {
             QCOMPARE(klok.Percentages[i], u"%1%"_s.arg(static_cast<int>(std::nearbyint(2 * i / 3.0))));
@@ -371,6 +418,20 @@ private slots:
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s).size(), 3);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
         QVERIFY(bord.Bank.Bestanden(QString()).isEmpty());
+        QVERIFY(!QDir(bord.Bank.Thuis() + u"/Pictures"_s).exists());
+    }
+
+    void aFileThatCannotComeToItsPlaceKeepsNoOtherFromBeingSaved()
+    {
+        Bord bord;
+        Vul(bord);
+        QVERIFY(QDir().mkpath(bord.Bank.Map() + u"/Puzzels/reis1.bmp/bezet"_s));
+        Bewaar(u"reis"_s);
+        QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u"Reis.lst"_s, u"reis2.bmp"_s}));
+        QCOMPARE(Fotos(bord), QStringList{u"Reis.jpg"_s});
+        QVERIFY(bord.Bank.TestKlok.Gewacht() > 4); // the progress
+        QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        QVERIFY(!PuzzelGewijzigd);
     }
 
     void namesThatTheFileSystemRefuses_data()
