@@ -112,10 +112,14 @@ private slots:
     void aRedOf150AloneDecides()
     {
         Bord bord;
-        const QImage bont = AlleRoden({481, 571});
-        bord.Venster.Pic->SetPicture(bont);
-        VerwijderRaster(*bord.Venster.Pic);
-        QCOMPARE(Verschil(bord.Pic(), ZonderRaster(bont, 480)), QString());
+        bord.Begin(Filippine, 9, 9);
+        const QImage bont = AlleRoden({600, 700}); // it goes over all of the picture, whatever the size of the board
+        PictureBox doel(&bord.Venster);
+        ZetBeeld(doel, bont);
+        const Stand ervoor = EditorStand(bord);
+        VerwijderRaster(doel);
+        QCOMPARE(Verschil(doel.Image(), ZonderRaster(bont, 599)), QString());
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString()); // the board itself is another picture
     }
 
     void theRasterGoesFromLeftToRightUnderAnHourglass()

@@ -177,7 +177,8 @@ private slots:
     {
         QFETCH(QString, label);
         QFETCH(int, nummer);
-        Filippinebord bord;
+        Bord bord;
+        bord.Begin(Filippine, 9, 9); // whatever its size: the label may be that of a larger board
         bord.Venster.Label6->SetCaption(label);
         FilippineForm form;
         QCOMPARE(form.windowTitle(), u"Oplossing Plaatsen op "_s + label);
@@ -187,7 +188,8 @@ private slots:
 
     void theNumberCellFollowsTheBar()
     {
-        Filippinebord bord;
+        Bord bord;
+        bord.Begin(Filippine, 9, 9); // whatever its size, the numbers go to 19
         FilippineForm form;
         for (const int nummer : {2, 19, 1, 9, 10, 1}) {
             form.HScroll1->setSliderDown(true);
@@ -208,6 +210,7 @@ private slots:
         Filippinebord bord;
         FilippineForm form;
         form.Text1->setText(u"dier"_s);
+        form.Text2->setText(u"beer"_s);
         form.HScroll1->setValue(4);
         form.Option[1]->setFocus();
         form.Option[1]->click();
@@ -215,6 +218,7 @@ private slots:
         QCOMPARE(form.Text1->text(), u"n.v.t."_s);
         QCOMPARE(form.Text1->palette().color(QPalette::Disabled, QPalette::Base), QColor(200, 230, 190));
         QCOMPARE(form.HScroll1->value(), 4);
+        QCOMPARE(form.Text2->text(), u"beer"_s);
         form.Text2->setText(u"aap"_s);
         form.Option[0]->click();
         QVERIFY(form.Text1->isEnabled() && form.HScroll1->isEnabled());
@@ -395,6 +399,18 @@ private slots:
         QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
     }
 
+    void theSameAnswerAgainIsAnotherRow()
+    {
+        Filippinebord bord;
+        for (int keer = 0; keer < 3; ++keer) {
+            Plaats(bord, {{2, 6}, u"aap"_s});
+            if (keer == 1)
+                bord.Venster.ListView1->setCurrentItem(bord.Venster.ListView1->topLevelItem(1));
+        }
+        QCOMPARE(bord.Venster.Rijen(), QList<Rij>(3, {u"07"_s, u"omschrijving"_s, u"aap"_s, u"-"_s}));
+        QVERIFY(bord.Venster.ListView1->topLevelItem(1)->isSelected()); // the choice stays
+    }
+
     void aClueOfBlanksIsAClue()
     {
         Filippinebord bord;
@@ -426,12 +442,45 @@ private slots:
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
     }
 
+    void whatIsChosenDuringTheEffectCounts()
+    {
+        Filippinebord bord;
+        VerwachtBord verwacht(bord);
+        bord.Wijs(2, 6);
+        FilippineForm form;
+        VulIn(form, {{2, 6}, u"aap"_s});
+        KijkKlok klok([&] {
+            form.Option[1]->setChecked(true);
+            bord.Wijs(4, 2);
+        });
+        form.OkKnop->click();
+        QVERIFY(form.Unloaded());
+        verwacht.Letters({4, 2}, u"A A P"_s, true);
+        QCOMPARE(Verschil(bord.Pic(), verwacht.Beeld), QString());
+        QCOMPARE(bord.Rij(0), QString());
+    }
+
+    void aWindowThatIsClosedDuringTheEffectPlacesNothing()
+    {
+        Filippinebord bord;
+        bord.Wijs(2, 6);
+        const Stand ervoor = EditorStand(bord);
+        FilippineForm form;
+        VulIn(form, {{2, 6}, u"aap"_s});
+        form.show();
+        KijkKlok klok([&] { form.close(); });
+        form.OkKnop->click();
+        QVERIFY(form.Unloaded());
+        QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+    }
+
     void whatIsMissingIsSaid_data()
     {
         QTest::addColumn<QString>("omschrijving");
         QTest::addColumn<QString>("oplossing");
         QTest::addColumn<bool>("zoekwoord");
         Geval("no clue", QString(), u"aap"_s, false);
+        Geval("no clue to an answer with a long letter", QString(), u"wijn?"_s, false);
         Geval("no answer", u"dier"_s, QString(), false);
         Geval("neither", QString(), QString(), false);
         Geval("no search word", QString(), QString(), true);
@@ -459,6 +508,7 @@ private slots:
         QCOMPARE(bericht.Plaatje, Icoon::Geen);
         QVERIFY(!form.Unloaded());
         QCOMPARE(Verschil(ervoor, EditorStand(bord)), QString());
+        QCOMPARE(form.Text1->text(), zoekwoord ? u"n.v.t."_s : omschrijving);
         QCOMPARE(form.Text2->text(), oplossing);
     }
 
