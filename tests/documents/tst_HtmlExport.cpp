@@ -99,6 +99,23 @@ private slots:
         QVERIFY(puzzel.Scherm.Bank.Script.Gezien.isEmpty());
     }
 
+    void theNameIsThatWhichIsGiven()
+    {
+        Puzzel puzzel;
+        ExporteerHtml(PuzzelNaam);
+        PuzzelNaam = u"Ander"_s;
+        SchrijfHtml(u"Bergen"_s);
+        ExporteerHtml(u"Bergen"_s);
+        QCOMPARE(puzzel.Html(), (QStringList{u"Bergen.html"_s, u"Reis.html"_s}));
+        QCOMPARE(puzzel.Images(), (QStringList{u"Bergen.bmp"_s, u"Reis.bmp"_s}));
+        QCOMPARE(puzzel.Scherm.Bank.Inhoud(u"Html/Bergen.html"_s), puzzel.Hoort(u"Bergen"_s));
+        QCOMPARE(puzzel.Geopend().last(), puzzel.Map() + u"/Html/Bergen.html"_s);
+        PuzzelNaam = u"Reis"_s; // whose page is not the one to go
+        const KijkKlok klok([&] { QCOMPARE(puzzel.Html(), QStringList{u"Reis.html"_s}); });
+        ExporteerHtml(u"Bergen"_s);
+        QCOMPARE(klok.Wachttijden.size(), 1);
+    }
+
     void aSecondExportReplacesBoth()
     {
         Puzzel puzzel;

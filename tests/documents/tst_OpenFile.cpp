@@ -211,8 +211,12 @@ private slots:
         KleurVakjes = 3;
         bord.Venster.GeefWoorden({u"AAP"_s, u"BEER"_s});
         bord.Venster.List1->SetListIndex(1); // shows it on CopyLabel
+        for (PictureBox *pic : {bord.Venster.Pic, bord.Venster.PicGroot})
+            pic->ZetLetter({.Naam = u"Courier New"_s, .Punten = 7.0, .Vet = false, .Kleur = qRgb(1, 2, 3)});
         const Stand ervoor = bord.Nu();
         Open(u"Reis"_s);
+        for (const PictureBox *pic : {bord.Venster.Pic, bord.Venster.PicGroot})
+            QCOMPARE(Lettersoort(*pic), u"Courier New 7 0 ff010203"_s);
         ook += u"Bestandsnaam BoardHeight BoardWidth Frame8 Label1 Label11 Line1 ListView1 Main Pic PicGroot PicO PicR "
                "PuzzelNaam Shape1"_s.split(u' ');
         ook.sort();
@@ -465,6 +469,9 @@ private slots:
     {
         Bord bord;
         SchrijfPuzzel(bord, u"Weg"_s, Zweeds, 9, 9);
+        SchrijfBeeld(bord, u"Weg2.bmp"_s, QSize(9, 9), qRgb(9, 9, 9));
+        bord.InBewerking();
+        bord.Klik(Qt::RightButton, 1, 1);
         OpenFile form;
         form.List1->SetListIndex(0);
         QFile::remove(bord.Bank.Map() + u"/Puzzels/Weg.lst"_s);
@@ -472,6 +479,48 @@ private slots:
         QVERIFY(form.Unloaded());
         QCOMPARE(BoardWidth, 16);
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        // All the other steps are done.
+        QCOMPARE(bord.Venster.Label11->Caption(), u"0 Items"_s);
+        QCOMPARE(bord.Venster.GetoondeNaam(), u"Weg"_s);
+        QCOMPARE(bord.Venster.windowTitle(), u"Zweedse Raster Atelier (16x19)"_s);
+        QCOMPARE(Verschil(bord.Pic(), Raster(16, 19)), QString());
+        QCOMPARE(bord.Groot().pixel(8, 8), qRgb(9, 9, 9));
+        QVERIFY(bord.Venster.Line1->isHidden() && bord.Venster.Shape1->isHidden());
+    }
+
+    void aListCanBeReadAlone()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Sudoku, 9, 10);
+        SchrijfPuzzel(bord, u"Zee"_s, Filippine, 5, 5);
+        OpenFile form;
+        form.List1->SetListIndex(1);
+        bord.InBewerking();
+        const Stand ervoor = bord.Nu();
+        form.LoadPuzzel(u"Reis"_s); // another one than is chosen
+        QCOMPARE(bord.Veranderd(ervoor), u"BoardHeight BoardWidth Label12 ListView1 PuzzelType"_s);
+        QCOMPARE(PuzzelType, Sudoku);
+        QCOMPARE(QSize(BoardWidth, BoardHeight), QSize(9, 10));
+        QCOMPARE(bord.Venster.Rijen(), TweeRijen);
+        QVERIFY(!form.Unloaded());
+    }
+
+    void aDialogThatIsClosedDuringAPressDoesNothing()
+    {
+        Bord bord;
+        SchrijfPuzzel(bord, u"Reis"_s, Sudoku, 9, 9);
+        for (ImageButton *OpenFile::*knop : {&OpenFile::OkKnop, &OpenFile::DelKnop}) {
+            OpenFile form;
+            form.List1->SetListIndex(0);
+            form.show();
+            const Stand ervoor = bord.Nu();
+            const KijkKlok klok([&] { form.close(); });
+            (form.*knop)->click();
+            QCOMPARE(klok.Wachttijden, QList<double>{0.2});
+            QCOMPARE(bord.Veranderd(ervoor), QString());
+            QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), QStringList{u"Reis.lst"_s});
+            QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        }
     }
 
     void sizesThatNoBoardCanHaveKeepThePuzzle_data()
@@ -555,12 +604,17 @@ private slots:
         Bord bord;
         for (const char *naam : {"Aal", "Boom", "Zee"})
             SchrijfPuzzel(bord, QLatin1String(naam), Zweeds, 9, 9);
+        PuzzelNaam = u"Boom"_s; // it is on the board, and stays there
+        bord.Venster.ToonNaam();
+        PuzzelNaam.clear();
         bord.InBewerking();
         const Stand ervoor = bord.Nu();
         OpenFile form;
         form.List1->SetListIndex(1);
         bord.Bank.Script.Antwoorden = {Antwoord::Ja, Antwoord::Ja};
+        form.DelKnop->setFocus();
         form.DelKnop->click();
+        QCOMPARE(form.focusWidget(), form.DelKnop);
         QCOMPARE(form.List1->Items(), (QStringList{u"Aal"_s, u"Zee"_s}));
         QCOMPARE(bord.Bank.Bestanden(u"Puzzels"_s), (QStringList{u"Aal.lst"_s, u"Zee.lst"_s}));
         QCOMPARE(PuzzelNaam, u"Boom"_s); // the name that was clicked stays

@@ -171,9 +171,11 @@ private slots:
         QFETCH(int, soort);
         const Veld veld(9, 10);
         PuzzelType = static_cast<quint8>(soort);
+        BoardWidth = 12; // the title tells both, whether they agree or not
+        BoardHeight = 7;
         const ShowPuzzel form;
         QCOMPARE(Verschil(form.SlidePic->Image(), veld.Groot()), QString());
-        QCOMPARE(form.windowTitle(), u"Orgineel Puzzelveld (1083,1203 / 9,10)"_s);
+        QCOMPARE(form.windowTitle(), u"Orgineel Puzzelveld (1083,1203 / 12,7)"_s);
     }
 
     void aBoardThatIsTooWideFails_data()
@@ -350,6 +352,16 @@ private slots:
         Beweeg(*form.SlidePic, QPoint(200, 100), knoppen);
         QCOMPARE(Toestand(form), Op(0, 0));
         Beweeg(*form.SlidePic, QPoint(290, 180));
+        QCOMPARE(Toestand(form), Op(-150, -300));
+    }
+
+    void aPressOnTheFirstPixelStartsADrag()
+    {
+        const Veld veld;
+        ShowPuzzel form;
+        Druk(*form.SlidePic, QPoint(300, 200));
+        Druk(*form.SlidePic, QPoint(0, 0));
+        Beweeg(*form.SlidePic, QPoint(-10, -20));
         QCOMPARE(Toestand(form), Op(-150, -300));
     }
 
