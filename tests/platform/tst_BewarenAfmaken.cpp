@@ -27,6 +27,7 @@ private slots:
     void anyCallOfASetMayFail();
     void aNoteOfLongNamesIsFinished();
     void theSpellingOfOneFileIsFinished();
+    void allThatWasLeftIsFinishedBesideAWriterThatRuns();
     void aFolderWhereNothingIsLeftIsNotTouched();
     void aDamagedNoteIsRemoved();
     void aNoteOfNamesThatNobodyHasIsRemoved_data();
@@ -213,6 +214,26 @@ void tst_BewarenAfmaken::aFolderWhereNothingIsLeftIsNotTouched()
     QTest::qSleep(30);
     MaakAf(bank_->Map());
     QCOMPARE(QFileInfo(bank_->Map()).lastModified(), ervoor);
+}
+
+void tst_BewarenAfmaken::allThatWasLeftIsFinishedBesideAWriterThatRuns()
+{
+    BestandenSet set;
+    set.Zet(Pad("a2.bmp"), {"nieuw"});
+    const auto laat = [&](QChar cijfer, const QString &nummer, const QString &namen) {
+        const QString nota = u".rasteratelier-"_s + QString(16, cijfer);
+        const QByteArray regels = (nummer + u'/' + namen + u'\n').toLatin1();
+        bank_->Schrijf(nota, regels + Zegel(regels));
+        bank_->Schrijf(nota + u'-' + nummer, "nieuw");
+    };
+    laat(u'0', u"1"_s, u"a1.bmp/a1.bmp"_s); // before the note of the writer
+    laat(u'f', u"12"_s, u"A.LST/A.lst"_s);  // and behind it
+    MaakAf(bank_->Map());
+    QCOMPARE(Inhoud(), QByteArray("nieuw oud nieuw"));
+    QCOMPARE(Namen().size(), 5);
+    set.PlaatsAlles();
+    QCOMPARE(Inhoud(), Nieuw);
+    QCOMPARE(Namen(), (QStringList{"A.lst", "a1.bmp", "a2.bmp"}));
 }
 
 void tst_BewarenAfmaken::aDamagedNoteIsRemoved()
