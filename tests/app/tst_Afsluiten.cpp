@@ -42,6 +42,18 @@ private slots:
         QVERIFY(start.Bank.Script.Gezien.isEmpty());
     }
 
+    void theSettingsAreWrittenAlsoWhenNoneHasChanged()
+    {
+        Start start;
+        LaadMain();
+        const QByteArray begin = start.Instellingen();
+        for (int keer = 0; keer < 2; ++keer) {
+            QVERIFY(QFile::remove(start.Bank.Map() + u"/Rasteratelier.ini"_s));
+            QVERIFY(SluitMain());
+            QCOMPARE(start.Instellingen(), begin);
+        }
+    }
+
     void aChangedPuzzleAsks()
     {
         Start start;
@@ -56,6 +68,7 @@ private slots:
         QCOMPARE(start.Bank.Script.Gezien[0].Tekst, u"Puzzel is gewijzigd, wil je toch afsluiten?"_s);
         QCOMPARE(start.Bank.Script.Gezien[0].Titel, u"Afsluiten"_s);
         QCOMPARE(start.Bank.Script.Gezien[0].Soort, Knoppen::JaNee);
+        QCOMPARE(start.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
         QVERIFY(PuzzelGewijzigd);
         QVERIFY(start.Venster.Pic->Image() == pic);
         QCOMPARE(start.Venster.ListView1->topLevelItemCount(), 1);

@@ -62,7 +62,8 @@ static void Verstel(ConfigForm &form)
     form.HScroll1[1]->setValue(0);
     form.HScroll1[2]->setValue(7);
     form.HScroll2->setValue(3);
-    form.Text1->setText(u"een ander"_s);
+    form.Text1->selectAll();
+    QTest::keyClicks(form.Text1, u"een ander"_s);
 }
 
 static const QString VersteldGetoond = u"100=100 0=0 7=7 #640007 3= 3 #fa9696 'een ander'"_s;
@@ -306,6 +307,7 @@ private slots:
         bord.Klik(Qt::RightButton, 3, 4);
         bord.InBewerking();
         PuzzelGewijzigd = false;
+        PijlSoort = 4;
         const Stand ervoor = bord.Nu();
         ConfigForm form;
         Verstel(form);
@@ -317,15 +319,30 @@ private slots:
         QVERIFY(!bord.Bank.Bestanden({}).contains(u"Rasteratelier.ini"_s));
     }
 
-    void okWithoutAChangeLeavesAllAsItIs()
+    void whatStandsThereAfterTheWaitsCounts()
     {
         Ingesteld bord;
-        PaginaTekst = u"  een,  \"twee\" "_s;
-        const Stand ervoor = bord.Nu();
         ConfigForm form;
+        int wachten = 0;
+        KijkKlok klok([&] {
+            if (++wachten == 2)
+                Verstel(form);
+        });
         form.OkKnop->click();
-        QVERIFY(form.Unloaded());
-        QCOMPARE(bord.Veranderd(ervoor), QString());
+        QCOMPARE(Instelling(), u"100,0,7 3 'een ander'"_s);
+    }
+
+    void okWithoutAChangeLeavesAllAsItIs()
+    {
+        for (const QString &tekst : {u"  een,  \"twee\" "_s, QString()}) {
+            Ingesteld bord;
+            PaginaTekst = tekst;
+            const Stand ervoor = bord.Nu();
+            ConfigForm form;
+            form.OkKnop->click();
+            QVERIFY(form.Unloaded());
+            QCOMPARE(bord.Veranderd(ervoor), QString());
+        }
     }
 
     void cancelChangesNothing()
@@ -361,6 +378,16 @@ private slots:
         QCOMPARE(bord.Veranderd(ervoor), u"KleurVakjes Orgineel"_s);
     }
 
+    void resetReachesPastTheCloseBox()
+    {
+        Ingesteld bord;
+        ConfigForm form;
+        form.show();
+        form.ResetKnop->click();
+        QVERIFY(form.close() && form.Unloaded());
+        QCOMPARE(Instelling(), u"230,250,190 1 'mijn pagina'"_s);
+    }
+
     void resetAndOkGiveAllDefaults()
     {
         Ingesteld bord;
@@ -368,6 +395,35 @@ private slots:
         form.ResetKnop->click();
         form.OkKnop->click();
         QCOMPARE(Instelling(), u"230,250,190 1 '"_s + BeginPaginaTekst() + u'\'');
+    }
+
+    void resetWorksWhateverDiffersAndEachTime()
+    {
+        const QString standaard = u"230=230 250=250 190=190 #e6fabe 1= 1 #e6fabe '"_s + BeginPaginaTekst() + u'\'';
+        for (int anders = 0; anders < 4; ++anders) {
+            Bord bord;
+            ZetInstelling(anders == 0 ? 1 : 230, anders == 1 ? 1 : 250, anders == 2 ? 1 : 190, anders == 3 ? 2 : 1,
+                          QString());
+            ConfigForm form;
+            for (int keer = 0; keer < 2; ++keer) {
+                form.ResetKnop->click();
+                QCOMPARE(Getoond(form), standaard);
+                QCOMPARE(Instelling(), u"230,250,190 1 ''"_s);
+                Verstel(form);
+            }
+        }
+    }
+
+    void enterIsNoOk()
+    {
+        Ingesteld bord;
+        ConfigForm form;
+        form.show();
+        Verstel(form);
+        for (QWidget *control : {static_cast<QWidget *>(form.Text1), static_cast<QWidget *>(form.HScroll2)})
+            QTest::keyClick(control, Qt::Key_Return);
+        QVERIFY(form.isVisible());
+        QCOMPARE(Instelling(), IngesteldIs);
     }
 
     // Its bar stands at 1 already then.

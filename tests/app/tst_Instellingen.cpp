@@ -48,6 +48,19 @@ private slots:
         QCOMPARE(gelezen.PaginaTekst, u"zonder aanhalingstekens"_s);
     }
 
+    void theFieldsMayBeOnOtherLines_data()
+    {
+        QTest::addColumn<QByteArray>("inhoud");
+        Geval("on one", QByteArray("kop,streep,1,2,3,2,\"tekst\""));
+        Geval("each on its own", QByteArray("kop\r\nstreep\r\n1\r\n2\r\n3\r\n2\r\n\"tekst\"\r\n"));
+        Geval("more than there are", Kop + "1,2,3\r\n2\r\n\"tekst\",7\r\n\"meer\"\r\n");
+    }
+    void theFieldsMayBeOnOtherLines()
+    {
+        QFETCH(QByteArray, inhoud);
+        QCOMPARE(SchrijfInstellingen(LeesInstellingen(inhoud)), Kop + "1,2,3\r\n2\r\n\"tekst\"\r\n");
+    }
+
     void damagedFilesFail_data()
     {
         QTest::addColumn<QByteArray>("inhoud");

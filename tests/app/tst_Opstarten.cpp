@@ -43,8 +43,8 @@ private slots:
             zonder = StandVan(start.Venster);
         }
         Start start;
-        const QByteArray bewaard = Begin + "1,2,3\r\n2\r\n\"mijn pagina\"\r\n";
-        start.Bank.Schrijf(u"RasterAtelier.INI"_s, bewaard); // found ignoring case
+        const QByteArray bewaard = "kop\nstreep\n 1,2,3\n2\nmijn pagina\nnog iets"; // not as it is written
+        start.Bank.Schrijf(u"RasterAtelier.INI"_s, bewaard);                        // found ignoring case
         LaadMain();
         QCOMPARE(OrgineelRood, qint16(1));
         QCOMPARE(OrgineelGroen, qint16(2));

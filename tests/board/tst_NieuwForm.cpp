@@ -110,15 +110,23 @@ private slots:
             QCOMPARE(box->palette().color(QPalette::Text), QColor(230, 230, 230));
     }
 
-    void theKindStartsAtZweeds()
+    void itOpensTheSameAfterAnyKind_data() { ElkeSoort(); }
+    void itOpensTheSameAfterAnyKind()
     {
+        QFETCH(int, soort);
         Bord bord;
-        bord.Begin(Sudoku, 9, 9);
+        bord.Begin(static_cast<quint8>(soort), 9, 10);
+        PuzzelNaam = u"oud"_s;
+        bord.Venster.ToonPuzzel(u"Raster Atelier"_s);
         NieuwForm form;
+        QCOMPARE(form.Text1->text(), QString());
+        QCOMPARE(form.Image1->Picture(), u"soort-zweeds"_s);
+        QVERIFY(form.Combo1->isEnabled() && form.Combo2->isEnabled());
+        QCOMPARE(form.Combo1->currentText() + u'x' + form.Combo2->currentText(), u"9x10"_s);
         QStringList opties;
         for (QRadioButton *optie : form.Option) {
             opties += optie->text();
-            QCOMPARE(optie->isChecked(), optie == form.Option[0]); // whatever the current puzzle
+            QCOMPARE(optie->isChecked(), optie == form.Option[0]);
             QCOMPARE(optie->grab().toImage().pixelColor(optie->width() - 1, 0), QColor(190, 230, 230));
         }
         QCOMPARE(opties.join(u'|'), u"Zweedse Puzzel|Woordzoeker|Kruiswoord Puzzel|Sudoku Puzzel|Filippine Puzzel"_s);
@@ -145,11 +153,14 @@ private slots:
         const bool vrij[] = {true, true, true, false, false};
         const QString plaatjes[]{u"soort-zweeds"_s, u"soort-woordzoeker"_s, u"soort-kruiswoord"_s, u"soort-sudoku"_s,
                                  u"soort-filippine"_s};
-        for (const qsizetype i : {4, 3, 4, 2, 4, 1, 3, 0}) { // from one fixed size to the other it stays so
-            form.Option[i]->click();
-            QCOMPARE(form.Image1->Picture(), plaatjes[i]);
-            QCOMPARE(form.Combo1->isEnabled(), vrij[i]);
-            QCOMPARE(form.Combo2->isEnabled(), vrij[i]);
+        for (int van = 0; van < AantalSoorten; ++van) {
+            for (int naar = 0; naar < AantalSoorten; ++naar) {
+                form.Option[van]->click();
+                form.Option[naar]->click();
+                QCOMPARE(form.Image1->Picture(), plaatjes[naar]);
+                QCOMPARE(form.Combo1->isEnabled(), vrij[naar]);
+                QCOMPARE(form.Combo2->isEnabled(), vrij[naar]);
+            }
         }
     }
 
@@ -178,9 +189,11 @@ private slots:
         QCOMPARE(form.Label1->Caption() + form.Label2->Caption(), u"Vakjes Horizontaal (12)Vakjes Vertikaal (14)"_s);
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Rasteratelier"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Soort, Knoppen::Ok);
+        QCOMPARE(bord.Bank.Script.Gezien[0].Plaatje, Icoon::Geen);
         QVERIFY(form.isVisible() && !form.Unloaded());
-        QVERIFY(form.Text1->hasFocus());
+        QVERIFY(form.Text1->hasFocus() && !form.Text1->hasSelectedText());
         QCOMPARE(bord.Veranderd(ervoor), QString());
         QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
     }
@@ -217,6 +230,10 @@ private slots:
             const QList<QWidget *> tekens{bord.Venster.Shape1, bord.Venster.Line1};
             for (const QWidget *teken : tekens)
                 QCOMPARE(teken->isHidden(), eerst != Zweeds && teken == bord.Venster.Line1);
+            bord.Venster.Timer1->stop();
+            bord.Venster.KlokLabel->SetCaption(u"7-3-2026 / 9:05:03"_s);
+            for (int kolom = 0; kolom < 4; ++kolom)
+                bord.Venster.ListView1->setColumnWidth(kolom, 70 + kolom); // as a person has drawn them
             const Stand ervoor = bord.Nu();
             NieuwForm form;
             VulIn(form, u"  mijn nieuwe puzzel "_s, u"12"_s, u"14"_s, optie);
@@ -237,6 +254,9 @@ private slots:
             QCOMPARE(!bord.Venster.Frame9->isHidden(), type == Sudoku);
             QCOMPARE(bord.Venster.EditDeleteRaster->isEnabled(), type == Filippine);
             QCOMPARE(bord.Venster.EditDeleteLetters->isEnabled(), type == Filippine);
+            QCOMPARE(bord.Venster.KlokLabel->Caption(), u"7-3-2026 / 9:05:03"_s);
+            for (int kolom = 0; kolom < 4; ++kolom)
+                QCOMPARE(bord.Venster.ListView1->columnWidth(kolom), 70 + kolom);
             QCOMPARE(bord.VeranderdBuitenPuzzel(ervoor), QString());
             Stand nu = bord.Nu();
             for (const char *naam : {"PuzzelType", "BoardWidth", "BoardHeight", "Pic", "PicGroot", "PicR", "PicO",
@@ -305,6 +325,7 @@ private slots:
         Geval("a hard blank alone", u" \u00A0 "_s, u"\u00A0"_s);
         Geval("hard blanks and tabs", u"\u00A0een\ttwee \u00A0drie\t"_s, u"\u00A0een\ttwee\u00A0drie\t"_s);
         Geval("other signs", "a.b \"c\" 'd'-1", "a.b\"c\"'d'-1");
+        Geval("long", QString(300, u'x') + u" y"_s, QString(300, u'x') + u'y');
     }
     void onlyBlanksAreTakenOutOfTheName()
     {
@@ -444,6 +465,23 @@ private slots:
         QVERIFY2(erbij < qint64{256 + 64} << 20, qPrintable(QString::number(erbij >> 20)));
         QVERIFY(!bord.Venster.grab().isNull()); // all is painted, and nothing raised on the way
         QVERIFY(bord.Bank.Script.Gezien.isEmpty());
+        const NieuwForm weer; // proposes it as it is
+        QCOMPARE(weer.Combo1->currentText() + u'x' + weer.Combo2->currentText(),
+                 u"%1x%2"_s.arg(maat.width()).arg(maat.height()));
+    }
+
+    void enterStartsNothing()
+    {
+        Bord bord;
+        const Stand ervoor = bord.Nu();
+        NieuwForm form;
+        form.show();
+        VulIn(form, u"naam"_s, u"12"_s, u"14"_s);
+        for (QWidget *control : {static_cast<QWidget *>(form.Text1), static_cast<QWidget *>(form.Combo1),
+                                 static_cast<QWidget *>(form.Combo2), static_cast<QWidget *>(form.Option[0])})
+            QTest::keyClick(control, Qt::Key_Return);
+        QVERIFY(form.isVisible());
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void closingDuringTheSecondWaitChangesNothing()

@@ -16,12 +16,14 @@ private slots:
         QCOMPARE(RijTekst(8), u"09"_s);
         QCOMPARE(RijTekst(9), u"10"_s);
         QCOMPARE(RijTekst(18), u"19"_s);
+        QCOMPARE(RijTekst(99), u"100"_s);
     }
 
     void aColumnIsALetter()
     {
         QCOMPARE(KolomTekst(0), u"A"_s);
         QCOMPARE(KolomTekst(15), u"P"_s);
+        QCOMPARE(KolomTekst(26), u"["_s); // the sign behind Z
     }
 
     void aCellIsColumnRowAndNumber() { QCOMPARE(PlaatsTekst(2, 6, 99), u"C-07 / 99"_s); }

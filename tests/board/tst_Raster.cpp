@@ -27,13 +27,13 @@ static QImage Liniaal(int breedte, int hoogte, QPoint plaats, QPoint stap, const
 
 static QImage Rijnummers(int hoogte)
 {
-    const QStringList nummers = u"01 02 03 04 05 06 07 08 09 10 11 12 13 14 15 16 17 18 19"_s.split(u' ');
+    const QStringList nummers = u"01 02 03 04 05 06 07 08 09 10 11 12 13 14 15 16 17 18 19 20 21 22"_s.split(u' ');
     return Liniaal(30, hoogte * 30 + 14, QPoint(6, 14), QPoint(0, 30), nummers.first(hoogte));
 }
 
 static QImage Kolomletters(int breedte)
 {
-    const QStringList letters = u"A B C D E F G H I J K L M N O P"_s.split(u' ');
+    const QStringList letters = u"A B C D E F G H I J K L M N O P Q R S T U V W X Y Z [ \\ ]"_s.split(u' ');
     return Liniaal(breedte * 30 + 14, 20, QPoint(17, 2), QPoint(30, 0), letters.first(breedte));
 }
 
@@ -201,7 +201,8 @@ private slots:
         Geval("no height", 12, 0);
         Geval("no width", 0, 12);
         Geval("one cell", 1, 1);
-        Geval("wide", 40, 3);
+        Geval("wide", 29, 3);
+        Geval("high", 3, 22);
     }
     void zeroAndForeignSizesAreTakenAsTheyStand()
     {
@@ -209,12 +210,19 @@ private slots:
         QFETCH(int, hoogte);
         Bord bord;
         bord.Venster.PicGroot->BoxFull(0, 0, 1e6, 1e6, Zwart);
+        const Stand ervoor = bord.Nu();
         bord.Begin(Zweeds, breedte, hoogte);
+        QCOMPARE(bord.VeranderdBuitenPuzzel(ervoor), QString()); // no other control moves
         QCOMPARE(bord.Pic(), Raster(breedte, hoogte));
         QCOMPARE(bord.Groot(), Tegels(bord.Venster.PicVak->Image(), breedte, hoogte));
         QCOMPARE(bord.Venster.Label1->size(), QSize(breedte * 30 + 14, hoogte * 30 + 14));
+        QCOMPARE(bord.Venster.Frame8->geometry(), QRect(12, 6, breedte * 30 + 14, 36));
         QCOMPARE(bord.Venster.PicR->geometry(), QRect(breedte * 30 + 14 + 13, 52, 30, hoogte * 30 + 14));
         QCOMPARE(bord.Venster.PicO->geometry(), QRect(12, hoogte * 30 + 14 + 53, breedte * 30 + 14, 20));
+        if (hoogte > 0 && breedte > 0) { // else there stands the beginning of what was drawn before
+            QCOMPARE(bord.Venster.PicR->Image(), Rijnummers(hoogte));
+            QCOMPARE(bord.Venster.PicO->Image(), Kolomletters(breedte));
+        }
     }
 };
 
