@@ -49,6 +49,9 @@ private slots:
         Geval("two words", "vakantie PUZZEL", "Vakantie puzzel");
         Geval("blank first", " Abc", " abc");
         Geval("empty", "", "");
+        Geval("one letter", "a", "A");
+        Geval("long ij", "ijsland", "Ijsland"); // two characters
+        Geval("hyphen and stop", "zuid-HOLLAND. noord", "Zuid-holland. noord");
         Geval("keeps its length", u"ßTEST"_s, u"ßtest"_s);
         Geval("accent", u"ÉÉN"_s, u"Één"_s);
         Geval("outside the code page", u"ωΩ"_s, u"ωΩ"_s);
@@ -110,6 +113,7 @@ private slots:
         QCOMPARE(bank.Script.Gezien.size(), 1);
         QCOMPARE(bank.Script.Gezien[0].Soort, Knoppen::Ok);
         QCOMPARE(bank.Script.Gezien[0].Plaatje, Icoon::Geen);
+        QCOMPARE(bank.Script.Gezien[0].Titel, u"Rasteratelier"_s);
         const QStringList regels = bank.Script.Gezien[0].Tekst.split(u"\r\n"_s);
         const QStringList verwacht{
             u"Bijzondere combinaties"_s,  u"-------------------------"_s, u"á  = Ctrl-Alt - a / 160"_s,
@@ -127,6 +131,9 @@ private slots:
         QCOMPARE(LetterVerschuiving(u'I'), 60);
         QCOMPARE(LetterVerschuiving(u'?'), 0);
         QCOMPARE(LetterVerschuiving(u'Q'), 0);
+        QCOMPARE(LetterVerschuiving(u'w'), 0); // small letters are none of them
+        QCOMPARE(LetterVerschuiving(u'i'), 0);
+        QCOMPARE(LetterVerschuiving(u'Ï'), 0);
     }
 };
 

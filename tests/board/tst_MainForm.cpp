@@ -421,6 +421,9 @@ private slots:
         QCoreApplication::processEvents();
         QVERIFY(klok.Caption().endsWith(u" / 17:00:00"_s));
         QCOMPARE(klok.geometry().right(), rechts); // it grows to the left, inside its frame
+        bord.Bank.TestKlok.ZetNu(QDateTime(QDate(2026, 3, 8), QTime(0, 0, 9)));
+        QCoreApplication::processEvents();
+        QCOMPARE(klok.Caption(), QLocale::system().toString(QDate(2026, 3, 8), QLocale::ShortFormat) + u" / 0:00:09"_s);
         QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
@@ -462,9 +465,12 @@ private slots:
     void escapeDoesNotCloseTheWindow()
     {
         Bord bord;
+        bord.InBewerking();
         bord.Venster.show();
+        const Stand ervoor = bord.Nu();
         QTest::keyClick(&bord.Venster, Qt::Key_Escape);
         QVERIFY(bord.Venster.isVisible());
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void whatTheKindsShow_data()
