@@ -337,6 +337,7 @@ private slots:
         for (const QString &tekst : {u"  een,  \"twee\" "_s, QString()}) {
             Ingesteld bord;
             PaginaTekst = tekst;
+            PuzzelGewijzigd = true;
             const Stand ervoor = bord.Nu();
             ConfigForm form;
             form.OkKnop->click();

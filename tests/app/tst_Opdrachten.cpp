@@ -615,8 +615,12 @@ private slots:
         KijkKlok klok([&] {
             QVERIFY(main.isVisible() && main.ExitKnop->isEnabled());
             plaatsen += main.ExitKnop->pos();
+            if (plaatsen.size() == 3) // what is so after the waits counts
+                PuzzelGewijzigd = true;
         });
+        programma.Scherm.Bank.Script.Antwoorden = {Antwoord::Ja};
         main.ExitKnop->click();
+        QCOMPARE(programma.Scherm.Bank.Script.Gezien.size(), 1);
         QVERIFY(!main.isVisible());
         QCOMPARE(klok.Wachttijden, (QList<double>{0.2, 0.2}));
         QCOMPARE(plaatsen, (QList<QPoint>{plaatsen[0], plaatsen[0] + QPoint(2, 2), plaatsen[0]}));

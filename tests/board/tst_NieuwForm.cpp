@@ -144,6 +144,9 @@ private slots:
         form.Combo2->setEditText(u" veel "_s);
         QCOMPARE(form.Label1->Caption(), u"Vakjes Horizontaal (9)"_s);
         QCOMPARE(form.Label2->Caption(), u"Vakjes Vertikaal ( veel )"_s); // as it stands there
+        form.Combo1->clearEditText();
+        form.Combo2->clearEditText();
+        QCOMPARE(form.Label1->Caption() + form.Label2->Caption(), u"Vakjes Horizontaal ()Vakjes Vertikaal ()"_s);
     }
 
     void theKindShowsItsPreviewAndFixesTheSize()
@@ -153,6 +156,7 @@ private slots:
         const bool vrij[] = {true, true, true, false, false};
         const QString plaatjes[]{u"soort-zweeds"_s, u"soort-woordzoeker"_s, u"soort-kruiswoord"_s, u"soort-sudoku"_s,
                                  u"soort-filippine"_s};
+        form.OkKnop->setFocus();
         for (int van = 0; van < AantalSoorten; ++van) {
             for (int naar = 0; naar < AantalSoorten; ++naar) {
                 form.Option[van]->click();
@@ -162,17 +166,21 @@ private slots:
                 QCOMPARE(form.Combo2->isEnabled(), vrij[naar]);
             }
         }
+        QCOMPARE(form.focusWidget(), form.OkKnop); // the choice by itself does not move it
     }
 
     void aNameOfBlanksOnlyGivesTheMessage_data()
     {
         QTest::addColumn<QString>("naam");
-        Geval("nothing", "");
-        Geval("blanks", "   ");
+        QTest::addColumn<QString>("breedte");
+        Geval("nothing", "", "12");
+        Geval("blanks", "   ", "12");
+        Geval("and no size", " ", "negen"); // which is not looked at yet
     }
     void aNameOfBlanksOnlyGivesTheMessage()
     {
         QFETCH(QString, naam);
+        QFETCH(QString, breedte);
         Bord bord;
         Vul(bord);
         PuzzelNaam = u"oud"_s;
@@ -181,12 +189,13 @@ private slots:
         form.show();
         form.activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(&form));
-        VulIn(form, naam, u"12"_s, u"14"_s, 3);
+        VulIn(form, naam, breedte, u"14"_s, 3);
         form.OkKnop->setFocus();
         form.OkKnop_Click();
         QCOMPARE(form.Text1->text(), naam); // the dialog stays as it is, too
         QVERIFY(form.Option[3]->isChecked());
-        QCOMPARE(form.Label1->Caption() + form.Label2->Caption(), u"Vakjes Horizontaal (12)Vakjes Vertikaal (14)"_s);
+        QCOMPARE(form.Label1->Caption() + form.Label2->Caption(),
+                 u"Vakjes Horizontaal (%1)Vakjes Vertikaal (14)"_s.arg(breedte));
         QCOMPARE(bord.Bank.Script.Gezien.size(), 1);
         QCOMPARE(bord.Bank.Script.Gezien[0].Tekst, u"Naam Puzzel invullen a.u.b. (Alleen letters a..z)"_s);
         QCOMPARE(bord.Bank.Script.Gezien[0].Titel, u"Rasteratelier"_s);
@@ -196,6 +205,10 @@ private slots:
         QVERIFY(form.Text1->hasFocus() && !form.Text1->hasSelectedText());
         QCOMPARE(bord.Veranderd(ervoor), QString());
         QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
+        form.OkKnop_Click(); // and so each time
+        QCOMPARE(bord.Bank.Script.Gezien.size(), 2);
+        QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.8);
+        QCOMPARE(bord.Veranderd(ervoor), QString());
     }
 
     void okStartsAnEmptyBoard_data()
@@ -346,8 +359,11 @@ private slots:
             NieuwForm form;
             VulIn(form, u"naam"_s, u"negen"_s, u"9"_s, optie); // what is no number is refused
             QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::TypeOnjuist));
+            QCOMPARE(PuzzelNaam, u"naam"_s); // the name is taken before
             VulIn(form, u"naam"_s, u"9"_s, u""_s, optie);
             QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::TypeOnjuist));
+            VulIn(form, u"naam"_s, u"99999999999"_s, u"9"_s, optie);
+            QCOMPARE(FoutVan([&] { form.OkKnop_Click(); }), int(Fout::Overloop));
             QCOMPARE(PuzzelType, Zweeds);
             VulIn(form, u"naam"_s, u"-5"_s, u"99999"_s, optie); // no such board has to be made
             form.OkKnop_Click();
@@ -391,6 +407,7 @@ private slots:
         const QString vol = u"Fout 7 bij 'Ok': Onvoldoende geheugen (een te grote afbeelding)."_s;
         Geval("word", "negen", "9", typen + u" (negen)."_s);
         Geval("word below", "9", "negen", typen + u" (negen)."_s);
+        Geval("two words", "negen", "tien", typen + u" (negen)."_s); // the first one is told
         Geval("empty", "", "9", typen + u'.');
         Geval("too large for a number", "99999999999", "9", overloop + u" (99999999999)."_s);
         Geval("negative", "-1", "9", negatief);
@@ -507,6 +524,7 @@ private slots:
         const Stand ervoor = bord.Nu();
         NieuwForm form;
         VulIn(form, u"naam"_s, u"12"_s, u"14"_s, 3);
+        QTest::keyClicks(form.Text1, u"typen"_s);
         form.CancelKnop->click();
         QVERIFY(form.Unloaded());
         QCOMPARE(bord.Bank.TestKlok.Gewacht(), 0.4);
