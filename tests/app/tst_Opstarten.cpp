@@ -25,7 +25,14 @@ private slots:
     {
         Start start;
         PuzzelType = Sudoku; // which has bands; it begins with a kind that has none
+        const Stand gemaakt = StandVan(start.Venster);
         LaadMain();
+        Stand geladen = StandVan(start.Venster);
+        const QStringList eigen =
+            u"BoardHeight BoardWidth KleurVakjes Orgineel PaginaTekst PijlSoort PuzzelType"_s.split(u' ');
+        for (const QString &naam : eigen)
+            geladen.remove(naam);
+        QCOMPARE(Verschil(gemaakt, geladen), u"Frame8 Pic PicGroot PicO PicR"_s); // the puzzle has no name yet
         QCOMPARE(Verschil(start.Venster.Pic->Image(), Raster(16, 19)), QString());
         QCOMPARE(Verschil(start.Venster.PicGroot->Image(), Tegels(start.Venster.PicVak->Image(), 16, 19)), QString());
         QCOMPARE(PuzzelType, Zweeds);
@@ -108,6 +115,12 @@ private slots:
         QFETCH(QByteArray, inhoud);
         Start start;
         start.Bank.Schrijf(u"Rasteratelier.ini"_s, inhoud);
+        BestandenSet rest; // of a save that was killed
+        QVERIFY(SterftBij(13, [&] {
+            for (const char *naam : {"/Puzzels/a.lst", "/Puzzels/a1.bmp", "/Puzzels/a2.bmp"})
+                rest.Zet(start.Bank.Map() + QLatin1String(naam), {"x"});
+            rest.PlaatsAlles();
+        }));
         QString tekst;
         try {
             LaadMain();
@@ -117,7 +130,8 @@ private slots:
         const QString pad = start.Bank.Map() + u"/Rasteratelier.ini"_s;
         QVERIFY2(tekst.endsWith(u" (het instellingenbestand "_s + pad + u')'), qPrintable(tekst));
         QCOMPARE(start.Instellingen(), inhoud);
-        QCOMPARE(OrgineelRood, qint16(230));                                // nothing half-read
+        QCOMPARE(start.Bank.Bestanden(u"Puzzels"_s), (QStringList{"a.lst", "a1.bmp", "a2.bmp"})); // finished before
+        QCOMPARE(OrgineelRood, qint16(230));                                                      // nothing half-read
         QCOMPARE(start.Venster.Pic->GetPixel(30, 15), qRgb(150, 150, 150)); // the board was there before
     }
 

@@ -55,6 +55,8 @@ Testbank::Testbank()
 
 Testbank::~Testbank()
 {
+    if (Zandloper())
+        QTest::qFail("de zandloper bleef staan", __FILE__, __LINE__);
     Klok::Gebruik(nullptr);
     Klok::ProgrammaEindigt(false);
     Berichten::Gebruik(nullptr);

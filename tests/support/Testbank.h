@@ -41,7 +41,8 @@ public:
 };
 
 /// What every test runs on: a fresh folder of the program (with a folder Puzzels) and a fresh home with a folder
-/// Pictures, a clock that doesn't wait, scripted messages. Made anew for each test function.
+/// Pictures, a clock that doesn't wait, scripted messages. Made anew for each test function. A test that leaves the
+/// hourglass behind fails.
 class Testbank
 {
 public:
