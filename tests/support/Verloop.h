@@ -32,6 +32,15 @@ public:
                          [this, &lijst] { Noteer(QStringLiteral("lijst ") + lijst.Items().join(u' ')); });
     }
 
+    /// Closes a window in the wait that is the step of this number, from 1.
+    void SluitBijStap(qsizetype stap, QWidget &venster)
+    {
+        Bijwerk = [this, stap, &venster] {
+            if (Stappen.size() == stap)
+                venster.close();
+        };
+    }
+
     void Slaap(double seconden, QEventLoop::ProcessEventsFlags welke) override
     {
         const bool zonderInvoer = welke.testFlag(QEventLoop::ExcludeUserInputEvents);

@@ -546,10 +546,7 @@ private slots:
             form.Text2->setText(u"Dieren"_s);
             form.show();
             Verloop verloop;
-            verloop.Bijwerk = [&] {
-                if (verloop.Stappen.size() == wacht)
-                    form.close();
-            };
+            verloop.SluitBijStap(wacht, form);
             form.SaveKnop->click();
             QCOMPARE(verloop.Stappen.size(), wacht);
             QCOMPARE(bord.Lijsten(), QStringList());

@@ -221,10 +221,7 @@ private slots:
             form.Text1->setText(u"kat"_s);
             form.show();
             Verloop verloop;
-            verloop.Bijwerk = [&] {
-                if (verloop.Stappen.size() == wacht)
-                    form.close();
-            };
+            verloop.SluitBijStap(wacht, form);
             form.OkKnop->click();
             QCOMPARE(verloop.Stappen.size(), wacht);
             QCOMPARE(Woorden(form), QString());

@@ -402,10 +402,7 @@ private slots:
             form.HScroll1->setValue(3);
             form.show();
             Verloop verloop;
-            verloop.Bijwerk = [&] {
-                if (verloop.Stappen.size() == wacht)
-                    form.close();
-            };
+            verloop.SluitBijStap(wacht, form);
             form.OkKnop->click();
             QCOMPARE(verloop.Stappen.size(), wacht);
             QCOMPARE(form.List1->Items(), QStringList());
