@@ -4,7 +4,7 @@
 
 using namespace Qt::StringLiterals;
 
-int TekstRegels(const TextBox &box, QStringList &regels)
+int TekstRegels(TextBox &box, QStringList &regels)
 {
     const int n = box.LineCount();
     const QString tekst = box.Text();

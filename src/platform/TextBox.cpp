@@ -89,12 +89,12 @@ void TextBox::inputMethodEvent(QInputMethodEvent *event)
     QTextEdit::inputMethodEvent(event);
 }
 
-int TextBox::LineCount() const
+int TextBox::LineCount()
 {
     return Lines().back() + 1;
 }
 
-int TextBox::LineFromChar(qsizetype index) const
+int TextBox::LineFromChar(qsizetype index)
 {
     const std::vector<int> &lines = Lines();
     return lines[static_cast<std::size_t>(std::clamp<qsizetype>(index, 0, static_cast<qsizetype>(lines.size()) - 1))];
@@ -113,13 +113,13 @@ void TextBox::changeEvent(QEvent *event)
         lineOfChar_.clear();
 }
 
-const std::vector<int> &TextBox::Lines() const
+const std::vector<int> &TextBox::Lines()
 {
     // Wrapping is fixed to the box's width here, so that a box that was never shown wraps like the one on the screen.
     const bool hasBar = verticalScrollBarPolicy() == Qt::ScrollBarAlwaysOn;
     const int width = this->width() - 2 * frameWidth() - (hasBar ? barWidth_ : 0);
     if (wrapWidth_ != width) {
-        const_cast<TextBox *>(this)->setLineWrapColumnOrWidth(width);
+        setLineWrapColumnOrWidth(width);
         wrapWidth_ = width;
         lineOfChar_.clear();
     }

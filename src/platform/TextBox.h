@@ -20,9 +20,9 @@ public:
     /// A text in the place of what is there, cut off at MaxLength. Every kind of line end becomes CR LF.
     void SetText(const QString &tekst);
 
-    int LineCount() const; ///< lines as displayed; 1 for an empty box
+    int LineCount(); ///< lines as displayed; 1 for an empty box
     /// The line, from 0, that displays the character at this index (0 up to the length of the text).
-    int LineFromChar(qsizetype index) const;
+    int LineFromChar(qsizetype index);
 
 protected:
     void insertFromMimeData(const QMimeData *source) override;
@@ -33,9 +33,9 @@ protected:
 
 private:
     qsizetype Room() const; ///< for characters in place of the selection
-    const std::vector<int> &Lines() const;
+    const std::vector<int> &Lines();
 
-    int barWidth_;                        ///< of the scroll bar beside the text, where there is one
-    mutable std::vector<int> lineOfChar_; ///< of each character, and of the end of the text; empty when not known
-    mutable int wrapWidth_ = -1;          ///< the width that the text is wrapped at
+    int barWidth_;                ///< of the scroll bar beside the text, where there is one
+    std::vector<int> lineOfChar_; ///< of each character, and of the end of the text; empty when not known
+    int wrapWidth_ = -1;          ///< the width that the text is wrapped at
 };

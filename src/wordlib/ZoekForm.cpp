@@ -44,22 +44,7 @@ ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100,
     QMenu *bestand = MaakMenu("Bestand", u"Bestand"_s);
     FilePrint = MaakItem(*bestand, "FilePrint", u"Lijst afdrukken"_s);
     PasOpScherm();
-
-    Zet(List1, 210, 210, 3000, 3660);
-    Zet(Label5, 240, 3900);
-    Zet(Text1, 3450, 300, 3390, 360);
-    Zet(Label4, 6990, 360);
-    Zet(Label3, 3510, 750, 3300, 1500);
-    for (int i = 0; i < Option1.size(); ++i) {
-        Option1[i]->setObjectName(u"Option1(%1)"_s.arg(i));
-        Zet(Option1[i], 3600, 1800 + 300 * i, 3450, 300);
-    }
-    Zet(Picture1, 990, 1770, 1440, 450);
-    Zet(Label1, 3450, 3480, 1200, 390);
-    Zet(Knop, 3480, 3510, 1140, 330);
-    Zet(ExportKnop, 7800, 3810, 810, 330);
-    Zet(Label7, 5430, 3870);
-    Zet(Image1, 7050, 1950, 1680, 1680);
+    Schik();
 
     Kleur(List1, RGB(30, 0, 0), RGB(230, 230, 230));
     List1->Sorted = true;
@@ -85,6 +70,25 @@ ZoekForm::ZoekForm() : Form(u"ZoekForm"_s, u"Database doorzoeken"_s, 9000, 5100,
     LaadDatabase();
     Main().Label2->hide();
     Screen::MousePointer(Screen::Own);
+}
+
+void ZoekForm::Schik()
+{
+    Zet(List1, 210, 210, 3000, 3660);
+    Zet(Label5, 240, 3900);
+    Zet(Text1, 3450, 300, 3390, 360);
+    Zet(Label4, 6990, 360);
+    Zet(Label3, 3510, 750, 3300, 1500);
+    for (int i = 0; i < Option1.size(); ++i) {
+        Option1[i]->setObjectName(u"Option1(%1)"_s.arg(i));
+        Zet(Option1[i], 3600, 1800 + 300 * i, 3450, 300);
+    }
+    Zet(Picture1, 990, 1770, 1440, 450);
+    Zet(Label1, 3450, 3480, 1200, 390);
+    Zet(Knop, 3480, 3510, 1140, 330);
+    Zet(ExportKnop, 7800, 3810, 810, 330);
+    Zet(Label7, 5430, 3870);
+    Zet(Image1, 7050, 1950, 1680, 1680);
 }
 
 void ZoekForm::LaadDatabase()

@@ -50,6 +50,7 @@ public:
     std::vector<qint32> WordHash; ///< no search reads it
 
 private:
+    void Schik();
     void ToonGevonden();
     /// Runs a search and lists what it finds, also what it found before it failed.
     void Lijst(const std::function<void(const Vondst &)> &zoek);

@@ -50,7 +50,7 @@ static QString LangeTekst()
 }
 
 /// The text as the box displays it, line by line.
-static QStringList Regels(const TextBox &box)
+static QStringList Regels(TextBox &box)
 {
     QStringList regels;
     const QString tekst = box.Text();
@@ -62,7 +62,7 @@ static QStringList Regels(const TextBox &box)
     return regels;
 }
 
-static QList<int> RegelPerTeken(const TextBox &box)
+static QList<int> RegelPerTeken(TextBox &box)
 {
     QList<int> regels;
     const qsizetype lengte = box.Text().size();
